@@ -1,0 +1,30 @@
+#pragma once
+
+#include <OpenSG/OSGBaseTypes.h>
+
+#include <cstddef>
+#include <vector>
+
+OSG_BEGIN_NAMESPACE
+
+/// A growing block of bytes that fields are written to and, in the same order, read from.
+/// Numbers keep the byte order of the machine.
+class BinaryDataHandler
+{
+public:
+    void put(const void *source, std::size_t size);
+    /// Reading beyond the end gives zeros.
+    void get(void *target, std::size_t size);
+
+    template <class T> void putValue(const T &value) { put(&value, sizeof(T)); }
+    template <class T> void getValue(T &value) { get(&value, sizeof(T)); }
+
+    /// Bytes written so far.
+    std::size_t getSize() const { return _bytes.size(); }
+
+private:
+    std::vector<UInt8> _bytes;
+    std::size_t _readPosition = 0;
+};
+
+OSG_END_NAMESPACE

@@ -1,0 +1,25 @@
+#pragma once
+
+/// Namespace and version macros; every other header includes this one first.
+
+namespace osg {
+}
+
+#define OSG osg
+
+#define OSG_BEGIN_NAMESPACE namespace osg {
+#define OSG_END_NAMESPACE }
+#define OSG_USING_NAMESPACE using namespace osg;
+
+#define OSG_VERSION 0x010800
+#define OSG_MAJOR_VERSION 1
+#define OSG_MINOR_VERSION 8
+#define OSG_RELEASE_VERSION 0
+
+#define OSG_NUM_ASPECTS 2
+
+// Everything is exported by default visibility; client classes still spell the decorations.
+#define OSG_BASE_DLLMAPPING
+#define OSG_SYSTEMLIB_DLLMAPPING
+#define OSG_BASE_DLLTMPLMAPPING
+#define OSG_SYSTEMLIB_DLLTMPLMAPPING

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <OpenSG/OSGTypeBase.h>
+
+OSG_BEGIN_NAMESPACE
+
+/// Type of what a field holds, or of a container.
+class DataType : public TypeBase
+{
+public:
+    using TypeBase::TypeBase;
+};
+
+OSG_END_NAMESPACE

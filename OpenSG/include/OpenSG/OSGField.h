@@ -1,0 +1,55 @@
+#pragma once
+
+#include <OpenSG/OSGFieldType.h>
+
+#include <string>
+
+OSG_BEGIN_NAMESPACE
+
+class FieldContainerPtr;
+class StringConversionStateBase;
+
+/// A value, or a list of them, that can be read and written without knowing its C++ type.
+class Field
+{
+public:
+    virtual ~Field() = default;
+
+    virtual const FieldType &getType() const = 0;
+    const DataType &getContentType() const { return getType().getContentType(); }
+    FieldType::Cardinality getCardinality() const { return getType().getCardinality(); }
+
+    /// A single field is never empty and has size 1.
+    virtual bool isEmpty() const = 0;
+    virtual UInt32 getSize() const = 0;
+
+    /// Replaces the value of a single field, appends one value to a multi-field. A text that
+    /// does not parse is not reported: the type's reader decides what becomes of it.
+    virtual void pushValueByStr(const Char8 *str) = 0;
+
+    /// All return `str`. A single field replaces it, a multi-field appends; the form with a
+    /// conversion state always appends. A type without text form leaves it alone.
+    virtual std::string &getValueByStr(std::string &str) const = 0;
+    virtual std::string &getValueByStr(
+        std::string &str, StringConversionStateBase &state) const = 0;
+    virtual std::string &getValueByStr(std::string &str, UInt32 index) const = 0;
+
+    /// Copies `obj` if it is of the very same field type, else does nothing.
+    virtual void setAbstrValue(const Field &obj) = 0;
+    virtual void dump() const = 0;
+
+    /// The container that the pointer at `index` refers to, whatever the type of its handle; the
+    /// null handle for a field of values and for an index out of range.
+    virtual FieldContainerPtr getFieldContainer(UInt32 index = 0) const;
+
+protected:
+    Field() = default;
+    Field(const Field &) = default;
+    Field &operator=(const Field &) = default;
+
+    /// The handle at `index` seen as its base class; NULL where there is none.
+    virtual const FieldContainerPtr *findHandle(UInt32 index) const;
+    void dumpText() const;
+};
+
+OSG_END_NAMESPACE

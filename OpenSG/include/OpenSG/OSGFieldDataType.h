@@ -1,0 +1,168 @@
+#pragma once
+
+#include <OpenSG/OSGBinaryDataHandler.h>
+#include <OpenSG/OSGDataType.h>
+
+#include <string>
+#include <type_traits>
+
+OSG_BEGIN_NAMESPACE
+
+/// A type can be stored in fields when one of these three is specialised for it. The second and
+/// third serve types that are the same C++ type as another (Time and Real64). A specialisation
+/// derives from one of the bases below and provides
+///   static DataType _type;  static DataType &getType();   the content type, defined once
+///   enum { StringConvertable = ... };                      which of the two text forms exist
+///   static const Char8 *getSName(), *getMName();           names of the two field types
+///   static bool getFromString(T &outVal, const Char8 *&inVal);
+///   static void putToString(const T &inVal, std::string &outStr);   assigns, never appends
+///   static T getDefault();
+template <class T> struct FieldDataTraits;
+template <class T> struct FieldDataTraits1;
+template <class T> struct FieldDataTraits2;
+
+/// Finds the traits of the type T in the name space ns.
+template <class T, Int32 ns> struct FieldTraitsSelector;
+template <class T> struct FieldTraitsSelector<T, 0>
+{
+    typedef FieldDataTraits<T> Traits;
+};
+template <class T> struct FieldTraitsSelector<T, 1>
+{
+    typedef FieldDataTraits1<T> Traits;
+};
+template <class T> struct FieldTraitsSelector<T, 2>
+{
+    typedef FieldDataTraits2<T> Traits;
+};
+
+struct FieldTraits
+{
+    enum { ToStringConvertable = 0x01, FromStringConvertable = 0x02 };
+    enum { bHasParent = 0x00 };
+
+    static const Char8 *getPName() { return "Field"; }
+};
+
+/// The binary form of several objects, one after the other, by the form of one.
+template <class T, class OneObject> struct FieldTraitsList : FieldTraits
+{
+    static UInt32 getBinSize(const T *objects, UInt32 count)
+    {
+        UInt32 size = 0;
+        for (UInt32 i = 0; i < count; ++i) {
+            size += OneObject::getBinSize(objects[i]);
+        }
+        return size;
+    }
+    static void copyToBin(BinaryDataHandler &target, const T *objects, UInt32 count)
+    {
+        for (UInt32 i = 0; i < count; ++i) {
+            OneObject::copyToBin(target, objects[i]);
+        }
+    }
+    static void copyFromBin(BinaryDataHandler &source, T *objects, UInt32 count)
+    {
+        for (UInt32 i = 0; i < count; ++i) {
+            OneObject::copyFromBin(source, objects[i]);
+        }
+    }
+};
+
+/// Base of a type whose binary form is its text, closed by a zero byte.
+template <class T> struct FieldTraitsRecurseBase : FieldTraitsList<T, FieldTraitsRecurseBase<T>>
+{
+    typedef const T &ArgumentType;
+    typedef FieldTraitsList<T, FieldTraitsRecurseBase<T>> Lists;
+    using Lists::copyFromBin;
+    using Lists::copyToBin;
+    using Lists::getBinSize;
+
+    static UInt32 getBinSize(const T &object)
+    {
+        return static_cast<UInt32>(text(object).size() + 1);
+    }
+    static void copyToBin(BinaryDataHandler &target, const T &object)
+    {
+        const std::string form = text(object);
+        target.put(form.c_str(), form.size() + 1);
+    }
+    static void copyFromBin(BinaryDataHandler &source, T &object)
+    {
+        std::string form;
+        Char8 character = 0;
+        for (source.getValue(character); character != 0; source.getValue(character)) {
+            form += character;
+        }
+        const Char8 *cursor = form.c_str();
+        FieldDataTraits<T>::getFromString(object, cursor);
+    }
+
+private:
+    static std::string text(const T &object)
+    {
+        std::string form;
+        FieldDataTraits<T>::putToString(object, form);
+        return form;
+    }
+};
+
+/// Base of a plain number: its bytes are its binary form and it is passed by value.
+template <class T> struct FieldTraitsIntegralRecurseMapper : FieldTraits
+{
+    static_assert(std::is_trivially_copyable_v<T>);
+    typedef T ArgumentType;
+
+    static UInt32 getBinSize(const T &) { return sizeof(T); }
+    static void copyToBin(BinaryDataHandler &target, const T &object) { target.putValue(object); }
+    static void copyFromBin(BinaryDataHandler &source, T &object) { source.getValue(object); }
+
+    static UInt32 getBinSize(const T *, UInt32 count)
+    {
+        return static_cast<UInt32>(sizeof(T) * count);
+    }
+    static void copyToBin(BinaryDataHandler &target, const T *objects, UInt32 count)
+    {
+        target.put(objects, sizeof(T) * count);
+    }
+    static void copyFromBin(BinaryDataHandler &source, T *objects, UInt32 count)
+    {
+        source.get(objects, sizeof(T) * count);
+    }
+};
+
+/// Base of a type whose binary form is that of its `T::Inherited`: a handle is written as its
+/// base handle is. Without `forwards` the type has no binary form.
+template <class T, bool forwards = false> struct FieldTraitsRecurseMapper : FieldTraits
+{
+    typedef const T &ArgumentType;
+};
+
+template <class T>
+struct FieldTraitsRecurseMapper<T, true> : FieldTraitsList<T, FieldTraitsRecurseMapper<T, true>>
+{
+    typedef const T &ArgumentType;
+    typedef FieldTraitsList<T, FieldTraitsRecurseMapper<T, true>> Lists;
+    using Lists::copyFromBin;
+    using Lists::copyToBin;
+    using Lists::getBinSize;
+
+    static UInt32 getBinSize(const T &object)
+    {
+        return FieldDataTraits<typename T::Inherited>::getBinSize(object);
+    }
+    static void copyToBin(BinaryDataHandler &target, const T &object)
+    {
+        FieldDataTraits<typename T::Inherited>::copyToBin(target, object);
+    }
+    static void copyFromBin(BinaryDataHandler &source, T &object)
+    {
+        FieldDataTraits<typename T::Inherited>::copyFromBin(source, object);
+    }
+};
+
+OSG_END_NAMESPACE
+
+// Client headers announce their field types with these; nothing needs announcing here.
+#define OSG_DLLEXPORT_DECL1(FieldTemplate, Type, mapping)
+#define OSG_DLLEXPORT_DECL2(FieldTemplate, Type, nameSpace, mapping)

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <OpenSG/OSGBaseTypes.h>
+
+#include <fstream>
+#include <streambuf>
+#include <string>
+
+OSG_BEGIN_NAMESPACE
+
+enum LogType { LOG_NONE = 0, LOG_STDOUT = 1, LOG_STDERR = 2, LOG_FILE = 3, LOG_BUFFER = 4 };
+
+/// Where the log's characters go. Nothing is held back: text appears as it is written.
+class LogBuf : public std::streambuf
+{
+public:
+    /// `data` is not terminated by a zero.
+    typedef void (*Callback)(const Char8 *data, Int32 size, void *clientData);
+
+    void setType(LogType type) { _type = type; }
+    LogType getType() const { return _type; }
+    /// Opens the file that LOG_FILE writes to; NULL closes it.
+    void setFile(const Char8 *fileName);
+
+    /// The receiver of what is written under LOG_BUFFER. What came while there was none is
+    /// kept, and handed over now if `flushData`; without it that text is dropped.
+    void setCallback(Callback callback, void *clientData = nullptr, bool flushData = false);
+
+protected:
+    int_type overflow(int_type character) override;
+    std::streamsize xsputn(const char *data, std::streamsize size) override;
+    int sync() override;
+
+private:
+    void writeBuffer(const char *data, std::streamsize size);
+
+    LogType _type = LOG_STDERR;
+    std::ofstream _file;
+    Callback _callback = nullptr;
+    void *_clientData = nullptr;
+    std::string _kept;
+};
+
+OSG_END_NAMESPACE

@@ -1,0 +1,100 @@
+#include <OpenSG/OSGNumberText.h>
+
+#include <charconv>
+#include <cstdlib>
+#include <cstring>
+#include <locale.h>
+
+OSG_BEGIN_NAMESPACE
+
+namespace NumberText {
+
+namespace {
+
+locale_t classicLocale()
+{
+    static const locale_t locale = newlocale(LC_ALL_MASK, "C", nullptr);
+    return locale;
+}
+
+// The longest is a long double such as -1.234567e+4932.
+constexpr int longestNumber = 32;
+
+template <class... Format> void appendChars(std::string &out, Format... format)
+{
+    char text[longestNumber];
+    out.append(text, std::to_chars(text, text + longestNumber, format...).ptr);
+}
+
+constexpr int decimals = 6;
+
+} // namespace
+
+std::int64_t readSigned(const char *text)
+{
+    return strtoll_l(text, nullptr, 0, classicLocale());
+}
+
+std::uint64_t readUnsigned(const char *text)
+{
+    return strtoull_l(text, nullptr, 0, classicLocale());
+}
+
+void readReal(const char *text, float &value)
+{
+    value = strtof_l(text, nullptr, classicLocale());
+}
+
+void readReal(const char *text, double &value)
+{
+    value = strtod_l(text, nullptr, classicLocale());
+}
+
+void readReal(const char *text, long double &value)
+{
+    value = strtold_l(text, nullptr, classicLocale());
+}
+
+void append(std::string &out, float value)
+{
+    appendChars(out, value, std::chars_format::scientific, decimals);
+}
+
+void append(std::string &out, double value)
+{
+    appendChars(out, value, std::chars_format::scientific, decimals);
+}
+
+void append(std::string &out, long double value)
+{
+    appendChars(out, value, std::chars_format::scientific, decimals);
+}
+
+void append(std::string &out, std::int64_t value)
+{
+    appendChars(out, value);
+}
+
+void append(std::string &out, std::uint64_t value)
+{
+    appendChars(out, value);
+}
+
+Tokens::Tokens(const char *text, const char *separatorCharacters)
+    : _rest(text ? text : "")
+    , _separators(separatorCharacters)
+{
+}
+
+bool Tokens::next()
+{
+    _rest += std::strspn(_rest, _separators);
+    const std::size_t length = std::strcspn(_rest, _separators);
+    _token.assign(_rest, length);
+    _rest += length;
+    return length > 0;
+}
+
+} // namespace NumberText
+
+OSG_END_NAMESPACE
