@@ -1,0 +1,178 @@
+#include <QKAVODockWindowManager.h>
+
+#include <kavoLog.h>
+
+#include <qtadvanceddocking/DockAreaWidget.h>
+#include <qtadvanceddocking/DockManager.h>
+#include <qtadvanceddocking/DockWidget.h>
+#include <qtadvanceddocking/DockWidgetTab.h>
+
+#include <QAction>
+#include <QDataStream>
+#include <QMainWindow>
+#include <QMenu>
+
+namespace {
+
+ads::DockWidgetArea sideOf(Qt::DockWidgetArea area)
+{
+    switch (area) {
+    case Qt::LeftDockWidgetArea:
+        return ads::LeftDockWidgetArea;
+    case Qt::TopDockWidgetArea:
+        return ads::TopDockWidgetArea;
+    case Qt::BottomDockWidgetArea:
+        return ads::BottomDockWidgetArea;
+    default:
+        return ads::RightDockWidgetArea;
+    }
+}
+
+QString areaName(const QString &group, Qt::DockWidgetArea area)
+{
+    return QStringLiteral("%1/%2").arg(group).arg(sideOf(area));
+}
+
+ads::CDockManager *createDocks(QMainWindow *mainWindow)
+{
+    ads::CDockManager::setConfigFlags(ads::CDockManager::DefaultOpaqueConfig);
+    ads::CDockManager::setConfigFlag(ads::CDockManager::FocusHighlighting);
+    ads::CDockManager::setConfigFlag(ads::CDockManager::DockAreaHasCloseButton, false);
+    ads::CDockManager::setConfigFlag(ads::CDockManager::AlwaysShowTabs);
+    return new ads::CDockManager(mainWindow);
+}
+
+}
+
+QKAVODockWindowManager::QKAVODockWindowManager(QMainWindow *mainWindow)
+    : QObject(mainWindow)
+    , m_docks(createDocks(mainWindow))
+{
+}
+
+QKAVODockWindowManager::~QKAVODockWindowManager() = default;
+
+void QKAVODockWindowManager::add(const char *key, const QString &group, QWidget *widget,
+    const QString &hintKey, const QIcon &icon, const QString &title, Qt::DockWidgetArea area,
+    bool visible, QMenu *menu)
+{
+    const QString name = QString::fromUtf8(key);
+    if (m_windows.contains(name)) {
+        kavoLog::error("A window is already docked under the key '%s'", key);
+        return;
+    }
+    auto *dock = new ads::CDockWidget(title);
+    dock->setObjectName(name);
+    dock->setWidget(widget, ads::CDockWidget::ForceNoScrollArea);
+    dock->setIcon(icon);
+    connect(widget, &QWidget::windowTitleChanged, dock->tabWidget(), &QWidget::setToolTip);
+    connect(widget, &QObject::destroyed, this, [this, name] { remove(name); });
+    if (menu)
+        menu->addAction(dock->toggleViewAction());
+    m_keys.append(name);
+    place(m_windows[name] = { dock, widget, group, hintKey, area, visible });
+    emit windowsChanged();
+}
+
+QStringList QKAVODockWindowManager::keys() const
+{
+    return m_keys;
+}
+
+QWidget *QKAVODockWindowManager::window(const QString &key) const
+{
+    return m_windows.contains(key) ? m_windows[key].widget : nullptr;
+}
+
+QString QKAVODockWindowManager::group(const QString &key) const
+{
+    return m_windows.contains(key) ? m_windows[key].group : QString();
+}
+
+QString QKAVODockWindowManager::hintKey(const QString &key) const
+{
+    return m_windows.contains(key) ? m_windows[key].hintKey : QString();
+}
+
+QAction *QKAVODockWindowManager::toggleAction(const QString &key) const
+{
+    return m_windows.contains(key) ? m_windows[key].dock->toggleViewAction() : nullptr;
+}
+
+void QKAVODockWindowManager::show(const QString &key)
+{
+    if (!m_windows.contains(key))
+        return;
+    m_windows[key].dock->toggleView(true);
+    m_windows[key].dock->raise();
+}
+
+bool QKAVODockWindowManager::areTabbed(const QString &key, const QString &otherKey) const
+{
+    if (!m_windows.contains(key) || !m_windows.contains(otherKey))
+        return false;
+    const ads::CDockAreaWidget *area = m_windows[key].dock->dockAreaWidget();
+    return area && area == m_windows[otherKey].dock->dockAreaWidget();
+}
+
+QByteArray QKAVODockWindowManager::saveState() const
+{
+    QByteArray state;
+    QDataStream stream(&state, QIODevice::WriteOnly);
+    stream << m_keys << m_docks->saveState();
+    return state;
+}
+
+bool QKAVODockWindowManager::restoreState(const QByteArray &state)
+{
+    QDataStream stream(state);
+    QStringList knownKeys;
+    QByteArray places;
+    stream >> knownKeys >> places;
+    if (stream.status() != QDataStream::Ok || !m_docks->restoreState(places))
+        return false;
+    for (const QString &key : qAsConst(m_keys)) {
+        if (!knownKeys.contains(key))
+            place(m_windows[key]);
+    }
+    return true;
+}
+
+void QKAVODockWindowManager::resetLayout()
+{
+    m_firstOfArea.clear();
+    for (const QString &key : qAsConst(m_keys))
+        place(m_windows[key]);
+}
+
+void QKAVODockWindowManager::hideAll()
+{
+    m_docks->hideManagerAndFloatingWidgets();
+}
+
+// The first window of an area keeps its tab in front when others join it.
+void QKAVODockWindowManager::place(const Window &window)
+{
+    ads::CDockWidget *&first = m_firstOfArea[areaName(window.group, window.area)];
+    if (first && first->dockAreaWidget()) {
+        m_docks->addDockWidgetTabToArea(window.dock, first->dockAreaWidget());
+        first->setAsCurrentTab();
+    } else {
+        m_docks->addDockWidget(sideOf(window.area), window.dock);
+        first = window.dock;
+    }
+    window.dock->toggleView(window.visible);
+}
+
+// Runs inside the widget's destructor: the dock goes later, when the widget is no child of it.
+void QKAVODockWindowManager::remove(const QString &key)
+{
+    const Window window = m_windows.take(key);
+    m_keys.removeAll(key);
+    const QString area = areaName(window.group, window.area);
+    if (m_firstOfArea.value(area) == window.dock)
+        m_firstOfArea.remove(area);
+    m_docks->removeDockWidget(window.dock);
+    window.dock->deleteLater();
+    emit windowsChanged();
+}
