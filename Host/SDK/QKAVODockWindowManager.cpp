@@ -119,18 +119,19 @@ QByteArray QKAVODockWindowManager::saveState() const
 {
     QByteArray state;
     QDataStream stream(&state, QIODevice::WriteOnly);
-    stream << m_keys << m_docks->saveState();
+    stream << m_keys.join('\n') << m_docks->saveState();
     return state;
 }
 
 bool QKAVODockWindowManager::restoreState(const QByteArray &state)
 {
     QDataStream stream(state);
-    QStringList knownKeys;
+    QString keys;
     QByteArray places;
-    stream >> knownKeys >> places;
+    stream >> keys >> places;
     if (stream.status() != QDataStream::Ok || !m_docks->restoreState(places))
         return false;
+    const QStringList knownKeys = keys.split('\n');
     for (const QString &key : qAsConst(m_keys)) {
         if (!knownKeys.contains(key))
             place(m_windows[key]);
@@ -156,12 +157,12 @@ void QKAVODockWindowManager::place(const Window &window)
     ads::CDockWidget *&first = m_firstOfArea[areaName(window.group, window.area)];
     if (first && first->dockAreaWidget()) {
         m_docks->addDockWidgetTabToArea(window.dock, first->dockAreaWidget());
-        first->setAsCurrentTab();
     } else {
         m_docks->addDockWidget(sideOf(window.area), window.dock);
         first = window.dock;
     }
     window.dock->toggleView(window.visible);
+    first->setAsCurrentTab();
 }
 
 // Runs inside the widget's destructor: the dock goes later, when the widget is no child of it.
