@@ -23,6 +23,10 @@ void readReal(const char *text, float &value);
 void readReal(const char *text, double &value);
 void readReal(const char *text, long double &value);
 
+/// Reads numbers up to the first thing that is none and returns how many there were, `count` at
+/// most; brackets and commas count as blanks.
+unsigned readReals(std::string text, float *values, unsigned count);
+
 /// Reals with six decimals and an exponent (`1.500000e+00`), integers in plain decimal.
 void append(std::string &out, float value);
 void append(std::string &out, double value);

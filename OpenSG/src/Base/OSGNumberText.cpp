@@ -1,5 +1,6 @@
 #include <OpenSG/OSGNumberText.h>
 
+#include <algorithm>
 #include <charconv>
 #include <cstdlib>
 #include <cstring>
@@ -53,6 +54,22 @@ void readReal(const char *text, double &value)
 void readReal(const char *text, long double &value)
 {
     value = strtold_l(text, nullptr, classicLocale());
+}
+
+unsigned readReals(std::string text, float *values, unsigned count)
+{
+    const auto isBracketOrComma = [](char c) { return std::strchr("[](){},", c) && c != 0; };
+    std::replace_if(text.begin(), text.end(), isBracketOrComma, ' ');
+    const char *rest = text.c_str();
+    for (unsigned i = 0; i < count; ++i) {
+        char *end = nullptr;
+        values[i] = strtof_l(rest, &end, classicLocale());
+        if (end == rest) {
+            return i;
+        }
+        rest = end;
+    }
+    return count;
 }
 
 void append(std::string &out, float value)

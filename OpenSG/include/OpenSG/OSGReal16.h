@@ -1,0 +1,23 @@
+#pragma once
+
+#include <OpenSG/OSGBaseTypes.h>
+
+OSG_BEGIN_NAMESPACE
+
+/// A real of 16 bits (1 sign, 5 exponent, 10 mantissa) for compact arrays; arithmetic happens in
+/// Real32. Conversion rounds to nearest; what is too large becomes infinite.
+class Real16
+{
+public:
+    Real16() = default;
+    Real16(Real32 value);
+
+    operator Real32() const;
+
+    UInt16 bits() const { return _bits; }
+
+private:
+    UInt16 _bits = 0;
+};
+
+OSG_END_NAMESPACE

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <OpenSG/OSGBaseTypes.h>
+
+OSG_BEGIN_NAMESPACE
+
+/// Seconds.
+typedef Real64 Time;
+
+/// Seconds since the epoch, with the resolution of the system's clock.
+Time getSystemTime();
+
+OSG_END_NAMESPACE
