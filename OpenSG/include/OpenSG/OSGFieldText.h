@@ -12,21 +12,24 @@ namespace FieldText {
 void reportNoWriter();
 void reportNoReader();
 
-/// Assigns the text to `out`; without a text form logs a line and returns false.
-template <class Traits, class T> bool write(const T &value, std::string &out)
+template <class Traits>
+constexpr bool isWritable = (Traits::StringConvertable & FieldTraits::ToStringConvertable) != 0;
+template <class Traits>
+constexpr bool isReadable = (Traits::StringConvertable & FieldTraits::FromStringConvertable) != 0;
+
+/// Assigns the text to `out`; without a text form logs a line and leaves `out` alone.
+template <class Traits, class T> void write(const T &value, std::string &out)
 {
-    if constexpr ((Traits::StringConvertable & FieldTraits::ToStringConvertable) != 0) {
+    if constexpr (isWritable<Traits>) {
         Traits::putToString(value, out);
-        return true;
     } else {
         reportNoWriter();
-        return false;
     }
 }
 
 template <class Traits, class T> void read(T &value, const Char8 *str)
 {
-    if constexpr ((Traits::StringConvertable & FieldTraits::FromStringConvertable) != 0) {
+    if constexpr (isReadable<Traits>) {
         Traits::getFromString(value, str);
     } else {
         reportNoReader();

@@ -128,14 +128,12 @@ void MField<FieldTypeT, fieldNameSpace>::pushValueByStr(const Char8 *str)
 template <class FieldTypeT, Int32 fieldNameSpace>
 std::string &MField<FieldTypeT, fieldNameSpace>::getValueByStr(std::string &str) const
 {
-    std::string text;
-    const char *separator = "";
-    for (const auto &value : _values) {
-        if (!FieldText::write<MFieldTraits, FieldTypeT>(value, text)) {
-            break;
+    if constexpr (FieldText::isWritable<MFieldTraits>) {
+        for (UInt32 i = 0; i < size(); ++i) {
+            getValueByStr(str.append(i > 0 ? ", " : ""), i);
         }
-        str.append(separator).append(text);
-        separator = ", ";
+    } else {
+        FieldText::reportNoWriter();
     }
     return str;
 }
@@ -144,21 +142,25 @@ template <class FieldTypeT, Int32 fieldNameSpace>
 std::string &MField<FieldTypeT, fieldNameSpace>::getValueByStr(
     std::string &str, StringConversionStateBase &state) const
 {
-    state.beginField(this, str);
-    std::string text;
-    for (const auto &value : _values) {
-        if (FieldText::write<MFieldTraits, FieldTypeT>(value, text)) {
-            state.addValueStr(text, str);
+    if constexpr (FieldText::isWritable<MFieldTraits>) {
+        state.beginField(this, str);
+        for (UInt32 i = 0; i < size(); ++i) {
+            std::string text;
+            state.addValueStr(getValueByStr(text, i), str);
         }
+        state.endField(this, str);
+    } else {
+        FieldText::reportNoWriter();
     }
-    return state.endField(this, str);
+    return str;
 }
 
 template <class FieldTypeT, Int32 fieldNameSpace>
 std::string &MField<FieldTypeT, fieldNameSpace>::getValueByStr(std::string &str, UInt32 index) const
 {
-    std::string text;
-    if (index < size() && FieldText::write<MFieldTraits, FieldTypeT>(_values[index], text)) {
+    if (index < size()) {
+        std::string text;
+        FieldText::write<MFieldTraits, FieldTypeT>(_values[index], text);
         str += text;
     }
     return str;

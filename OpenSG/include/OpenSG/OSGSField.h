@@ -83,11 +83,14 @@ template <class FieldTypeT, Int32 fieldNameSpace>
 std::string &SField<FieldTypeT, fieldNameSpace>::getValueByStr(
     std::string &str, StringConversionStateBase &state) const
 {
-    std::string text;
-    if (FieldText::write<SFieldTraits>(_value, text)) {
+    if constexpr (FieldText::isWritable<SFieldTraits>) {
+        std::string text;
+        FieldText::write<SFieldTraits>(_value, text);
         state.beginField(this, str);
         state.addValueStr(text, str);
         state.endField(this, str);
+    } else {
+        FieldText::reportNoWriter();
     }
     return str;
 }

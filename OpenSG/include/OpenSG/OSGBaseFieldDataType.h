@@ -1,0 +1,106 @@
+#pragma once
+
+#include <OpenSG/OSGColor.h>
+#include <OpenSG/OSGDynamicVolume.h>
+#include <OpenSG/OSGPlane.h>
+#include <OpenSG/OSGTime.h>
+#include <OpenSG/OSGValueFieldTypes.h>
+
+OSG_BEGIN_NAMESPACE
+
+/// Written in quotes with nothing escaped, read as it stands, quotes and all: whoever shows the
+/// text for editing has to strip them.
+template <class T> struct StringFieldTraits : FieldTraitsList<T, StringFieldTraits<T>>
+{
+    typedef const T &ArgumentType;
+    typedef FieldTraitsList<T, StringFieldTraits<T>> Lists;
+    enum {
+        StringConvertable = FieldTraits::ToStringConvertable | FieldTraits::FromStringConvertable
+    };
+    using Lists::copyFromBin;
+    using Lists::copyToBin;
+    using Lists::getBinSize;
+
+    static T getDefault() { return T(); }
+    static bool getFromString(T &outVal, const Char8 *&inVal)
+    {
+        outVal = inVal;
+        return true;
+    }
+    static void putToString(const T &inVal, std::string &outStr) { outStr = '"' + inVal + '"'; }
+
+    static UInt32 getBinSize(const T &object)
+    {
+        return static_cast<UInt32>(sizeof(UInt32) + object.size());
+    }
+    static void copyToBin(BinaryDataHandler &target, const T &object)
+    {
+        target.putValue(static_cast<UInt32>(object.size()));
+        target.put(object.data(), object.size());
+    }
+    static void copyFromBin(BinaryDataHandler &source, T &object)
+    {
+        UInt32 size = 0;
+        source.getValue(size);
+        object.resize(size);
+        source.get(object.data(), size);
+    }
+};
+
+/// Components separated by single blanks.
+template <class T> struct ColorFieldTraits : TextFieldTraits<T>
+{
+    typedef const T &ArgumentType;
+
+    static bool getFromString(T &outVal, const Char8 *&inVal)
+    {
+        outVal.setValue(inVal);
+        return true;
+    }
+    static void putToString(const T &inVal, std::string &outStr)
+    {
+        outStr.clear();
+        NumberText::writeList(outStr, inVal.getValuesRGB(), T::Size, " ");
+    }
+};
+
+/// Six numbers of a box, lower corner first. A sphere is written as four.
+template <class T> struct VolumeFieldTraits : FieldTraitsRecurseBase<T>
+{
+    enum {
+        StringConvertable = FieldTraits::ToStringConvertable | FieldTraits::FromStringConvertable
+    };
+
+    static T getDefault() { return T(); }
+    static bool getFromString(T &outVal, const Char8 *&inVal)
+    {
+        outVal.setValue(inVal);
+        return true;
+    }
+    static void putToString(const T &inVal, std::string &outStr) { outStr = volumeText(inVal); }
+
+private:
+    static std::string volumeText(const Volume &volume);
+};
+
+template <> std::string VolumeFieldTraits<BoxVolume>::volumeText(const Volume &volume);
+template <> std::string VolumeFieldTraits<DynamicVolume>::volumeText(const Volume &volume);
+
+/// Normal, comma, distance. There is no way back: reading leaves the value as it is.
+template <class T> struct PlaneFieldTraits : TextFieldTraits<T>
+{
+    typedef const T &ArgumentType;
+
+    static bool getFromString(T &, const Char8 *&) { return false; }
+    static void putToString(const T &inVal, std::string &outStr)
+    {
+        outStr.clear();
+        NumberText::writeList(outStr, inVal.getNormal().getValues(), 3, " ");
+        outStr += ", ";
+        NumberText::write(outStr, inVal.getDistanceFromOrigin());
+    }
+};
+
+OSG_BASE_VALUE_TYPES(OSG_VALUE_TRAITS)
+
+OSG_END_NAMESPACE
