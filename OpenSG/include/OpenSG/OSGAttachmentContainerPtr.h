@@ -1,0 +1,33 @@
+#pragma once
+
+#include <OpenSG/OSGFCPtr.h>
+
+OSG_BEGIN_NAMESPACE
+
+class AttachmentContainer;
+
+/// Handle to a container that can carry attachments. A class of its own, not a typedef: its name
+/// is part of the names of all handle types below it.
+class AttachmentContainerPtr : public FCPtr<FieldContainerPtr, AttachmentContainer>
+{
+    typedef FCPtr<FieldContainerPtr, AttachmentContainer> Handle;
+
+public:
+    typedef AttachmentContainerPtr ObjectType;
+    typedef FieldContainerPtr Inherited;
+    typedef AttachmentContainerPtr Self;
+
+    template <class InTypeT> static AttachmentContainerPtr dcast(const InTypeT &oIn)
+    {
+        return AttachmentContainerPtr(Handle::dcast(oIn).getCPtr());
+    }
+
+    using Handle::Handle;
+    constexpr AttachmentContainerPtr() = default;
+    constexpr AttachmentContainerPtr(const AttachmentContainerPtr &) = default;
+
+    void operator=(const AttachmentContainerPtr &other) { Handle::operator=(other); }
+    void operator=(const NullFieldContainerPtr &null) { Handle::operator=(null); }
+};
+
+OSG_END_NAMESPACE

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <OpenSG/OSGFieldContainerPtr.h>
+#include <OpenSG/OSGFieldDataType.h>
+
+OSG_BEGIN_NAMESPACE
+
+/// Traits of the five handles at the top of the tree: they have a text form, the address, which
+/// can only be written. In binary form a handle is the id of its container.
+template <class PtrT> struct BasicHandleTraits : public FieldTraits
+{
+    typedef const PtrT &ArgumentType;
+    enum { StringConvertable = ToStringConvertable };
+
+    static void putToString(const PtrT &inVal, std::string &outStr)
+    {
+        outStr = HandleText::address(inVal);
+    }
+    static PtrT getDefault() { return NullFC; }
+
+    static UInt32 getBinSize(const FieldContainerPtrBase &) { return sizeof(UInt32); }
+    static UInt32 getBinSize(const PtrT *, UInt32 count) { return count * sizeof(UInt32); }
+    static void copyToBin(BinaryDataHandler &target, const FieldContainerPtrBase &object)
+    {
+        target.putValue(object.getFieldContainerId());
+    }
+    static void copyToBin(BinaryDataHandler &target, const PtrT *objects, UInt32 count)
+    {
+        for (UInt32 i = 0; i < count; ++i) {
+            copyToBin(target, objects[i]);
+        }
+    }
+    static void copyFromBin(BinaryDataHandler &source, FieldContainerPtrBase &object)
+    {
+        UInt32 id = 0;
+        source.getValue(id);
+        object = HandleText::containerOf(id);
+    }
+    static void copyFromBin(BinaryDataHandler &source, PtrT *objects, UInt32 count)
+    {
+        for (UInt32 i = 0; i < count; ++i) {
+            copyFromBin(source, objects[i]);
+        }
+    }
+};
+
+OSG_END_NAMESPACE

@@ -1,0 +1,78 @@
+#pragma once
+
+#include <OpenSG/OSGFieldContainerPtr.h>
+
+OSG_BEGIN_NAMESPACE
+
+/// Handle to a container of the class FieldContainerTypeT; BasePtrTypeT is the handle of its
+/// parent class. It converts to every base handle; the other direction is dcast.
+template <class BasePtrTypeT, class FieldContainerTypeT> class FCPtr : public BasePtrTypeT
+{
+public:
+    typedef FieldContainerTypeT StoredObjectType;
+    typedef FCPtr ObjectType;
+    typedef BasePtrTypeT Inherited;
+    typedef FCPtr Self;
+
+    /// Null for a null handle and for a container of another class.
+    template <class InTypeT> static FCPtr dcast(const InTypeT &oIn)
+    {
+        return FCPtr(dynamic_cast<FieldContainerTypeT *>(oIn.getBaseCPtr()));
+    }
+
+    constexpr FCPtr() = default;
+    constexpr FCPtr(const NullFieldContainerPtr &) { }
+    constexpr FCPtr(const FCPtr &) = default;
+    explicit FCPtr(const FieldContainerTypeT &container)
+        : Inherited(&container)
+    {
+    }
+    explicit FCPtr(const FieldContainerTypeT *container)
+        : Inherited(container)
+    {
+    }
+
+    FieldContainerTypeT *operator->() const { return getCPtr(); }
+    FieldContainerTypeT &operator*() const { return *getCPtr(); }
+    FieldContainerTypeT *getCPtr() const
+    {
+        return static_cast<FieldContainerTypeT *>(this->getBaseCPtr());
+    }
+
+    void operator=(const FCPtr &other) { Inherited::operator=(other); }
+    void operator=(const NullFieldContainerPtr &null) { Inherited::operator=(null); }
+};
+
+template <class BasePtrTypeT, class FieldContainerTypeT>
+std::ostream &operator<<(std::ostream &os, const FCPtr<BasePtrTypeT, FieldContainerTypeT> &handle)
+{
+    return HandleText::write(os, "FCPtr", handle);
+}
+
+/// Free spelling of XPtr::dcast.
+template <class PtrT, class InTypeT> PtrT dynamic_fcptr_cast(const InTypeT &handle)
+{
+    return PtrT::dcast(handle);
+}
+
+template <class PtrT> typename PtrT::StoredObjectType *getCPtr(const PtrT &handle)
+{
+    return handle.getCPtr();
+}
+
+template <class PtrT> Int32 getRefCount(const PtrT &handle)
+{
+    return handle.getRefCount();
+}
+
+template <class PtrT> UInt32 getContainerId(const PtrT &handle)
+{
+    return handle.getFieldContainerId();
+}
+
+template <class PtrT> void subRef(const PtrT &handle)
+{
+    subRefCP(handle);
+}
+
+OSG_END_NAMESPACE

@@ -1,0 +1,125 @@
+#include <OpenSG/OSGFieldContainer.h>
+
+#include "OSGFieldContainerHeader.h"
+
+#include <OpenSG/OSGField.h>
+#include <OpenSG/OSGFieldContainerFactory.h>
+#include <OpenSG/OSGLog.h>
+#include <OpenSG/OSGThread.h>
+
+#include <new>
+
+OSG_BEGIN_NAMESPACE
+
+FieldContainerType FieldContainer::_type("FieldContainer");
+
+// The copy is another container, with a count and an id of its own.
+FieldContainer::FieldContainer(const FieldContainer &)
+{
+}
+
+FieldContainerType &FieldContainer::getClassType()
+{
+    return _type;
+}
+
+UInt32 FieldContainer::getClassTypeId()
+{
+    return _type.getId();
+}
+
+UInt16 FieldContainer::getClassGroupId()
+{
+    return _type.getGroupId();
+}
+
+FieldContainerType &FieldContainer::getType()
+{
+    return _type;
+}
+
+const FieldContainerType &FieldContainer::getType() const
+{
+    return _type;
+}
+
+Field *FieldContainer::getField(UInt32 fieldId)
+{
+    FieldDescription *description = getType().getFieldDescription(fieldId);
+    return description ? description->getField(*this) : nullptr;
+}
+
+Field *FieldContainer::getField(const Char8 *fieldName)
+{
+    FieldDescription *description = getType().findFieldDescription(fieldName);
+    return description ? description->getField(*this) : nullptr;
+}
+
+void FieldContainer::changed(BitVector, UInt32)
+{
+}
+
+void FieldContainer::dump(UInt32 uiIndent, const BitVector bvFlags) const
+{
+    const std::string indent(uiIndent, ' ');
+    FieldContainer &self = const_cast<FieldContainer &>(*this);
+    osgLog() << indent << getTypeName() << ' ' << self.header().id;
+    if (bvFlags & FCDumpFlags::RefCount) {
+        osgLog() << " (" << self.header().refCount << " references)";
+    }
+    osgLog() << endLog;
+    for (UInt32 id = 1; id <= getType().getNumFieldDescs(); ++id) {
+        std::string text;
+        if (const Field *field = self.getField(id)) {
+            osgLog() << indent << "    " << getType().getFieldDescription(id)->getName() << ' '
+                     << field->getValueByStr(text) << endLog;
+        }
+    }
+}
+
+void FieldContainer::executeSync(FieldContainer &other, const BitVector &whichField)
+{
+    executeSyncImpl(&other, whichField);
+}
+
+void FieldContainer::executeSyncImpl(FieldContainer *pOther, const BitVector &whichField)
+{
+    for (UInt32 id = 1; id <= getType().getNumFieldDescs(); ++id) {
+        const FieldDescription *description = getType().getFieldDescription(id);
+        if (description->getFieldMask() & whichField) {
+            getField(id)->setAbstrValue(*pOther->getField(id));
+        }
+    }
+}
+
+void *FieldContainer::operator new(std::size_t size)
+{
+    return new (::operator new(sizeof(Header) + size)) Header + 1;
+}
+
+void FieldContainer::operator delete(void *container)
+{
+    ::operator delete(static_cast<Header *>(container) - 1);
+}
+
+void FieldContainer::enterInStore(const FieldContainerPtr &container)
+{
+    const UInt32 id = FieldContainerFactory::the()->registerContainer(container);
+    container->header().id = id;
+    if (ChangeList *changes = Thread::getCurrentChangeList()) {
+        changes->addCreated(id);
+    }
+}
+
+void FieldContainer::destroy()
+{
+    const UInt32 id = header().id;
+    if (ChangeList *changes = Thread::getCurrentChangeList()) {
+        changes->addDestroyed(id);
+    }
+    FieldContainerFactory::the()->unregisterContainer(id);
+    onDestroy();
+    delete this;
+}
+
+OSG_END_NAMESPACE

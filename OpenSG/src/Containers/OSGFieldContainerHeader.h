@@ -1,0 +1,21 @@
+#pragma once
+
+#include <OpenSG/OSGFieldContainer.h>
+
+#include <cstddef>
+
+OSG_BEGIN_NAMESPACE
+
+/// Stands in front of every container in the same block of memory.
+struct alignas(std::max_align_t) FieldContainer::Header
+{
+    Int32 refCount = 0;
+    UInt32 id = 0;
+};
+
+inline FieldContainer::Header &FieldContainer::header()
+{
+    return *(reinterpret_cast<Header *>(this) - 1);
+}
+
+OSG_END_NAMESPACE

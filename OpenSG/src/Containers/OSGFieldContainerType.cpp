@@ -1,0 +1,193 @@
+#include <OpenSG/OSGFieldContainerType.h>
+
+#include <OpenSG/OSGAttachment.h>
+#include <OpenSG/OSGBaseFunctions.h>
+#include <OpenSG/OSGFieldContainerFactory.h>
+#include <OpenSG/OSGLog.h>
+#include <OpenSG/OSGNode.h>
+#include <OpenSG/OSGNodeCore.h>
+
+#include <algorithm>
+#include <cstring>
+
+OSG_BEGIN_NAMESPACE
+
+FieldContainerType::FieldContainerType(const Char8 *szName, const Char8 *szParentName,
+    const Char8 *szGroupName, PrototypeCreateF fPrototypeCreate, InitContainerF fInitMethod,
+    FieldDescription **pDesc, UInt32 uiDescByteCounter, bool bDescsAddable)
+    : DataType(szName, szParentName)
+    , _groupId(FieldContainerFactory::the()->registerGroup(szGroupName ? szGroupName : szName))
+    , _createPrototype(fPrototypeCreate)
+    , _ownDescriptions(pDesc, pDesc + uiDescByteCounter / sizeof(*pDesc))
+    , _descriptionsAddable(bDescsAddable)
+{
+    FieldContainerFactory::the()->registerType(this);
+    if (fInitMethod) {
+        fInitMethod();
+    }
+}
+
+// A prototype has to go while the code of its class is still loaded. At the end of the process
+// it stays: containers of other libraries may be destroyed after this and look at it.
+FieldContainerType::~FieldContainerType()
+{
+    FieldContainerFactory::the()->unregisterType(this);
+    if (GlobalSystemState == Running) {
+        clearRefCP(_prototype);
+    }
+}
+
+FieldDescription *FieldContainerType::getFieldDescription(UInt32 uiFieldId)
+{
+    return uiFieldId - 1 < _descriptions.size() ? _descriptions[uiFieldId - 1] : nullptr;
+}
+
+const FieldDescription *FieldContainerType::getFieldDescription(UInt32 uiFieldId) const
+{
+    return const_cast<FieldContainerType *>(this)->getFieldDescription(uiFieldId);
+}
+
+FieldDescription *FieldContainerType::findFieldDescription(const Char8 *szFieldName)
+{
+    const auto found = std::find_if(
+        _descriptions.begin(), _descriptions.end(), [=](const FieldDescription *description) {
+            return szFieldName && std::strcmp(description->getCName(), szFieldName) == 0;
+        });
+    return found != _descriptions.end() ? *found : nullptr;
+}
+
+const FieldDescription *FieldContainerType::findFieldDescription(const Char8 *szFieldName) const
+{
+    return const_cast<FieldContainerType *>(this)->findFieldDescription(szFieldName);
+}
+
+UInt32 FieldContainerType::addDescription(const FieldDescription &description)
+{
+    if (!_descriptionsAddable || findFieldDescription(description.getCName())) {
+        return 0;
+    }
+    const UInt32 id = getNumFieldDescs() + 1;
+    auto own = std::make_unique<FieldDescription>(description);
+    own->setFieldId(id);
+    own->setFieldMask(TypeTraits<BitVector>::One << id);
+    _descriptions.push_back(own.get());
+    _ownDescriptions.push_back(std::move(own));
+    return id;
+}
+
+bool FieldContainerType::subDescription(UInt32 uiFieldId)
+{
+    FieldDescription *description = getFieldDescription(uiFieldId);
+    const auto own = std::find_if(_ownDescriptions.begin(), _ownDescriptions.end(),
+        [=](const auto &candidate) { return candidate.get() == description; });
+    if (!_descriptionsAddable || !description || own == _ownDescriptions.end()) {
+        return false;
+    }
+    _descriptions.erase(_descriptions.begin() + (uiFieldId - 1));
+    _ownDescriptions.erase(own);
+    return true;
+}
+
+bool FieldContainerType::setPrototype(FieldContainerPtr prototype)
+{
+    setRefdCP(_prototype, prototype);
+    return true;
+}
+
+bool FieldContainerType::isDerivedFrom(const TypeBase &other) const
+{
+    return DataType::isDerivedFrom(other);
+}
+
+bool FieldContainerType::isDerivedFrom(const FieldContainerType &other) const
+{
+    const FieldContainerType *type = this;
+    while (type && *type != other) {
+        type = type->_parent;
+    }
+    return type;
+}
+
+FieldContainerPtr FieldContainerType::createFieldContainer() const
+{
+    return _prototype ? _prototype->shallowCopy() : FieldContainerPtr();
+}
+
+NodePtr FieldContainerType::createNode() const
+{
+    return isNode() ? NodePtr::dcast(createFieldContainer()) : NodePtr();
+}
+
+NodeCorePtr FieldContainerType::createNodeCore() const
+{
+    return isNodeCore() ? NodeCorePtr::dcast(createFieldContainer()) : NodeCorePtr();
+}
+
+AttachmentPtr FieldContainerType::createAttachment() const
+{
+    return isAttachment() ? AttachmentPtr::dcast(createFieldContainer()) : AttachmentPtr();
+}
+
+void FieldContainerType::dump(UInt32 uiIndent, const BitVector) const
+{
+    const std::string indent(uiIndent, ' ');
+    osgLog() << indent << getName() << " : " << getParentName() << endLog;
+    for (const FieldDescription *description : _descriptions) {
+        osgLog() << indent << "    " << description->getFieldId() << ' ' << description->getName()
+                 << ' ' << description->getFieldType().getName() << endLog;
+    }
+}
+
+bool FieldContainerType::initialize()
+{
+    if (_initialized) {
+        return true;
+    }
+    FieldContainerFactory &factory = *FieldContainerFactory::the();
+    if (getCParentName() && !inheritFrom(factory.findUninitializedType(getCParentName()))
+        && !inheritFrom(factory.findType(getCParentName()))) {
+        SWARNING << getName() << " lacks its parent " << getParentName() << endLog;
+        return false;
+    }
+    addOwnDescriptions();
+    _initialized = true;
+    if (_createPrototype) {
+        setPrototype(_createPrototype());
+    }
+    _family = findFamily();
+    return true;
+}
+
+bool FieldContainerType::inheritFrom(FieldContainerType *parent)
+{
+    if (!parent || !FieldContainerFactory::the()->initializeType(parent)) {
+        return false;
+    }
+    _parent = parent;
+    _descriptions = parent->_descriptions;
+    return true;
+}
+
+void FieldContainerType::addOwnDescriptions()
+{
+    for (const auto &description : _ownDescriptions) {
+        _descriptions.push_back(description.get());
+    }
+    std::stable_sort(_descriptions.begin(), _descriptions.end(), FieldDescriptionPLT());
+    if (_descriptions.size() >= 64) {
+        SWARNING << getName() << " has more fields than a mask has bits" << endLog;
+    }
+}
+
+FieldContainerType::Family FieldContainerType::findFamily() const
+{
+    if (isDerivedFrom(Node::getClassType())) {
+        return Family::Node;
+    }
+    if (isDerivedFrom(NodeCore::getClassType())) {
+        return Family::NodeCore;
+    }
+    return isDerivedFrom(Attachment::getClassType()) ? Family::Attachment : Family::None;
+}
+
+OSG_END_NAMESPACE

@@ -1,0 +1,258 @@
+#include <OpenSG/OSGNode.h>
+
+#include <OpenSG/OSGCNodePtr.h>
+#include <OpenSG/OSGLog.h>
+
+#include <algorithm>
+
+OSG_BEGIN_NAMESPACE
+
+const NodePtr Node::NullNode;
+
+CNodePtr::CNodePtr(const NodePtr &node)
+    : Inherited(node)
+{
+}
+
+NodePtr CNodePtr::getNode() const
+{
+    return NodePtr(static_cast<Node *>(getBaseCPtr()));
+}
+
+NodeCore *CNodePtr::getCPtr() const
+{
+    return getBaseCPtr() ? getNode()->getCore().getCPtr() : nullptr;
+}
+
+Node::Node(const Node &source)
+    : Inherited(source)
+{
+    _sfParent.setValue(NullFC);
+    _mfChildren.clear();
+    _sfCore.setValue(NullFC);
+    exchangeCore(source.getCore());
+}
+
+Node::~Node()
+{
+    for (const NodePtr &child : _mfChildren) {
+        releaseChild(child);
+    }
+    exchangeCore(NullFC);
+}
+
+void Node::onCreate(const Node *)
+{
+    invalidateVolume();
+}
+
+void Node::setCore(const NodeCorePtr &core)
+{
+    exchangeCore(core);
+    invalidateVolume();
+}
+
+void Node::exchangeCore(const NodeCorePtr &core)
+{
+    const NodeCorePtr old = getCore();
+    addRefCP(core);
+    _sfCore.setValue(core);
+    if (old) {
+        beginEditCP(old, NodeCore::ParentsFieldMask);
+        old->subParent(NodePtr(this));
+        endEditCP(old, NodeCore::ParentsFieldMask);
+        subRefCP(old);
+    }
+    if (core) {
+        beginEditCP(core, NodeCore::ParentsFieldMask);
+        core->addParent(NodePtr(this));
+        endEditCP(core, NodeCore::ParentsFieldMask);
+    }
+}
+
+Int32 Node::findChild(const NodePtr &child) const
+{
+    const auto found = _mfChildren.find(child);
+    return found != _mfChildren.end() ? static_cast<Int32>(found - _mfChildren.begin()) : -1;
+}
+
+void Node::addChild(const NodePtr &child)
+{
+    insertChild(getNChildren(), child);
+}
+
+void Node::insertChild(UInt32 childIndex, const NodePtr &child)
+{
+    if (!child) {
+        return;
+    }
+    const NodePtr newChild = child;
+    takeAsChild(newChild);
+    const UInt32 index = std::min(childIndex, getNChildren());
+    _mfChildren.insert(_mfChildren.begin() + index, newChild);
+    invalidateVolume();
+}
+
+void Node::replaceChild(UInt32 childIndex, const NodePtr &child)
+{
+    const NodePtr old = getChild(childIndex);
+    const NodePtr newChild = child;
+    if (!newChild || newChild == old) {
+        return;
+    }
+    takeAsChild(newChild);
+    _mfChildren[findChild(old)] = newChild;
+    releaseChild(old);
+    invalidateVolume();
+}
+
+bool Node::replaceChildBy(const NodePtr &child, const NodePtr &newChild)
+{
+    const Int32 index = findChild(child);
+    if (index >= 0) {
+        replaceChild(index, newChild);
+    }
+    return index >= 0;
+}
+
+void Node::subChild(const NodePtr &child)
+{
+    const Int32 index = findChild(child);
+    if (index < 0) {
+        SWARNING << "Node::subChild: " << child << " is not one of my children!" << endLog;
+        return;
+    }
+    subChild(static_cast<UInt32>(index));
+}
+
+void Node::subChild(UInt32 childIndex)
+{
+    const NodePtr child = getChild(childIndex);
+    _mfChildren.erase(_mfChildren.begin() + childIndex);
+    releaseChild(child);
+    invalidateVolume();
+}
+
+void Node::setParent(const NodePtr &parent)
+{
+    _sfParent.setValue(parent);
+}
+
+// The reference comes first: leaving the earlier parent must not destroy the child.
+void Node::takeAsChild(const NodePtr &child)
+{
+    addRefCP(child);
+    if (const NodePtr earlier = child->getParent()) {
+        beginEditCP(earlier, ChildrenFieldMask);
+        earlier->subChild(child);
+        endEditCP(earlier, ChildrenFieldMask);
+    }
+    beginEditCP(child, ParentFieldMask);
+    child->setParent(NodePtr(this));
+    endEditCP(child, ParentFieldMask);
+}
+
+void Node::releaseChild(const NodePtr &child)
+{
+    const NodePtr released = child;
+    beginEditCP(released, ParentFieldMask);
+    released->setParent(NullFC);
+    endEditCP(released, ParentFieldMask);
+    subRefCP(released);
+}
+
+Matrix Node::getToWorld()
+{
+    Matrix result;
+    getToWorld(result);
+    return result;
+}
+
+void Node::getToWorld(Matrix &result)
+{
+    if (const NodePtr parent = getParent()) {
+        parent->getToWorld(result);
+    } else {
+        result.setIdentity();
+    }
+    if (const NodeCorePtr core = getCore()) {
+        core->accumulateMatrix(result);
+    }
+}
+
+DynamicVolume &Node::getVolume(bool update)
+{
+    if (update) {
+        updateVolume();
+    }
+    return _sfVolume.getValue();
+}
+
+void Node::getWorldVolume(DynamicVolume &result)
+{
+    result = getVolume(true);
+    if (const NodePtr parent = getParent()) {
+        result.transform(parent->getToWorld());
+    }
+}
+
+void Node::updateVolume()
+{
+    DynamicVolume &volume = _sfVolume.getValue();
+    if (volume.isValid() || getTravMask() == 0) {
+        return;
+    }
+    volume.getInstance().setEmpty();
+    for (const NodePtr &child : _mfChildren) {
+        if (child->getTravMask() != 0) {
+            child->updateVolume();
+            volume.getInstance().extendBy(child->getVolume());
+        }
+    }
+    if (const NodeCorePtr core = getCore()) {
+        core->adjustVolume(volume.getInstance());
+    }
+    volume.instanceChanged();
+}
+
+// A volume that is invalid already says that those above it are, too.
+void Node::invalidateVolume()
+{
+    DynamicVolume &volume = _sfVolume.getValue();
+    if (!volume.isValid()) {
+        return;
+    }
+    beginEditCP(NodePtr(this), VolumeFieldMask);
+    volume.setValid(false);
+    volume.instanceChanged();
+    endEditCP(NodePtr(this), VolumeFieldMask);
+    if (const NodePtr parent = getParent()) {
+        parent->invalidateVolume();
+    }
+}
+
+void Node::changed(BitVector whichField, UInt32 origin)
+{
+    if (whichField & (CoreFieldMask | ChildrenFieldMask)) {
+        invalidateVolume();
+    }
+    if (whichField & TravMaskFieldMask) {
+        const NodePtr parent = getParent();
+        (parent ? parent : NodePtr(this))->invalidateVolume();
+    }
+    Inherited::changed(whichField, origin);
+}
+
+NodePtr makeNodeFor(NodeCorePtr core)
+{
+    if (!core) {
+        return NullFC;
+    }
+    const NodePtr node = Node::create();
+    beginEditCP(node, Node::CoreFieldMask);
+    node->setCore(core);
+    endEditCP(node, Node::CoreFieldMask);
+    return node;
+}
+
+OSG_END_NAMESPACE
