@@ -28,7 +28,7 @@ public:
     virtual void pushValueByStr(const Char8 *str) = 0;
 
     /// All return `str`. A single field replaces it, a multi-field appends; the form with a
-    /// conversion state always appends. A type without text form leaves it alone.
+    /// conversion state always appends. A value without text form adds nothing.
     virtual std::string &getValueByStr(std::string &str) const = 0;
     virtual std::string &getValueByStr(
         std::string &str, StringConversionStateBase &state) const = 0;

@@ -128,12 +128,8 @@ void MField<FieldTypeT, fieldNameSpace>::pushValueByStr(const Char8 *str)
 template <class FieldTypeT, Int32 fieldNameSpace>
 std::string &MField<FieldTypeT, fieldNameSpace>::getValueByStr(std::string &str) const
 {
-    if constexpr (FieldText::isWritable<MFieldTraits>) {
-        for (UInt32 i = 0; i < size(); ++i) {
-            getValueByStr(str.append(i > 0 ? ", " : ""), i);
-        }
-    } else {
-        FieldText::reportNoWriter();
+    for (UInt32 i = 0; i < size(); ++i) {
+        getValueByStr(str.append(i > 0 ? ", " : ""), i);
     }
     return str;
 }
@@ -142,17 +138,12 @@ template <class FieldTypeT, Int32 fieldNameSpace>
 std::string &MField<FieldTypeT, fieldNameSpace>::getValueByStr(
     std::string &str, StringConversionStateBase &state) const
 {
-    if constexpr (FieldText::isWritable<MFieldTraits>) {
-        state.beginField(this, str);
-        for (UInt32 i = 0; i < size(); ++i) {
-            std::string text;
-            state.addValueStr(getValueByStr(text, i), str);
-        }
-        state.endField(this, str);
-    } else {
-        FieldText::reportNoWriter();
+    state.beginField(this, str);
+    for (UInt32 i = 0; i < size(); ++i) {
+        std::string text;
+        state.addValueStr(getValueByStr(text, i), str);
     }
-    return str;
+    return state.endField(this, str);
 }
 
 template <class FieldTypeT, Int32 fieldNameSpace>
