@@ -51,11 +51,16 @@ template <class T> void QuaternionBase<T>::setValue(const MatrixType &m)
 
 template <class T> void QuaternionBase<T>::setValue(const VectorType &from, const VectorType &to)
 {
-    VectorType axis = from.cross(to);
-    if (axis.length() < shortestAxis<T>) {
-        axis = anyNormalTo(from);
+    // Cross and dot product are the quaternion of the full turn; the identity added halves it.
+    const T lengths = from.length() * to.length();
+    const T w = from.dot(to) + lengths;
+    if (w <= shortestAxis<T> * lengths) {
+        setValueAsAxisDeg(anyNormalTo(from), 180);
+        return;
     }
-    setValueAsAxisRad(axis, from.enclosedAngle(to));
+    const VectorType axis = from.cross(to);
+    setValueAsQuat(axis.x(), axis.y(), axis.z(), w);
+    normalize();
 }
 
 template <class T> void QuaternionBase<T>::setValueAsAxisRad(T x, T y, T z, T angle)
