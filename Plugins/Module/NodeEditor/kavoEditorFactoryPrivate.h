@@ -1,0 +1,60 @@
+#pragma once
+
+#include <qtpropertybrowser.h>
+
+#include <QList>
+#include <QMap>
+
+#include <algorithm>
+
+// Which editors are open for which property: the bookkeeping that our editor factories share.
+template <class Editor> class EditorFactoryPrivate
+{
+public:
+    using EditorList = QList<Editor *>;
+
+    Editor *createEditor(QtProperty *property, QWidget *parent);
+    void initializeEditor(QtProperty *property, Editor *editor);
+    void slotEditorDestroyed(QObject *object);
+
+    QMap<QtProperty *, EditorList> m_createdEditors;
+    QMap<Editor *, QtProperty *> m_editorToProperty;
+};
+
+template <class Editor>
+Editor *EditorFactoryPrivate<Editor>::createEditor(QtProperty *property, QWidget *parent)
+{
+    auto *editor = new Editor(parent);
+    initializeEditor(property, editor);
+    return editor;
+}
+
+// An editor may outlive its property, for a browser closes editors with a delay and a manager may
+// be destroyed without any browser. It is forgotten then, so that nobody reads the dead property.
+template <class Editor>
+void EditorFactoryPrivate<Editor>::initializeEditor(QtProperty *property, Editor *editor)
+{
+    m_createdEditors[property].append(editor);
+    m_editorToProperty.insert(editor, property);
+
+    QtAbstractPropertyManager *manager = property->propertyManager();
+    QObject::connect(manager, &QtAbstractPropertyManager::propertyDestroyed, editor,
+        [this, manager, property, editor](QtProperty *destroyed) {
+            if (destroyed != property)
+                return;
+            slotEditorDestroyed(editor);
+            manager->disconnect(editor);
+        });
+}
+
+template <class Editor> void EditorFactoryPrivate<Editor>::slotEditorDestroyed(QObject *object)
+{
+    const QList<Editor *> editors = m_editorToProperty.keys();
+    const auto editor = std::find(editors.begin(), editors.end(), object);
+    if (editor == editors.end())
+        return;
+    const auto created = m_createdEditors.find(m_editorToProperty.take(*editor));
+    created->removeAll(*editor);
+    if (created->isEmpty())
+        m_createdEditors.erase(created);
+}
