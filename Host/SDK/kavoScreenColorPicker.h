@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QImage>
+#include <QPoint>
+#include <QWidget>
+
+#include <vector>
+
+/// An eyedropper: covers all screens with a still picture of them and a magnifier at the pointer.
+/// A click, Enter or Space takes the pixel's colour, the arrow keys move by one pixel, Escape or
+/// another mouse button gives up. Deletes itself when it closes.
+class kavoScreenColorPicker : public QWidget
+{
+    Q_OBJECT
+public:
+    /// False where the desktop does not let programs read the screen.
+    static bool isAvailable();
+
+    explicit kavoScreenColorPicker(QWidget *parent);
+
+    /// Takes the picture and starts.
+    void start();
+
+Q_SIGNALS:
+    void picked(const QColor &color);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    struct Shot
+    {
+        QRect rect; // in this widget's coordinates
+        QImage image;
+    };
+
+    QColor colorAt(const QPoint &position) const;
+    QRect magnifierRect() const;
+    void paintMagnifier(QPainter *painter) const;
+    void moveTo(const QPoint &position);
+    void pick();
+
+    std::vector<Shot> m_shots;
+    QPoint m_position;
+};
