@@ -59,7 +59,7 @@ def included_names(c):
     for f in c.fields:
         names.add(f.value_name.removesuffix("Ptr") + "Fields")
         if f.counted:
-            names.add(f.value_name.removesuffix("Ptr"))
+            names |= {f.value_name.removesuffix("Ptr"), "HeldList"}
     return names
 
 
@@ -130,8 +130,12 @@ def protected_part(c):
     parts += [accessors(c, f) for f in c.fields if f.protected]
     parts.append("\n" if c.fields else "")
     parts += [f"    {f.type} {f.member}{f.initializer()};\n" for f in c.fields]
-    parts += [f"    RefPtr<{f.value_type}> _held{f.title};\n" for f in c.fields if f.counted]
+    parts += [f"    {holder(f)} _held{f.title};\n" for f in c.fields if f.counted]
     return "".join(parts)
+
+
+def holder(f):
+    return f"{'HeldList' if f.multi else 'RefPtr'}<{f.value_type}>"
 
 
 def include(name):

@@ -81,16 +81,17 @@ FieldContainerPtr {c.cpp_name}::shallowCopy() const
 """
 
 
+def follow(f):
+    held = f"_held{f.title}"
+    return f"{held}.follow({f.member})" if f.multi else f"{held} = {f.member}.getValue()"
+
+
 def reference_upkeep(c):
     """Fields that were filled without their setter get their references when the edit ends."""
     counted = [f for f in c.fields if f.counted]
     if not counted:
         return ""
-    body = "".join(
-        f"    if (whichField & {f.title}FieldMask) {{\n"
-        f"        _held{f.title} = {f.member}.getValue();\n    }}\n"
-        for f in counted
-    )
+    body = "".join(f"    if (whichField & {f.title}FieldMask) {{\n        {follow(f)};\n    }}\n" for f in counted)
     return f"""
 void {c.cpp_name}::changed(BitVector whichField, UInt32 origin)
 {{

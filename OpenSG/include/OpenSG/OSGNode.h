@@ -4,8 +4,6 @@
 #include <OpenSG/OSGNodeBase.h>
 #include <OpenSG/OSGNodeCore.h>
 
-#include <string>
-
 OSG_BEGIN_NAMESPACE
 
 /// A place in the scene. A node holds references to its core and children; it has one parent at
@@ -102,8 +100,5 @@ template <class Core> NodePtr makeCoredNode(typename Core::Ptr *coreP = nullptr)
 
 /// Copies the nodes of a tree; the copies share cores and attachments with the originals.
 NodePtr cloneTree(const NodePtr &root);
-/// Copies nodes, cores, attachments and what they point to, except containers of the types that
-/// `shareString` names, separated by commas or blanks; those are shared.
-NodePtr deepCloneTree(const NodePtr &root, const std::string &shareString = "");
 
 OSG_END_NAMESPACE

@@ -2,6 +2,8 @@
 
 #include <OpenSG/OSGFCPtr.h>
 
+#include <utility>
+
 OSG_BEGIN_NAMESPACE
 
 /// Holds a handle and one reference to its container.
@@ -24,6 +26,11 @@ public:
         : RefPtr(other._handle)
     {
     }
+    RefPtr(RefPtr &&other) noexcept
+        : _handle(other._handle)
+    {
+        other._handle = NullFC;
+    }
     ~RefPtr() { clearRefCP(_handle); }
 
     RefPtr &operator=(const PtrT &handle)
@@ -32,6 +39,11 @@ public:
         return *this;
     }
     RefPtr &operator=(const RefPtr &other) { return *this = other._handle; }
+    RefPtr &operator=(RefPtr &&other) noexcept
+    {
+        std::swap(_handle, other._handle);
+        return *this;
+    }
     RefPtr &operator=(const NullFieldContainerPtr &)
     {
         clearRefCP(_handle);

@@ -255,4 +255,16 @@ NodePtr makeNodeFor(NodeCorePtr core)
     return node;
 }
 
+NodePtr cloneTree(const NodePtr &root)
+{
+    if (!root) {
+        return NullFC;
+    }
+    const NodePtr copy = NodePtr::dcast(root->shallowCopy());
+    for (UInt32 i = 0; i < root->getNChildren(); ++i) {
+        copy->addChild(cloneTree(root->getChild(i)));
+    }
+    return copy;
+}
+
 OSG_END_NAMESPACE

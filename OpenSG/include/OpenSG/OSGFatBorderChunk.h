@@ -1,0 +1,21 @@
+#pragma once
+
+#include <OpenSG/OSGFatBorderChunkBase.h>
+
+OSG_BEGIN_NAMESPACE
+
+/// Widens silhouettes by moving vertices outwards, away from the viewer's line of sight; its
+/// vertex program is there from the start.
+class FatBorderChunk : public FatBorderChunkBase
+{
+    typedef FatBorderChunkBase Inherited;
+
+protected:
+    friend class FieldContainer;
+
+    FatBorderChunk();
+    FatBorderChunk(const FatBorderChunk &) = default;
+    ~FatBorderChunk() override = default;
+};
+
+OSG_END_NAMESPACE

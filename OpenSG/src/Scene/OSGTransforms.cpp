@@ -1,0 +1,53 @@
+#include <OpenSG/OSGComponentTransform.h>
+#include <OpenSG/OSGInverseTransform.h>
+#include <OpenSG/OSGNode.h>
+
+OSG_BEGIN_NAMESPACE
+
+void Transform::changed(BitVector whichField, UInt32 origin)
+{
+    if (whichField & MatrixFieldMask) {
+        invalidateVolume();
+    }
+    Inherited::changed(whichField, origin);
+}
+
+void Transform::accumulateMatrix(Matrix &result)
+{
+    result.mult(getMatrix());
+}
+
+void Transform::adjustVolume(Volume &volume)
+{
+    volume.transform(getMatrix());
+}
+
+void ComponentTransform::changed(BitVector whichField, UInt32 origin)
+{
+    constexpr BitVector components = CenterFieldMask | RotationFieldMask | ScaleFieldMask
+        | ScaleOrientationFieldMask | TranslationFieldMask;
+    if (whichField & components) {
+        const ComponentTransformPtr self(this);
+        beginEditCP(self, MatrixFieldMask);
+        getMatrix().setTransform(
+            getTranslation(), getRotation(), getScale(), getScaleOrientation(), getCenter());
+        endEditCP(self, MatrixFieldMask);
+    }
+    Inherited::changed(whichField, origin);
+}
+
+void InverseTransform::accumulateMatrix(Matrix &result)
+{
+    result.setIdentity();
+}
+
+void InverseTransform::adjustVolume(Volume &volume)
+{
+    const NodePtr place = getParents().empty() ? NodePtr() : getParents(0)->getParent();
+    Matrix fromWorld;
+    if (place && place->getToWorld().inverse(fromWorld)) {
+        volume.transform(fromWorld);
+    }
+}
+
+OSG_END_NAMESPACE

@@ -1,0 +1,80 @@
+#include <OpenSG/OSGChunkMaterial.h>
+
+#include <OpenSG/OSGLog.h>
+
+#include <algorithm>
+
+OSG_BEGIN_NAMESPACE
+
+bool ChunkMaterial::addChunk(StateChunkPtr chunk, Int32 slot)
+{
+    if (!chunk) {
+        return false;
+    }
+    if (slot != State::AutoSlotReplace) {
+        _mfSlots.resize(_mfChunks.size(), State::AutoSlotReplace);
+        _mfSlots.push_back(slot);
+    }
+    _mfChunks.push_back(chunk);
+    _heldChunks.follow(_mfChunks);
+    return true;
+}
+
+bool ChunkMaterial::subChunk(StateChunkPtr chunk, Int32 slot)
+{
+    for (UInt32 i = 0; i < _mfChunks.size(); ++i) {
+        if (_mfChunks[i] == chunk && slotOf(i) == slot) {
+            _mfChunks.erase(_mfChunks.begin() + i);
+            if (i < _mfSlots.size()) {
+                _mfSlots.erase(_mfSlots.begin() + i);
+            }
+            _heldChunks.follow(_mfChunks);
+            return false;
+        }
+    }
+    SWARNING << "ChunkMaterial::subChunk: " << chunk << " is not one of my chunks!" << endLog;
+    return true;
+}
+
+Int32 ChunkMaterial::find(StateChunkPtr chunk) const
+{
+    const auto found = _mfChunks.find(chunk);
+    return found != _mfChunks.end() ? static_cast<Int32>(found - _mfChunks.begin()) : -1;
+}
+
+StateChunkPtr ChunkMaterial::find(const FieldContainerType &type, Int32 slot) const
+{
+    for (UInt32 i = 0; i < _mfChunks.size(); ++i) {
+        if (_mfChunks[i] && _mfChunks[i]->getType() == type && slotOf(i) == slot) {
+            return _mfChunks[i];
+        }
+    }
+    return NullFC;
+}
+
+void ChunkMaterial::clearChunks()
+{
+    _mfChunks.clear();
+    _mfSlots.clear();
+    _heldChunks.follow(_mfChunks);
+}
+
+void ChunkMaterial::fillState(State &state)
+{
+    for (UInt32 i = 0; i < _mfChunks.size(); ++i) {
+        state.addChunk(_mfChunks[i], slotOf(i));
+    }
+}
+
+bool ChunkMaterial::hasTransparentPart() const
+{
+    return std::any_of(_mfChunks.begin(), _mfChunks.end(),
+        [](const StateChunkPtr &chunk) { return chunk && chunk->isTransparent(); });
+}
+
+Int32 ChunkMaterial::slotOf(UInt32 index) const
+{
+    return index < _mfSlots.size() ? _mfSlots[index] : State::AutoSlotReplace;
+}
+
+OSG_END_NAMESPACE

@@ -1,0 +1,126 @@
+#include <OpenSG/OSGImage.h>
+
+#include <algorithm>
+#include <iterator>
+
+OSG_BEGIN_NAMESPACE
+
+namespace {
+
+struct FormatInfo
+{
+    UInt32 format;
+    Int32 channels;
+    bool hasAlpha;
+};
+
+constexpr FormatInfo formats[] = {
+    { Image::OSG_A_PF, 1, true },
+    { Image::OSG_I_PF, 1, false },
+    { Image::OSG_L_PF, 1, false },
+    { Image::OSG_LA_PF, 2, true },
+    { Image::OSG_RGB_PF, 3, false },
+    { Image::OSG_RGBA_PF, 4, true },
+    { Image::OSG_BGR_PF, 3, false },
+    { Image::OSG_BGRA_PF, 4, true },
+};
+
+struct TypeInfo
+{
+    Int32 type;
+    Int32 size;
+};
+
+constexpr TypeInfo types[] = {
+    { Image::OSG_UINT8_IMAGEDATA, 1 },
+    { Image::OSG_INT16_IMAGEDATA, 2 },
+    { Image::OSG_UINT16_IMAGEDATA, 2 },
+    { Image::OSG_INT32_IMAGEDATA, 4 },
+    { Image::OSG_UINT32_IMAGEDATA, 4 },
+    { Image::OSG_FLOAT32_IMAGEDATA, 4 },
+    { Image::OSG_FLOAT16_IMAGEDATA, 2 },
+};
+
+const FormatInfo *findFormat(UInt32 format)
+{
+    const auto found = std::find_if(std::begin(formats), std::end(formats),
+        [=](const FormatInfo &info) { return info.format == format; });
+    return found != std::end(formats) ? found : nullptr;
+}
+
+const TypeInfo *findType(Int32 type)
+{
+    const auto found = std::find_if(std::begin(types), std::end(types),
+        [=](const TypeInfo &info) { return info.type == type; });
+    return found != std::end(types) ? found : nullptr;
+}
+
+Int32 dimensionOf(Int32 width, Int32 height, Int32 depth)
+{
+    return depth > 1 ? 3 : height > 1 ? 2 : width > 1 ? 1 : 0;
+}
+
+} // namespace
+
+bool Image::set(UInt32 pixelFormat, Int32 width, Int32 height, Int32 depth, Int32 mipmapCount,
+    Int32 frameCount, Time frameDelay, const UInt8 *data, Int32 type, bool allocMem,
+    Int32 sideCount)
+{
+    const FormatInfo *format = findFormat(pixelFormat);
+    const TypeInfo *component = findType(type);
+    const Int32 least = std::min({ width, height, depth, mipmapCount, frameCount, sideCount });
+    if (!format || !component || least < 1) {
+        return false;
+    }
+    setPixelFormat(pixelFormat);
+    setDataType(type);
+    setComponentSize(component->size);
+    setBpp(format->channels * component->size);
+    setDimension(dimensionOf(width, height, depth));
+    setWidth(width);
+    setHeight(height);
+    setDepth(depth);
+    setMipMapCount(mipmapCount);
+    setSideCount(sideCount);
+    setFrameCount(frameCount);
+    setFrameDelay(frameDelay);
+    setSideSize(mipmapOffset(mipmapCount));
+    setFrameSize(getSideSize() * sideCount);
+    fillPixels(allocMem ? getFrameSize() * frameCount : 0, data);
+    return true;
+}
+
+void Image::fillPixels(UInt32 size, const UInt8 *data)
+{
+    auto &pixels = _mfPixel.getValues();
+    if (data) {
+        pixels.assign(data, data + size);
+    } else {
+        pixels.assign(size, 0);
+    }
+}
+
+UInt8 *Image::getData(UInt32 mipmap, UInt32 frame, UInt32 side)
+{
+    const UInt32 offset = frame * getFrameSize() + side * getSideSize() + mipmapOffset(mipmap);
+    return offset < _mfPixel.size() ? &_mfPixel[offset] : nullptr;
+}
+
+bool Image::hasAlphaChannel() const
+{
+    const FormatInfo *format = findFormat(getPixelFormat());
+    return format && format->hasAlpha;
+}
+
+// Each mipmap is half as large as the one before in every direction, but never below 1.
+UInt32 Image::mipmapOffset(UInt32 mipmap) const
+{
+    UInt32 offset = 0;
+    for (UInt32 level = 0; level < mipmap; ++level) {
+        offset += std::max(getWidth() >> level, 1) * std::max(getHeight() >> level, 1)
+            * std::max(getDepth() >> level, 1) * getBpp();
+    }
+    return offset;
+}
+
+OSG_END_NAMESPACE
