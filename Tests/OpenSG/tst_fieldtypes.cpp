@@ -1,3 +1,4 @@
+#include <OpenSG/OSGFieldContainerPtr.h>
 #include <OpenSG/OSGFieldFactory.h>
 #include <OpenSG/OSGInt32Fields.h>
 #include <OpenSG/OSGLog.h>
@@ -37,6 +38,7 @@ private slots:
     void boolListsHoldBits();
     void valuesComeBackFromTheirBinaryForm();
     void aReadBeyondTheBinaryFormGivesZero();
+    void aFieldOfValuesRefersToNoContainer();
 };
 
 namespace {
@@ -242,6 +244,12 @@ void tst_FieldTypes::aReadBeyondTheBinaryFormGivesZero()
     osg::SFInt32 field(7);
     field.copyFromBin(bytes);
     QCOMPARE(field.getValue(), 0);
+}
+
+void tst_FieldTypes::aFieldOfValuesRefersToNoContainer()
+{
+    QVERIFY(!osg::SFInt32(1).getFieldContainer());
+    QVERIFY(!osg::MFInt32(3).getFieldContainer(2));
 }
 
 QTEST_APPLESS_MAIN(tst_FieldTypes)
