@@ -7,6 +7,7 @@
 OSG_BEGIN_NAMESPACE
 
 class FieldContainerPtr;
+class FieldContainerType;
 class StringConversionStateBase;
 
 /// A value, or a list of them, that can be read and written without knowing its C++ type.
@@ -42,6 +43,14 @@ public:
     /// null handle for a field of values and for an index out of range.
     virtual FieldContainerPtr getFieldContainer(UInt32 index = 0) const;
 
+    /// Whether this is a field of pointers that may refer to containers of the type: the content
+    /// type of such a field is called after a container type, with "Ptr" behind it.
+    bool acceptsFieldContainer(const FieldContainerType &type) const;
+    /// Replaces the pointer of a single field, appends one to a multi-field. A container of a type
+    /// that is not accepted changes nothing, null always is. References are not counted here:
+    /// classes that count them do so when the edit ends.
+    void pushFieldContainer(const FieldContainerPtr &container);
+
 protected:
     Field() = default;
     Field(const Field &) = default;
@@ -49,6 +58,8 @@ protected:
 
     /// The handle at `index` seen as its base class; NULL where there is none.
     virtual const FieldContainerPtr *findHandle(UInt32 index) const;
+    /// Does nothing in a field of values.
+    virtual void storeHandle(const FieldContainerPtr &container) = 0;
     void dumpText() const;
 };
 

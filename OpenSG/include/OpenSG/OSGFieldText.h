@@ -1,10 +1,9 @@
 #pragma once
 
+#include <OpenSG/OSGFieldContainerPtr.h>
 #include <OpenSG/OSGFieldDataType.h>
 
 OSG_BEGIN_NAMESPACE
-
-class FieldContainerPtr;
 
 /// What SField and MField have in common: one value to and from text, one value as a handle.
 namespace FieldText {
@@ -42,6 +41,19 @@ template <class T> const FieldContainerPtr *asHandle(const T &value)
         return &value;
     } else {
         return nullptr;
+    }
+}
+
+/// Lets `value`, if it is a handle, refer to the container, which the caller knows to be of its
+/// class. False if it is none. The class itself need not be complete here.
+template <class T> bool assignHandle(T &value, const FieldContainerPtr &container)
+{
+    if constexpr (std::is_base_of_v<FieldContainerPtr, T>) {
+        FieldContainerPtr &handle = value;
+        handle = container;
+        return true;
+    } else {
+        return false;
     }
 }
 

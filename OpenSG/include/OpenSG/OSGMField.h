@@ -99,6 +99,7 @@ public:
 
 protected:
     const FieldContainerPtr *findHandle(UInt32 index) const override;
+    void storeHandle(const FieldContainerPtr &container) override;
 
     StorageType _values;
 
@@ -193,6 +194,15 @@ template <class FieldTypeT, Int32 fieldNameSpace>
 const FieldContainerPtr *MField<FieldTypeT, fieldNameSpace>::findHandle(UInt32 index) const
 {
     return index < size() ? FieldText::asHandle<FieldTypeT>(_values[index]) : nullptr;
+}
+
+template <class FieldTypeT, Int32 fieldNameSpace>
+void MField<FieldTypeT, fieldNameSpace>::storeHandle(const FieldContainerPtr &container)
+{
+    FieldTypeT handle {};
+    if (FieldText::assignHandle(handle, container)) {
+        _values.push_back(handle);
+    }
 }
 
 OSG_END_NAMESPACE

@@ -49,6 +49,7 @@ public:
 
 protected:
     const FieldContainerPtr *findHandle(UInt32 index) const override;
+    void storeHandle(const FieldContainerPtr &container) override;
 
     FieldTypeT _value {};
 
@@ -105,6 +106,12 @@ template <class FieldTypeT, Int32 fieldNameSpace>
 const FieldContainerPtr *SField<FieldTypeT, fieldNameSpace>::findHandle(UInt32 index) const
 {
     return index == 0 ? FieldText::asHandle(_value) : nullptr;
+}
+
+template <class FieldTypeT, Int32 fieldNameSpace>
+void SField<FieldTypeT, fieldNameSpace>::storeHandle(const FieldContainerPtr &container)
+{
+    FieldText::assignHandle(_value, container);
 }
 
 OSG_END_NAMESPACE
