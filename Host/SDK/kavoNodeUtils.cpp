@@ -1,0 +1,37 @@
+#include <kavoNodeUtils.h>
+
+#include <OpenSG/OSGNode.h>
+#include <OpenSG/OSGNodeCore.h>
+#include <OpenSG/OSGSimpleAttachments.h>
+
+namespace {
+
+// Attachments are stored by group, and a group may hold types that are no names.
+const char *attachedName(const osg::AttachmentContainerPtr &container)
+{
+    const osg::FieldContainerType &nameType = osg::Name::getClassType();
+    const osg::AttachmentPtr found = container->findAttachment(nameType.getGroupId());
+    if (found == osg::NullFC || !found->getType().isDerivedFrom(nameType))
+        return nullptr;
+    return static_cast<osg::Name *>(found.getCPtr())->getFieldPtr()->getValue().c_str();
+}
+
+}
+
+const char *kavoNodeUtils::getName(const osg::NodePtr &node)
+{
+    if (node == osg::NullFC)
+        return nullptr;
+    if (const char *name = attachedName(node))
+        return name;
+    const osg::NodeCorePtr core = node->getCore();
+    if (core == osg::NullFC)
+        return nullptr;
+    const char *name = attachedName(core);
+    return name ? name : core->getType().getCName();
+}
+
+bool kavoNodeUtils::hasName(const osg::NodePtr &node)
+{
+    return node != osg::NullFC && attachedName(node);
+}

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <kavoSDKExport.h>
+
+#include <OpenSG/OSGNodePtr.h>
+
+/// Questions about nodes.
+class KAVO_SDK_EXPORT kavoNodeUtils
+{
+public:
+    /// The display name: the text of the node's Name attachment, else that of its core's, else the
+    /// name of the core's type. Null for a null node and for a node with neither name nor core.
+    /// The text belongs to the scene graph and is valid until the name changes.
+    static const char *getName(const osg::NodePtr &node);
+    /// Whether the node itself has a Name attachment, be it an empty one.
+    static bool hasName(const osg::NodePtr &node);
+};
