@@ -1,0 +1,54 @@
+#pragma once
+
+#include <OSGTransformVariant.h>
+#include <kavoSDKExport.h>
+
+#include <OpenSG/OSGAttachment.h>
+
+OSG_BEGIN_NAMESPACE
+
+class TransformVariantList;
+typedef FCPtr<AttachmentPtr, TransformVariantList> TransformVariantListPtr;
+
+/// Attachment that holds the transform variants of a node, null elements included. It keeps a
+/// reference to each; add and remove elements through addVariant and clearVariants only.
+class KAVO_SDK_EXPORT TransformVariantList : public Attachment
+{
+    typedef Attachment Inherited;
+
+public:
+    typedef TransformVariantListPtr Ptr;
+
+    OSG_FC_FIRST_FIELD_IDM_DECL(VariantsField)
+    OSG_FC_LAST_FIELD_IDM_DECL(VariantsField)
+
+    OSG_FIELD_CONTAINER_DECL(TransformVariantListPtr)
+
+    MFTransformVariantPtr *getMFVariants() { return &_mfVariants; }
+    const MFTransformVariantPtr &getVariants() const { return _mfVariants; }
+    void addVariant(const TransformVariantPtr &variant);
+    void clearVariants();
+
+    void dump(UInt32 indent = 0, const BitVector flags = 0) const override;
+
+protected:
+    TransformVariantList();
+    TransformVariantList(const TransformVariantList &source);
+    ~TransformVariantList() override;
+
+    void executeSync(FieldContainer &other, const BitVector &which) override;
+    void executeSyncImpl(TransformVariantList *other, const BitVector &which);
+
+    MFTransformVariantPtr _mfVariants;
+
+private:
+    friend class FieldContainer;
+    static FieldDescription *_desc[];
+    static FieldContainerType _type;
+
+    void operator=(const TransformVariantList &) = delete;
+};
+
+OSG_FIELD_CONTAINER_INL_DEF(TransformVariantList, TransformVariantListPtr)
+
+OSG_END_NAMESPACE
