@@ -1,0 +1,119 @@
+#pragma once
+
+#include <OpenSG/OSGConfig.h>
+
+#include <functional>
+#include <utility>
+
+OSG_BEGIN_NAMESPACE
+
+/// How a functor takes a handle: by reference. Callees may also take it by value or by reference
+/// to const.
+template <class PtrT> struct CPtrRefCallArg
+{
+    typedef PtrT &ArgType;
+};
+
+/// How a functor takes a plain value.
+template <class T> struct ArgsCollector
+{
+    typedef T ArgType;
+};
+
+/// A callable of one argument; empty when default constructed.
+template <class RetT, class Arg1T> class TypedFunctor1Base
+{
+public:
+    typedef std::function<RetT(typename Arg1T::ArgType)> Function;
+
+    TypedFunctor1Base() = default;
+    TypedFunctor1Base(Function function)
+        : _function(std::move(function))
+    {
+    }
+
+    RetT call(typename Arg1T::ArgType argument) const { return _function(argument); }
+
+private:
+    Function _function;
+};
+
+/// A callable of two arguments.
+template <class RetT, class Arg1T, class Arg2T> class TypedFunctor2Base
+{
+public:
+    typedef std::function<RetT(typename Arg1T::ArgType, typename Arg2T::ArgType)> Function;
+
+    TypedFunctor2Base() = default;
+    TypedFunctor2Base(Function function)
+        : _function(std::move(function))
+    {
+    }
+
+    RetT call(typename Arg1T::ArgType first, typename Arg2T::ArgType second) const
+    {
+        return _function(first, second);
+    }
+
+private:
+    Function _function;
+};
+
+template <class RetT, class PtrT>
+TypedFunctor1Base<RetT, CPtrRefCallArg<PtrT>> osgTypedFunctionFunctor1CPtrRef(RetT (*f)(PtrT &))
+{
+    return { f };
+}
+
+template <class RetT, class PtrT>
+TypedFunctor1Base<RetT, CPtrRefCallArg<PtrT>> osgTypedFunctionFunctor1CPtrRef(
+    RetT (*f)(const PtrT &))
+{
+    return { f };
+}
+
+template <class RetT, class PtrT>
+TypedFunctor1Base<RetT, CPtrRefCallArg<PtrT>> osgTypedFunctionFunctor1CPtrRef(RetT (*f)(PtrT))
+{
+    return { f };
+}
+
+/// The object has to outlive the functor.
+template <class RetT, class ObjectT, class PtrT, class MethodT>
+TypedFunctor1Base<RetT, CPtrRefCallArg<PtrT>> osgTypedMethodFunctor1ObjPtrCPtrRef(
+    ObjectT *object, MethodT ObjectT::*method)
+{
+    return { [=](PtrT &argument) { return (object->*method)(argument); } };
+}
+
+template <class RetT, class PtrT, class Arg2T>
+TypedFunctor2Base<RetT, CPtrRefCallArg<PtrT>, ArgsCollector<Arg2T>> osgTypedFunctionFunctor2CPtrRef(
+    RetT (*f)(PtrT &, Arg2T))
+{
+    return { f };
+}
+
+template <class RetT, class PtrT, class Arg2T>
+TypedFunctor2Base<RetT, CPtrRefCallArg<PtrT>, ArgsCollector<Arg2T>> osgTypedFunctionFunctor2CPtrRef(
+    RetT (*f)(const PtrT &, Arg2T))
+{
+    return { f };
+}
+
+template <class RetT, class PtrT, class Arg2T>
+TypedFunctor2Base<RetT, CPtrRefCallArg<PtrT>, ArgsCollector<Arg2T>> osgTypedFunctionFunctor2CPtrRef(
+    RetT (*f)(PtrT, Arg2T))
+{
+    return { f };
+}
+
+template <class RetT, class ObjectT, class PtrT, class Arg2T, class MethodT>
+TypedFunctor2Base<RetT, CPtrRefCallArg<PtrT>, ArgsCollector<Arg2T>>
+osgTypedMethodFunctor2ObjPtrCPtrRef(ObjectT *object, MethodT ObjectT::*method)
+{
+    return {
+        [=](PtrT &first, Arg2T second) { return (object->*method)(first, second); },
+    };
+}
+
+OSG_END_NAMESPACE

@@ -1,0 +1,37 @@
+#include <OpenSG/OSGGraphOpFactory.h>
+
+OSG_BEGIN_NAMESPACE
+
+GraphOpFactory &GraphOpFactory::the()
+{
+    static GraphOpFactory factory;
+    return factory;
+}
+
+void GraphOpFactory::registerOp(GraphOp *prototype)
+{
+    if (prototype) {
+        _prototypes[prototype->getName()] = prototype;
+    }
+}
+
+void GraphOpFactory::unRegisterOp(GraphOp *prototype)
+{
+    if (prototype) {
+        unRegisterOp(prototype->getName().c_str());
+    }
+}
+
+void GraphOpFactory::unRegisterOp(const char *name)
+{
+    _prototypes.erase(name);
+}
+
+// Deliberate: clients that list the operations are used to finding unknown names, too.
+GraphOp *GraphOpFactory::create(const char *name)
+{
+    GraphOp *prototype = _prototypes[name];
+    return prototype ? prototype->create() : nullptr;
+}
+
+OSG_END_NAMESPACE

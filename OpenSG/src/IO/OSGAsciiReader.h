@@ -1,0 +1,78 @@
+#pragma once
+
+#include "OSGPointerField.h"
+#include "OSGSceneScanner.h"
+
+#include <OpenSG/OSGSceneFileType.h>
+
+#include <functional>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+OSG_BEGIN_NAMESPACE
+
+struct FieldSyntax;
+
+/// Makes the containers that the text of an ASCII scene file describes.
+///
+/// What it does not understand it reports in the log, with line and token, and skips: unknown
+/// containers with all that is in them, otherwise up to the next field of the container that is
+/// being read.
+class AsciiReader
+{
+public:
+    /// Called with the number of bytes read, now and then.
+    typedef std::function<void(std::size_t)> Progress;
+
+    /// The text must outlive the reader.
+    AsciiReader(std::string_view text, Progress progress);
+
+    /// The containers at the top of the file; nobody holds a reference to them yet.
+    FCPtrStore read();
+
+private:
+    // Each stands on the first token of what it reads. False: the text goes on in an unknown way.
+    bool readField(const FieldContainerPtr &owner);
+    bool readPointers(PointerField field);
+    bool readPointer(PointerField &field);
+    bool readListedPointer(PointerField &field, const FieldContainerType &owner);
+    bool readValues(Field &field, const FieldSyntax &syntax);
+    bool readValue(Field &field, const FieldSyntax &syntax);
+
+    FieldContainerPtr readTop();
+    FieldContainerPtr readContainer(const PointerField *target);
+    FieldContainerPtr readUse(const PointerField *target);
+    FieldContainerPtr create(const std::string &name, const PointerField *target);
+    void readBody(const FieldContainerPtr &container);
+    void define(const std::string &name, const FieldContainerPtr &container);
+
+    bool readBool();
+    bool readString();
+    bool readNumbers(UInt32 count, bool areReals);
+    bool readVolume();
+    bool isNumber(bool isReal) const;
+
+    bool at(SceneToken::Kind kind) const { return _scanner.token().kind == kind; }
+    bool atWord(std::string_view word) const;
+    bool atNode() const;
+    FieldContainerType *typeAtToken() const;
+    FieldDescription *fieldAtToken(const FieldContainerPtr &owner) const;
+    bool isOpen(const FieldContainerPtr &container) const;
+
+    bool fail();
+    void skipGroup();
+    void skipNode();
+    void skipToField(const FieldContainerPtr &owner);
+
+    SceneScanner _scanner;
+    Progress _progress;
+    std::string _value;
+    /// Ids, since containers may go while the file is read: a second name replaces the first.
+    std::unordered_map<std::string, UInt32> _ids;
+    /// The containers whose bodies are being read, outermost first.
+    std::vector<FieldContainerPtr> _open;
+    std::size_t _reportedPosition = 0;
+};
+
+OSG_END_NAMESPACE
