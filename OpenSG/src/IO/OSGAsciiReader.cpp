@@ -10,7 +10,6 @@
 #include <OpenSG/OSGSimpleAttachments.h>
 
 #include <algorithm>
-#include <strings.h>
 
 OSG_BEGIN_NAMESPACE
 
@@ -61,9 +60,11 @@ bool isReadable(const FieldContainerPtr &owner, const FieldDescription &descript
 
 } // namespace
 
-AsciiReader::AsciiReader(std::string_view text, Progress progress)
+AsciiReader::AsciiReader(std::string_view text, SceneFileType::Progress progress)
     : _scanner(withoutByteOrderMark(text))
+    , _value(_scanner)
     , _progress(std::move(progress))
+    , _size(text.size())
 {
     checkHeader(withoutByteOrderMark(text));
 }
@@ -111,8 +112,6 @@ FieldContainerPtr AsciiReader::readContainer(const PointerField *target)
     const FieldContainerPtr container = create(name, target);
     if (container) {
         readBody(container);
-    } else {
-        skipNode();
     }
     return container;
 }
@@ -123,6 +122,7 @@ FieldContainerPtr AsciiReader::create(const std::string &name, const PointerFiel
     const bool isAccepted = type && !type->isAbstract() && (!target || target->accepts(*type));
     if (!isAccepted || _open.size() == AsciiFormat::maxDepth) {
         fail();
+        skipNode();
         return NullFC;
     }
     _scanner.advance();
@@ -130,7 +130,7 @@ FieldContainerPtr AsciiReader::create(const std::string &name, const PointerFiel
         fail();
         return NullFC;
     }
-    _progress(_scanner.position());
+    _progress(_scanner.position(), _size);
     const FieldContainerPtr container = type->createFieldContainer();
     if (!name.empty()) {
         define(name, container);
@@ -265,91 +265,11 @@ bool AsciiReader::readValues(Field &field, const FieldSyntax &syntax)
 
 bool AsciiReader::readValue(Field &field, const FieldSyntax &syntax)
 {
-    bool ok = false;
-    switch (syntax.kind) {
-    case FieldSyntax::Bool:
-        ok = readBool();
-        break;
-    case FieldSyntax::String:
-    case FieldSyntax::Text:
-        ok = readString();
-        break;
-    case FieldSyntax::Integers:
-    case FieldSyntax::Reals:
-        ok = readNumbers(syntax.count, syntax.kind == FieldSyntax::Reals);
-        break;
-    case FieldSyntax::Volume:
-        ok = readVolume();
-        break;
-    default:
-        break;
-    }
-    if (!ok) {
+    if (!_value.read(syntax)) {
         return fail();
     }
-    field.pushValueByStr(_value.c_str());
+    field.pushValueByStr(_value.text().c_str());
     return true;
-}
-
-bool AsciiReader::readBool()
-{
-    _value = _scanner.token().text;
-    const bool isBool
-        = strcasecmp(_value.c_str(), "true") == 0 || strcasecmp(_value.c_str(), "false") == 0;
-    if (!isBool || !at(SceneToken::Identifier)) {
-        return false;
-    }
-    _scanner.advance();
-    return true;
-}
-
-bool AsciiReader::readString()
-{
-    if (!at(SceneToken::String) && !at(SceneToken::Identifier)) {
-        return false;
-    }
-    const std::string_view text = _scanner.token().text;
-    _value.clear();
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const char next = i + 1 < text.size() ? text[i + 1] : '\0';
-        i += text[i] == '\\' && (next == '"' || next == '\\');
-        _value += text[i];
-    }
-    _scanner.advance();
-    return true;
-}
-
-bool AsciiReader::readNumbers(UInt32 count, bool areReals)
-{
-    _value.clear();
-    for (UInt32 i = 0; i < count; ++i) {
-        if (!isNumber(areReals)) {
-            return false;
-        }
-        _value.append(i > 0 ? " " : "").append(_scanner.token().text);
-        _scanner.advance();
-    }
-    return true;
-}
-
-// Whether it is a box or a sphere shows only by the number of numbers.
-bool AsciiReader::readVolume()
-{
-    constexpr UInt32 sphereCount = 4;
-    constexpr UInt32 boxCount = 6;
-    if (!readNumbers(sphereCount, true)) {
-        return false;
-    }
-    for (UInt32 count = sphereCount; isNumber(true) && count < boxCount; ++count) {
-        _value.append(" ").append(_scanner.token().text);
-        _scanner.advance();
-    }
-    return true;
-}
-
-bool AsciiReader::isNumber(bool isReal) const
-{
-    return at(SceneToken::Integer) || (isReal && at(SceneToken::Real));
 }
 
 bool AsciiReader::atWord(std::string_view word) const

@@ -1,11 +1,10 @@
 #pragma once
 
 #include "OSGPointerField.h"
-#include "OSGSceneScanner.h"
+#include "OSGSceneValueReader.h"
 
 #include <OpenSG/OSGSceneFileType.h>
 
-#include <functional>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -22,11 +21,8 @@ struct FieldSyntax;
 class AsciiReader
 {
 public:
-    /// Called with the number of bytes read, now and then.
-    typedef std::function<void(std::size_t)> Progress;
-
     /// The text must outlive the reader.
-    AsciiReader(std::string_view text, Progress progress);
+    AsciiReader(std::string_view text, SceneFileType::Progress progress);
 
     /// The containers at the top of the file; nobody holds a reference to them yet.
     FCPtrStore read();
@@ -47,12 +43,6 @@ private:
     void readBody(const FieldContainerPtr &container);
     void define(const std::string &name, const FieldContainerPtr &container);
 
-    bool readBool();
-    bool readString();
-    bool readNumbers(UInt32 count, bool areReals);
-    bool readVolume();
-    bool isNumber(bool isReal) const;
-
     bool at(SceneToken::Kind kind) const { return _scanner.token().kind == kind; }
     bool atWord(std::string_view word) const;
     bool atNode() const;
@@ -66,8 +56,9 @@ private:
     void skipToField(const FieldContainerPtr &owner);
 
     SceneScanner _scanner;
-    Progress _progress;
-    std::string _value;
+    SceneValueReader _value;
+    SceneFileType::Progress _progress;
+    std::size_t _size;
     /// Ids, since containers may go while the file is read: a second name replaces the first.
     std::unordered_map<std::string, UInt32> _ids;
     /// The containers whose bodies are being read, outermost first.

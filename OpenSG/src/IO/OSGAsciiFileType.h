@@ -1,0 +1,17 @@
+#pragma once
+
+#include <OpenSG/OSGSceneFileType.h>
+
+OSG_BEGIN_NAMESPACE
+
+/// The ASCII format, suffix "osg".
+class AsciiFileType : public SceneFileType
+{
+public:
+    AsciiFileType();
+
+    FCPtrStore readTopNodes(std::istream &is, const Progress &progress) const override;
+    bool write(const NodePtr &node, std::ostream &os, const Progress &progress) const override;
+};
+
+OSG_END_NAMESPACE

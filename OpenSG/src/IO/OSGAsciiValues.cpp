@@ -1,0 +1,120 @@
+#include "OSGAsciiValues.h"
+
+#include "OSGUnbrokenStringState.h"
+
+#include <OpenSG/OSGLog.h>
+#include <OpenSG/OSGStandardStringConversionState.h>
+
+#include <algorithm>
+
+OSG_BEGIN_NAMESPACE
+
+namespace {
+
+/// Beyond what any type of real can hold, so that it reads back as infinite.
+constexpr const Char8 *infinite = "1.000000e+9999";
+constexpr const Char8 *zero = "0.000000e+00";
+
+// True if more than single blanks between words is in the text.
+bool hasLayout(const std::string &text)
+{
+    const auto isBlank = [](char c) { return c == ' '; };
+    const auto isPair = [=](char a, char b) { return isBlank(a) && isBlank(b); };
+    return text.find_first_of("\t\n\v\f\r") != std::string::npos
+        || std::adjacent_find(text.begin(), text.end(), isPair) != text.end();
+}
+
+// A quote gets a backslash, and so does a backslash that would be taken for the one of an escape.
+std::string withEscapes(const std::string &text)
+{
+    std::string result;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const char next = i + 1 < text.size() ? text[i + 1] : '"';
+        const bool escapesNext = text[i] == '\\' && (next == '\\' || next == '"');
+        if (text[i] == '"' || escapesNext) {
+            result += '\\';
+        }
+        result += text[i];
+    }
+    return result;
+}
+
+bool replaceAll(std::string &text, const std::string &word, const std::string &replacement)
+{
+    bool found = false;
+    for (std::size_t at = text.find(word); at != std::string::npos;
+         at = text.find(word, at + replacement.size())) {
+        text.replace(at, word.size(), replacement);
+        found = true;
+    }
+    return found;
+}
+
+} // namespace
+
+AsciiValues::AsciiValues(bool keepsWhiteSpace, const Char8 *owner, const Char8 *fieldName)
+    : _keepsWhiteSpace(keepsWhiteSpace)
+    , _owner(owner)
+    , _fieldName(fieldName)
+{
+}
+
+std::string AsciiValues::write(
+    const Field &field, const FieldSyntax &syntax, UInt32 indent, UInt32 width)
+{
+    StandardStringConversionState state(indent, width);
+    if (syntax.kind != FieldSyntax::String && syntax.kind != FieldSyntax::Text) {
+        std::string text;
+        return withReadableNumbers(field.getValueByStr(text, state));
+    }
+    UnbrokenStringState unbroken(indent, width);
+    const bool isUnbroken = _keepsWhiteSpace && !field.isEmpty();
+    return isUnbroken ? writeStrings(field, unbroken) : writeStrings(field, state);
+}
+
+std::string AsciiValues::writeStrings(const Field &field, StringConversionStateBase &state)
+{
+    std::string text;
+    state.beginField(&field, text);
+    for (UInt32 i = 0; i < field.getSize(); ++i) {
+        std::string value = quoted(field, i);
+        state.addValueStr(value, text);
+    }
+    return state.endField(&field, text);
+}
+
+std::string AsciiValues::quoted(const Field &field, UInt32 index)
+{
+    std::string text;
+    field.getValueByStr(text, index);
+    if (FieldSyntax::of(field.getType()).kind == FieldSyntax::String) {
+        text = text.substr(1, text.size() - 2);
+    }
+    if (text.find('"') != std::string::npos) {
+        report("a quote in the text is written with a backslash");
+    }
+    if (!_keepsWhiteSpace && hasLayout(text)) {
+        report("white space in the text is written as single blanks");
+    }
+    return '"' + withEscapes(text) + '"';
+}
+
+std::string AsciiValues::withReadableNumbers(std::string text)
+{
+    if (text.find('n') == std::string::npos) {
+        return text;
+    }
+    replaceAll(text, "inf", infinite);
+    const bool hadNegative = replaceAll(text, "-nan", zero);
+    if (replaceAll(text, "nan", zero) || hadNegative) {
+        report("what is not a number is written as 0");
+    }
+    return text;
+}
+
+void AsciiValues::report(const Char8 *problem) const
+{
+    SWARNING << "Scene file, field " << _fieldName << " of " << _owner << ": " << problem << endLog;
+}
+
+OSG_END_NAMESPACE

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "OSGFieldSyntax.h"
+
+#include <OpenSG/OSGField.h>
+#include <OpenSG/OSGStringConversionStateBase.h>
+
+OSG_BEGIN_NAMESPACE
+
+/// The values of a field as they stand in an ASCII scene file.
+///
+/// Some values have no form of their own in the format. What is written instead is reported in the
+/// log: of a number that is none, 0; of blanks, tabs and line ends in a string, one blank, unless
+/// they are kept. A quote in a string is protected by a backslash, which is reported, too, since
+/// not every program writes it so.
+class AsciiValues
+{
+public:
+    /// \param owner what reports call the field, the owner's type
+    AsciiValues(bool keepsWhiteSpace, const Char8 *owner, const Char8 *fieldName);
+
+    /// In lines that begin with `indent` blanks and are at most `width` characters long besides.
+    std::string write(const Field &field, const FieldSyntax &syntax, UInt32 indent, UInt32 width);
+
+private:
+    std::string writeStrings(const Field &field, StringConversionStateBase &state);
+    std::string quoted(const Field &field, UInt32 index);
+    std::string withReadableNumbers(std::string text);
+    void report(const Char8 *problem) const;
+
+    bool _keepsWhiteSpace;
+    const Char8 *_owner;
+    const Char8 *_fieldName;
+};
+
+OSG_END_NAMESPACE

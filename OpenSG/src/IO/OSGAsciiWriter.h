@@ -1,0 +1,50 @@
+#pragma once
+
+#include "OSGSharedContainers.h"
+
+#include <OpenSG/OSGSceneFileType.h>
+
+#include <iosfwd>
+#include <string>
+
+OSG_BEGIN_NAMESPACE
+
+class AsciiValues;
+struct FieldSyntax;
+
+/// Writes a container, and all that it refers to, as an ASCII scene file. Every field that is not
+/// internal is written, with one exception: one of a type that some readers of the format stumble
+/// over is left out while it has the value of a new container.
+class AsciiWriter
+{
+public:
+    AsciiWriter(std::ostream &out, bool keepsWhiteSpace, SceneFileType::Progress progress);
+
+    /// False, and a line in the log, if the graph is too deep for the format. The stream is the
+    /// caller's to check.
+    bool write(const FieldContainerPtr &root);
+
+private:
+    void writeContainer(const FieldContainerPtr &container, UInt32 indent);
+    void writeBody(const FieldContainerPtr &container, UInt32 indent);
+    void writeField(
+        const FieldContainerPtr &owner, const FieldDescription &description, UInt32 indent);
+    void writeAttachments(const Field &field, UInt32 indent);
+    void writePointers(const Field &field, UInt32 indent);
+    void writePointer(const FieldContainerPtr &target, UInt32 indent);
+    void writeValues(
+        const Field &field, const FieldSyntax &syntax, AsciiValues &values, UInt32 indent);
+    void newLine(UInt32 indent) { _text.append(indent, ' '); }
+    void flush(std::size_t limit);
+
+    std::ostream &_out;
+    bool _keepsWhiteSpace;
+    SceneFileType::Progress _progress;
+    SharedContainers *_shared = nullptr;
+    std::string _text;
+    std::size_t _writtenCount = 0;
+    UInt32 _depth = 0;
+    bool _isTooDeep = false;
+};
+
+OSG_END_NAMESPACE

@@ -1,0 +1,249 @@
+#include <OpenSG/OSGSceneFileHandler.h>
+
+#include "OSGAsciiFileType.h"
+
+#include <OpenSG/OSGGroup.h>
+#include <OpenSG/OSGLog.h>
+
+#include <algorithm>
+#include <chrono>
+#include <fstream>
+#include <strings.h>
+
+OSG_BEGIN_NAMESPACE
+
+namespace {
+
+GraphOpSeq standardSequence("SharePtr(includes=Material,StateChunk)");
+
+/// Turns amounts into per cent for a callback, which it does not call more often than anybody
+/// could see.
+class ThrottledProgress
+{
+public:
+    explicit ThrottledProgress(SceneFileHandler::progresscbfp callback)
+        : _callback(callback)
+    {
+        if (_callback) {
+            _callback(0);
+        }
+    }
+
+    void operator()(std::size_t done, std::size_t total)
+    {
+        const auto now = std::chrono::steady_clock::now();
+        if (_callback && total > 0 && now - _last >= interval) {
+            _last = now;
+            _callback(static_cast<UInt32>(done * 100 / total));
+        }
+    }
+
+private:
+    static constexpr std::chrono::milliseconds interval { 100 };
+
+    SceneFileHandler::progresscbfp _callback;
+    std::chrono::steady_clock::time_point _last = std::chrono::steady_clock::now();
+};
+
+void tell(SceneFileHandler::filenamecbfp callback, const Char8 *fileName)
+{
+    if (callback) {
+        callback(fileName);
+    }
+}
+
+// The new root of all; null if there is nothing. A node that the file uses again further down has
+// found its place already.
+NodePtr gather(const FCPtrStore &containers)
+{
+    if (containers.empty()) {
+        return NullFC;
+    }
+    const NodePtr root = makeCoredNode<Group>();
+    beginEditCP(root, Node::ChildrenFieldMask);
+    for (const FieldContainerPtr &container : containers) {
+        const NodePtr node = NodePtr::dcast(container);
+        if (!node) {
+            root->addChild(makeNodeFor(NodeCorePtr::dcast(container)));
+        } else if (!node->getParent()) {
+            root->addChild(node);
+        }
+    }
+    endEditCP(root, Node::ChildrenFieldMask);
+    return root;
+}
+
+NodePtr withOperations(NodePtr root, GraphOpSeq *operations)
+{
+    if (root && operations) {
+        operations->traverse(root);
+    }
+    return root;
+}
+
+FCPtrStore withOperations(const FCPtrStore &containers, GraphOpSeq *operations)
+{
+    for (const FieldContainerPtr &container : containers) {
+        withOperations(NodePtr::dcast(container), operations);
+    }
+    return containers;
+}
+
+} // namespace
+
+GraphOpSeq *SceneFileHandler::_defaultgraphOpSeq = &standardSequence;
+
+SceneFileHandler &SceneFileHandler::the()
+{
+    static SceneFileHandler handler;
+    return handler;
+}
+
+SceneFileHandler::SceneFileHandler()
+{
+    _types.push_back(std::make_unique<AsciiFileType>());
+}
+
+NodePtr SceneFileHandler::read(const Char8 *fileName, GraphOpSeq *graphOpSeq)
+{
+    std::ifstream file;
+    const SceneFileType *type = open(fileName, file);
+    if (!type) {
+        return NullFC;
+    }
+    tell(_readBegin, fileName);
+    const NodePtr root = withOperations(gather(readContainers(*type, file, fileName)), graphOpSeq);
+    tell(_readEnd, fileName);
+    return root;
+}
+
+NodePtr SceneFileHandler::read(std::istream &is, const Char8 *ext, GraphOpSeq *graphOpSeq)
+{
+    const SceneFileType *type = findType(ext, SceneFileType::OSG_READ_SUPPORTED);
+    return type ? withOperations(gather(readContainers(*type, is, ext)), graphOpSeq) : NodePtr();
+}
+
+FCPtrStore SceneFileHandler::readTopNodes(const Char8 *fileName, GraphOpSeq *graphOpSeq)
+{
+    std::ifstream file;
+    const SceneFileType *type = open(fileName, file);
+    if (!type) {
+        return FCPtrStore();
+    }
+    tell(_readBegin, fileName);
+    const FCPtrStore containers = withOperations(readContainers(*type, file, fileName), graphOpSeq);
+    tell(_readEnd, fileName);
+    return containers;
+}
+
+FCPtrStore SceneFileHandler::readTopNodes(
+    std::istream &is, const Char8 *ext, GraphOpSeq *graphOpSeq)
+{
+    const SceneFileType *type = findType(ext, SceneFileType::OSG_READ_SUPPORTED);
+    return type ? withOperations(readContainers(*type, is, ext), graphOpSeq) : FCPtrStore();
+}
+
+bool SceneFileHandler::write(const NodePtr &node, const Char8 *fileName, bool compress)
+{
+    if (!findType(fileName, SceneFileType::OSG_WRITE_SUPPORTED)) {
+        return false;
+    }
+    std::ofstream file(fileName, std::ios::binary);
+    if (!file) {
+        SWARNING << "Couldn't open file " << fileName << endLog;
+        return false;
+    }
+    const ThrottledProgress start(_writeProgress);
+    tell(_writeBegin, fileName);
+    const bool ok = write(node, file, fileName, compress);
+    tell(_writeEnd, fileName);
+    return ok;
+}
+
+bool SceneFileHandler::write(const NodePtr &node, std::ostream &os, const Char8 *ext, bool)
+{
+    const SceneFileType *type = findType(ext, SceneFileType::OSG_WRITE_SUPPORTED);
+    if (!type || !node) {
+        return false;
+    }
+    const bool ok = type->write(node, os, ThrottledProgress(_writeProgress)) && os.flush();
+    if (!ok) {
+        SWARNING << "Couldn't write the scene to " << ext << endLog;
+    }
+    return ok;
+}
+
+SceneFileType *SceneFileHandler::getFileType(const Char8 *fileNameOrExtension)
+{
+    const std::string name = fileNameOrExtension ? fileNameOrExtension : "";
+    const std::string suffix = name.substr(name.rfind('.') + 1);
+    for (const auto &type : _types) {
+        for (const std::string &known : type->getSuffixes()) {
+            if (strcasecmp(known.c_str(), suffix.c_str()) == 0) {
+                return type.get();
+            }
+        }
+    }
+    return nullptr;
+}
+
+int SceneFileHandler::getSuffixList(std::list<const Char8 *> &result, UInt32 flags)
+{
+    int count = 0;
+    for (const auto &type : _types) {
+        if (type->getFlags() & flags) {
+            for (const std::string &suffix : type->getSuffixes()) {
+                result.push_back(suffix.c_str());
+                ++count;
+            }
+        }
+    }
+    return count;
+}
+
+bool SceneFileHandler::setOptions(const Char8 *suffix, const Char8 *options)
+{
+    SceneFileType *type = getFileType(suffix);
+    if (type) {
+        type->setOptions(options);
+    }
+    return type;
+}
+
+const SceneFileType *SceneFileHandler::findType(const Char8 *fileNameOrExtension, UInt32 flag)
+{
+    const SceneFileType *type = getFileType(fileNameOrExtension);
+    if (!type || !(type->getFlags() & flag)) {
+        SWARNING << "Unknown scene file format: "
+                 << (fileNameOrExtension ? fileNameOrExtension : "") << endLog;
+        return nullptr;
+    }
+    return type;
+}
+
+// The type of the file, ready to be read; NULL if it cannot be.
+const SceneFileType *SceneFileHandler::open(const Char8 *fileName, std::ifstream &file)
+{
+    const SceneFileType *type = findType(fileName, SceneFileType::OSG_READ_SUPPORTED);
+    if (!type) {
+        return nullptr;
+    }
+    file.open(getPathHandler()->findFile(fileName), std::ios::binary);
+    if (!file) {
+        SWARNING << "Couldn't open file " << fileName << endLog;
+        return nullptr;
+    }
+    return type;
+}
+
+FCPtrStore SceneFileHandler::readContainers(
+    const SceneFileType &type, std::istream &is, const Char8 *name)
+{
+    const FCPtrStore containers = type.readTopNodes(is, ThrottledProgress(_readProgress));
+    if (containers.empty()) {
+        SWARNING << "There is no scene in " << name << endLog;
+    }
+    return containers;
+}
+
+OSG_END_NAMESPACE

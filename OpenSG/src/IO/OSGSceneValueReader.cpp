@@ -1,0 +1,89 @@
+#include "OSGSceneValueReader.h"
+
+#include "OSGFieldSyntax.h"
+
+#include <strings.h>
+
+OSG_BEGIN_NAMESPACE
+
+bool SceneValueReader::read(const FieldSyntax &syntax)
+{
+    switch (syntax.kind) {
+    case FieldSyntax::Bool:
+        return readBool();
+    case FieldSyntax::String:
+    case FieldSyntax::Text:
+        return readString();
+    case FieldSyntax::Integers:
+        return readNumbers(syntax.count, false);
+    case FieldSyntax::Reals:
+        return readNumbers(syntax.count, true);
+    case FieldSyntax::Volume:
+        return readVolume();
+    default:
+        return false;
+    }
+}
+
+bool SceneValueReader::readBool()
+{
+    _text = _scanner.token().text;
+    const bool isBool
+        = strcasecmp(_text.c_str(), "true") == 0 || strcasecmp(_text.c_str(), "false") == 0;
+    if (!isBool || !at(SceneToken::Identifier)) {
+        return false;
+    }
+    _scanner.advance();
+    return true;
+}
+
+bool SceneValueReader::readString()
+{
+    if (!at(SceneToken::String) && !at(SceneToken::Identifier)) {
+        return false;
+    }
+    const std::string_view text = _scanner.token().text;
+    _text.clear();
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const char next = i + 1 < text.size() ? text[i + 1] : '\0';
+        i += text[i] == '\\' && (next == '"' || next == '\\');
+        _text += text[i];
+    }
+    _scanner.advance();
+    return true;
+}
+
+bool SceneValueReader::readNumbers(UInt32 count, bool areReals)
+{
+    _text.clear();
+    for (UInt32 i = 0; i < count; ++i) {
+        if (!isNumber(areReals)) {
+            return false;
+        }
+        _text.append(i > 0 ? " " : "").append(_scanner.token().text);
+        _scanner.advance();
+    }
+    return true;
+}
+
+// Whether it is a box or a sphere shows only by the number of numbers.
+bool SceneValueReader::readVolume()
+{
+    constexpr UInt32 sphereCount = 4;
+    constexpr UInt32 boxCount = 6;
+    if (!readNumbers(sphereCount, true)) {
+        return false;
+    }
+    for (UInt32 count = sphereCount; isNumber(true) && count < boxCount; ++count) {
+        _text.append(" ").append(_scanner.token().text);
+        _scanner.advance();
+    }
+    return true;
+}
+
+bool SceneValueReader::isNumber(bool isReal) const
+{
+    return at(SceneToken::Integer) || (isReal && at(SceneToken::Real));
+}
+
+OSG_END_NAMESPACE

@@ -1,0 +1,161 @@
+#include "OSGSharePtrGraphOp.h"
+
+#include "OSGFieldSyntax.h"
+#include "OSGSharedContainers.h"
+
+#include <OpenSG/OSGFieldContainerFactory.h>
+#include <OpenSG/OSGFieldFactory.h>
+#include <OpenSG/OSGGraphOpFactory.h>
+#include <OpenSG/OSGNode.h>
+
+#include <algorithm>
+#include <memory>
+#include <sstream>
+
+OSG_BEGIN_NAMESPACE
+
+namespace {
+
+struct Registration
+{
+    Registration() { GraphOpFactory::the().registerOp(&prototype); }
+
+    SharePtrGraphOp prototype;
+} registration;
+
+void appendKey(const FieldContainerPtr &container, std::string &key);
+
+void appendFieldKey(const Field &field, std::string &key)
+{
+    const FieldSyntax::Kind kind = FieldSyntax::of(field.getType()).kind;
+    std::string text;
+    if (kind == FieldSyntax::Attachments) {
+        forEachAttachment(
+            field, [&](const FieldContainerPtr &attachment) { appendKey(attachment, key); });
+    } else if (kind == FieldSyntax::Pointers) {
+        for (UInt32 i = 0; i < field.getSize(); ++i) {
+            const FieldContainerPtr target = field.getFieldContainer(i);
+            key += std::to_string(target ? target.getFieldContainerId() : 0) + ' ';
+        }
+    } else if (kind != FieldSyntax::None) {
+        key += field.getValueByStr(text);
+    }
+    key += '\n';
+}
+
+// The same for equal containers only.
+void appendKey(const FieldContainerPtr &container, std::string &key)
+{
+    const FieldContainerType &type = container->getType();
+    key.append(type.getCName()).append("\n");
+    for (UInt32 id = 1; id <= type.getNumFieldDescs(); ++id) {
+        const bool isInternal = type.getFieldDescription(id)->isInternal();
+        if (const Field *field = isInternal ? nullptr : container->getField(id)) {
+            appendFieldKey(*field, key);
+        }
+    }
+}
+
+} // namespace
+
+SharePtrGraphOp::SharePtrGraphOp(const char *name)
+    : Inherited(name)
+{
+}
+
+GraphOp *SharePtrGraphOp::create()
+{
+    return new SharePtrGraphOp;
+}
+
+void SharePtrGraphOp::setParams(const std::string params)
+{
+    std::string includes;
+    ParamSet values(params);
+    values("includes", includes);
+    std::istringstream names(includes);
+    _includes.clear();
+    for (std::string name; std::getline(names, name, ',');) {
+        _includes.push_back(name);
+    }
+}
+
+std::string SharePtrGraphOp::usage()
+{
+    return "SharePtr: lets equal containers be one\n"
+           "  includes=Type,Type,...  the types, and all derived from them, that are shared\n";
+}
+
+bool SharePtrGraphOp::traverse(NodePtr &root)
+{
+    const bool ok = Inherited::traverse(root);
+    _visited.clear();
+    _sharedByKey.clear();
+    return ok;
+}
+
+Action::ResultE SharePtrGraphOp::traverseEnter(NodePtr &node)
+{
+    if (node && node->getCore()) {
+        shareTargets(node->getCore());
+    }
+    return Action::Continue;
+}
+
+void SharePtrGraphOp::shareTargets(const FieldContainerPtr &owner)
+{
+    if (!_visited.insert(owner.getFieldContainerId()).second) {
+        return;
+    }
+    const FieldContainerType &type = owner->getType();
+    for (UInt32 id = 1; id <= type.getNumFieldDescs(); ++id) {
+        const FieldDescription &description = *type.getFieldDescription(id);
+        const Field *field = description.isInternal() ? nullptr : owner->getField(id);
+        if (field && FieldSyntax::of(field->getType()).kind == FieldSyntax::Pointers) {
+            shareField(owner, description);
+        }
+    }
+}
+
+// What the targets refer to comes first: they may be equal afterwards.
+void SharePtrGraphOp::shareField(
+    const FieldContainerPtr &owner, const FieldDescription &description)
+{
+    Field &field = *owner->getField(description.getFieldId());
+    const std::unique_ptr<Field> result(FieldFactory::the().createField(field.getType().getId()));
+    bool isChanged = false;
+    for (UInt32 i = 0; i < field.getSize(); ++i) {
+        const FieldContainerPtr target = field.getFieldContainer(i);
+        if (target && !target->getType().isNode()) {
+            shareTargets(target);
+        }
+        const FieldContainerPtr replacement = shared(target);
+        isChanged = isChanged || replacement != target;
+        result->pushFieldContainer(replacement);
+    }
+    if (isChanged) {
+        beginEditCP(owner, description.getFieldMask());
+        field.setAbstrValue(*result);
+        endEditCP(owner, description.getFieldMask());
+    }
+}
+
+FieldContainerPtr SharePtrGraphOp::shared(const FieldContainerPtr &container)
+{
+    if (!container || !isIncluded(container->getType())) {
+        return container;
+    }
+    std::string key;
+    appendKey(container, key);
+    return _sharedByKey.emplace(key, container).first->second;
+}
+
+bool SharePtrGraphOp::isIncluded(const FieldContainerType &type) const
+{
+    return std::any_of(_includes.begin(), _includes.end(), [&](const std::string &name) {
+        const FieldContainerType *base = FieldContainerFactory::the()->findType(name.c_str());
+        return base && type.isDerivedFrom(*base);
+    });
+}
+
+OSG_END_NAMESPACE

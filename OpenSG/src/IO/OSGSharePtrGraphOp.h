@@ -1,0 +1,44 @@
+#pragma once
+
+#include <OpenSG/OSGGraphOp.h>
+
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+OSG_BEGIN_NAMESPACE
+
+/// Lets pointers to equal containers of some types lead to one of them. Containers are equal if
+/// they are of one type, have the same values and attachments and refer to the same containers.
+class SharePtrGraphOp : public GraphOp
+{
+    typedef GraphOp Inherited;
+
+public:
+    static const char *getClassname() { return "SharePtrGraphOp"; }
+
+    explicit SharePtrGraphOp(const char *name = "SharePtr");
+    GraphOp *create() override;
+
+    /// `includes=Type,Type,...`: the types, and all derived from them, to share. None by default.
+    void setParams(const std::string params) override;
+    std::string usage() override;
+    bool traverse(NodePtr &root) override;
+
+protected:
+    using Inherited::traverseEnter;
+    Action::ResultE traverseEnter(NodePtr &node) override;
+
+private:
+    void shareTargets(const FieldContainerPtr &owner);
+    void shareField(const FieldContainerPtr &owner, const FieldDescription &description);
+    FieldContainerPtr shared(const FieldContainerPtr &container);
+    bool isIncluded(const FieldContainerType &type) const;
+
+    std::vector<std::string> _includes;
+    std::set<UInt32> _visited;
+    std::map<std::string, FieldContainerPtr> _sharedByKey;
+};
+
+OSG_END_NAMESPACE
