@@ -1,0 +1,156 @@
+#include "OSGValuePairCSVCreator.h"
+
+#include <OSGValuePairBase.h>
+#include <kavoNodeUtils.h>
+
+#include <cerrno>
+#include <fstream>
+#include <iostream>
+#include <utility>
+
+OSG_BEGIN_NAMESPACE
+
+namespace {
+
+constexpr UInt32 fullyVisible = 0xFFFFFFFF;
+
+ValuePairBase *valuePairsOf(const NodePtr &node)
+{
+    const FieldContainerType &type = ValuePairBase::getClassType();
+    const AttachmentPtr found = node->findAttachment(type.getGroupId());
+    if (found == NullFC || !found->getType().isDerivedFrom(type))
+        return nullptr;
+    return static_cast<ValuePairBase *>(found.getCPtr());
+}
+
+bool hasCore(const NodePtr &node)
+{
+    return node != NullFC && node->getCore() != NullFC;
+}
+
+}
+
+ValuePairCSVCreator::ValuePairCSVCreator(const char *name)
+    : SingleTypeGraphOp<NodeCore>(name)
+{
+    std::cout << "ValuePairCSVCreator::ValuePairCSVCreator" << std::endl;
+}
+
+// Announces the destructor: scripts that read the host's output know it by this line.
+GraphOp *ValuePairCSVCreator::create()
+{
+    std::cout << "ValuePairCSVCreator::~ValuePairCSVCreator" << std::endl;
+    return new ValuePairCSVCreator("ValuePairCSVCreator");
+}
+
+ValuePairCSVCreator::~ValuePairCSVCreator()
+{
+    std::cout << "ValuePairCSVCreator::~ValuePairCSVCreator" << std::endl;
+}
+
+void ValuePairCSVCreator::setParams(const std::string)
+{
+}
+
+std::string ValuePairCSVCreator::usage()
+{
+    return std::string();
+}
+
+void ValuePairCSVCreator::setCsvType(bool takesAllNodes)
+{
+    m_takesAllNodes = takesAllNodes;
+}
+
+void ValuePairCSVCreator::setMonitor(std::function<bool()> monitor)
+{
+    m_monitor = std::move(monitor);
+    m_entered = 0;
+    m_isStopped = false;
+}
+
+bool ValuePairCSVCreator::travNodeEnter(const NodePtr &node)
+{
+    return gather(node);
+}
+
+bool ValuePairCSVCreator::travNodeEnter(NodePtr node)
+{
+    return gather(node);
+}
+
+bool ValuePairCSVCreator::travNodeLeave(const NodePtr &)
+{
+    return true;
+}
+
+bool ValuePairCSVCreator::travNodeLeave(NodePtr)
+{
+    return true;
+}
+
+Action::ResultE ValuePairCSVCreator::traverseEnter(const NodePtr &node)
+{
+    return enter(node);
+}
+
+Action::ResultE ValuePairCSVCreator::traverseEnter(NodePtr &node)
+{
+    return enter(node);
+}
+
+Action::ResultE ValuePairCSVCreator::traverseLeave(const NodePtr &, Action::ResultE)
+{
+    return goOn();
+}
+
+Action::ResultE ValuePairCSVCreator::traverseLeave(NodePtr &, Action::ResultE)
+{
+    return goOn();
+}
+
+// Not all OpenSG libraries spare the operation nodes without a core.
+Action::ResultE ValuePairCSVCreator::enter(const NodePtr &node)
+{
+    if (m_monitor && ++m_entered % monitorInterval == 0)
+        m_isStopped = m_isStopped || !m_monitor();
+    if (!m_isStopped && hasCore(node))
+        gather(node);
+    return goOn();
+}
+
+Action::ResultE ValuePairCSVCreator::goOn() const
+{
+    return m_isStopped ? Action::Quit : Action::Continue;
+}
+
+bool ValuePairCSVCreator::gather(const NodePtr &node)
+{
+    if (!m_takesAllNodes && node->getTravMask() != fullyVisible)
+        return false;
+    const char *name = kavoNodeUtils::getName(node);
+    m_table.addName(name ? name : "");
+    const ValuePairBase *pairs = valuePairsOf(node);
+    if (pairs && !pairs->getKeys().isEmpty())
+        m_table.setPairs(UInt32(m_rowCount), pairs->getKeys(), pairs->getValues());
+    ++m_rowCount;
+    m_rowTotal = Int32(m_table.extend(UInt32(m_rowTotal)));
+    return false;
+}
+
+bool ValuePairCSVCreator::save(const std::string &fileName)
+{
+    errno = 0;
+    std::ofstream file(fileName);
+    if (file.good())
+        m_table.write(file, UInt32(m_rowTotal));
+    else
+        std::cout << "File could not be opened" << std::endl;
+    file.close();
+    m_saveError = file.good() ? 0 : (errno ? errno : EIO);
+    m_rowCount = 0;
+    m_rowTotal = 0;
+    return true;
+}
+
+OSG_END_NAMESPACE
