@@ -30,4 +30,9 @@ public:
     void operator=(const NullFieldContainerPtr &null) { Handle::operator=(null); }
 };
 
+inline std::ostream &operator<<(std::ostream &os, const AttachmentContainerPtr &handle)
+{
+    return HandleText::write(os, "AttachmentContainerPtr", handle);
+}
+
 OSG_END_NAMESPACE

@@ -29,4 +29,9 @@ public:
     void operator=(const NullFieldContainerPtr &null) { Handle::operator=(null); }
 };
 
+inline std::ostream &operator<<(std::ostream &os, const AttachmentPtr &handle)
+{
+    return HandleText::write(os, "AttachmentPtr", handle);
+}
+
 OSG_END_NAMESPACE

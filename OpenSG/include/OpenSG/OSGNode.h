@@ -79,6 +79,7 @@ private:
 
     void exchangeCore(const NodeCorePtr &core);
     void setParent(const NodePtr &parent);
+    void markVolumeInvalid();
     void takeAsChild(const NodePtr &child);
     void releaseChild(const NodePtr &child);
 

@@ -29,4 +29,9 @@ public:
     void operator=(const NullFieldContainerPtr &null) { Handle::operator=(null); }
 };
 
+inline std::ostream &operator<<(std::ostream &os, const NodePtr &handle)
+{
+    return HandleText::write(os, "NodePtr", handle);
+}
+
 OSG_END_NAMESPACE

@@ -43,7 +43,7 @@ Node::~Node()
 
 void Node::onCreate(const Node *)
 {
-    invalidateVolume();
+    markVolumeInvalid();
 }
 
 void Node::setCore(const NodeCorePtr &core)
@@ -218,17 +218,20 @@ void Node::updateVolume()
 // A volume that is invalid already says that those above it are, too.
 void Node::invalidateVolume()
 {
-    DynamicVolume &volume = _sfVolume.getValue();
-    if (!volume.isValid()) {
+    if (!getVolume().isValid()) {
         return;
     }
-    beginEditCP(NodePtr(this), VolumeFieldMask);
-    volume.setValid(false);
-    volume.instanceChanged();
-    endEditCP(NodePtr(this), VolumeFieldMask);
+    markVolumeInvalid();
     if (const NodePtr parent = getParent()) {
         parent->invalidateVolume();
     }
+}
+
+void Node::markVolumeInvalid()
+{
+    beginEditCP(NodePtr(this), VolumeFieldMask);
+    _sfVolume.getValue().setValid(false);
+    endEditCP(NodePtr(this), VolumeFieldMask);
 }
 
 void Node::changed(BitVector whichField, UInt32 origin)
