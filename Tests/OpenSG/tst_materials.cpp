@@ -1,0 +1,370 @@
+#include "LogCapture.h"
+
+#include <OpenSG/OSGBaseFunctions.h>
+#include <OpenSG/OSGFieldContainerFactory.h>
+#include <OpenSG/OSGMaterialGroup.h>
+#include <OpenSG/OSGMultiPassMaterial.h>
+#include <OpenSG/OSGSHLChunk.h>
+#include <OpenSG/OSGSimpleMaterial.h>
+#include <OpenSG/OSGSimpleTexturedMaterial.h>
+#include <OpenSG/OSGSwitchMaterial.h>
+#include <OpenSG/OSGTextureChunk.h>
+#include <OpenSG/OSGTwoSidedLightingChunk.h>
+
+#include <QtTest>
+
+using namespace osg;
+
+class tst_Materials : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { osgInit(0, nullptr); }
+
+    void aChunkIsReferencedButHasNoParent();
+    void slotsAreFilledUpToTheOneThatIsGiven();
+    void removingAChunkSaysFalse();
+    void removingAStrangerWarnsAndSaysTrue();
+    void chunksAreFoundByExactType();
+    void nullChunksAreRefused();
+    void nullChunksInTheFieldAreSkipped();
+    void clearingReleasesTheChunks();
+    void chunksThatCameWithoutSetterAreHeldOnce();
+    void aCopySharesTheChunks();
+    void anEditMakesAState();
+    void aSimpleMaterialsChunksAreItsOwn();
+    void aTexturedMaterialMakesFourChunksAndAState();
+    void theStateFollowsTheMaterial();
+    void makeStateLeavesTheStateToTheCaller();
+    void transparencyIsFoundOrForced();
+    void aMaterialGroupCountsItsMaterial();
+    void aMaterialThatCameWithoutSetterIsHeldOnce();
+    void aTextureHoldsItsImage();
+    void theContentChangeOfAnImageIsAnEdit();
+    void otherMaterialsAreDrawnWith();
+    void parametersAreSetByNameAndType();
+    void parametersAreHeldByTheChunk();
+    void imagesHaveTheirPixels();
+    void imagesWithMipmapsAndFramesHaveRoom();
+    void impossibleImagesAreRefused();
+};
+
+namespace {
+
+std::size_t containerCount()
+{
+    return FieldContainerFactory::the()->getFieldContainerStore()->size();
+}
+
+QVector<Int32> listOf(const MFInt32 &field)
+{
+    return QVector<Int32>(field.begin(), field.end());
+}
+
+template <class PtrT> bool lives(const PtrT &handle, UInt32 id)
+{
+    return FieldContainerFactory::the()->getContainer(id) == handle;
+}
+
+} // namespace
+
+void tst_Materials::aChunkIsReferencedButHasNoParent()
+{
+    const ChunkMaterialRefPtr material(ChunkMaterial::create());
+    const MaterialChunkPtr chunk = MaterialChunk::create();
+    QVERIFY(material->addChunk(chunk));
+    QCOMPARE(chunk.getRefCount(), 1);
+    QVERIFY(chunk->getParents().empty());
+    QVERIFY(material->getSlots().empty());
+}
+
+void tst_Materials::slotsAreFilledUpToTheOneThatIsGiven()
+{
+    const ChunkMaterialRefPtr material(ChunkMaterial::create());
+    material->addChunk(TextureChunk::create());
+    material->addChunk(TextureChunk::create(), 2);
+    QCOMPARE(listOf(material->getSlots()), (QVector<Int32> { -2, 2 }));
+}
+
+void tst_Materials::removingAChunkSaysFalse()
+{
+    const ChunkMaterialRefPtr material(ChunkMaterial::create());
+    const MaterialChunkRefPtr chunk(MaterialChunk::create());
+    material->addChunk(chunk.get());
+    QVERIFY(!material->subChunk(chunk.get()));
+    QCOMPARE(chunk.get().getRefCount(), 1);
+    QCOMPARE(material->find(chunk.get()), -1);
+}
+
+void tst_Materials::removingAStrangerWarnsAndSaysTrue()
+{
+    const LogCapture log;
+    const ChunkMaterialRefPtr material(ChunkMaterial::create());
+    const MaterialChunkRefPtr chunk(MaterialChunk::create());
+    QVERIFY(material->subChunk(chunk.get()));
+    material->addChunk(chunk.get(), 3);
+    QVERIFY(material->subChunk(chunk.get()));
+    QVERIFY(!material->subChunk(chunk.get(), 3));
+    QCOMPARE(log.text.count("WARNING:  "), 2);
+}
+
+void tst_Materials::chunksAreFoundByExactType()
+{
+    const ChunkMaterialRefPtr material(ChunkMaterial::create());
+    const TextureChunkPtr texture = TextureChunk::create();
+    material->addChunk(MaterialChunk::create());
+    material->addChunk(texture, 1);
+    QVERIFY(material->find(TextureChunk::getClassType(), 1) == texture);
+    QVERIFY(material->find(TextureChunk::getClassType()) == NullFC);
+    QVERIFY(material->find(StateChunk::getClassType()) == NullFC);
+    QCOMPARE(material->find(texture), 1);
+}
+
+void tst_Materials::nullChunksAreRefused()
+{
+    const ChunkMaterialRefPtr material(ChunkMaterial::create());
+    QVERIFY(!material->addChunk(NullFC));
+    QVERIFY(material->getChunks().empty());
+}
+
+void tst_Materials::nullChunksInTheFieldAreSkipped()
+{
+    const ChunkMaterialRefPtr material(ChunkMaterial::create());
+    material->getChunks().push_back(NullFC);
+    material->addChunk(BlendChunk::create());
+    endEditCP(material.get());
+    QCOMPARE(material->getState()->getChunks().size(), 1u);
+    QVERIFY(!material->isTransparent());
+}
+
+void tst_Materials::clearingReleasesTheChunks()
+{
+    const ChunkMaterialRefPtr material(ChunkMaterial::create());
+    const MaterialChunkRefPtr chunk(MaterialChunk::create());
+    material->addChunk(chunk.get(), 1);
+    material->clearChunks();
+    QCOMPARE(chunk.get().getRefCount(), 1);
+    QVERIFY(material->getSlots().empty());
+}
+
+void tst_Materials::chunksThatCameWithoutSetterAreHeldOnce()
+{
+    ChunkMaterialPtr material = ChunkMaterial::create();
+    addRefCP(material);
+    const MaterialChunkRefPtr chunk(MaterialChunk::create());
+    material->getChunks().push_back(chunk.get());
+    changedCP(material, ChunkMaterial::ChunksFieldMask, ChangedOrigin::Abstract);
+    changedCP(material, ChunkMaterial::ChunksFieldMask, ChangedOrigin::Abstract);
+    material->getState();
+    QCOMPARE(chunk.get().getRefCount(), 3);
+    clearRefCP(material);
+    QCOMPARE(chunk.get().getRefCount(), 1);
+}
+
+void tst_Materials::aCopySharesTheChunks()
+{
+    const ChunkMaterialRefPtr material(ChunkMaterial::create());
+    const MaterialChunkPtr chunk = MaterialChunk::create();
+    material->addChunk(chunk);
+    {
+        const ChunkMaterialRefPtr copy(ChunkMaterialPtr::dcast(material->shallowCopy()));
+        QCOMPARE(chunk.getRefCount(), 2);
+    }
+    QCOMPARE(chunk.getRefCount(), 1);
+}
+
+void tst_Materials::anEditMakesAState()
+{
+    const ChunkMaterialRefPtr material(ChunkMaterial::create());
+    const std::size_t before = containerCount();
+    endEditCP(material.get());
+    QCOMPARE(containerCount(), before + 1);
+    endEditCP(material.get());
+    QCOMPARE(containerCount(), before + 1);
+    QCOMPARE(material->getState()->getTypeName(), "State");
+}
+
+void tst_Materials::aSimpleMaterialsChunksAreItsOwn()
+{
+    const RefPtr<SimpleMaterialPtr> material(SimpleMaterial::create());
+    const std::size_t before = containerCount();
+    endEditCP(material.get());
+    QCOMPARE(containerCount(), before + 3);
+    QVERIFY(material->getChunks().empty());
+    const RefPtr<SimpleMaterialPtr> copy(SimpleMaterialPtr::dcast(material->shallowCopy()));
+    endEditCP(copy.get());
+    QVERIFY(copy->getState()->getChunk(MaterialChunk::getClassType())
+        != material->getState()->getChunk(MaterialChunk::getClassType()));
+}
+
+void tst_Materials::aTexturedMaterialMakesFourChunksAndAState()
+{
+    const RefPtr<SimpleTexturedMaterialPtr> material(SimpleTexturedMaterial::create());
+    const std::size_t before = containerCount();
+    endEditCP(material.get());
+    QCOMPARE(containerCount(), before + 5);
+    QVERIFY(material->getState()->getChunk(TextureChunk::getClassType()) == NullFC);
+    material->setImage(Image::create());
+    material->setEnvMap(true);
+    endEditCP(material.get());
+    QCOMPARE(material->getState()->getChunks().size(), 3u);
+}
+
+void tst_Materials::theStateFollowsTheMaterial()
+{
+    const RefPtr<SimpleMaterialPtr> material(SimpleMaterial::create());
+    material->setDiffuse(Color3f(1.f, 0.5f, 0.f));
+    material->setTransparency(0.25f);
+    endEditCP(material.get());
+    const auto chunk
+        = MaterialChunkPtr::dcast(material->getState()->getChunk(MaterialChunk::getClassType()));
+    QCOMPARE(chunk->getDiffuse(), Color4f(1.f, 0.5f, 0.f, 0.75f));
+    QVERIFY(material->getState()->getChunk(BlendChunk::getClassType()) != NullFC);
+}
+
+void tst_Materials::makeStateLeavesTheStateToTheCaller()
+{
+    const ChunkMaterialRefPtr material(ChunkMaterial::create());
+    material->addChunk(MaterialChunk::create());
+    const StatePtr state = material->makeState();
+    QCOMPARE(state.getRefCount(), 0);
+    QCOMPARE(state->getChunks().size(), 1u);
+    subRefCP(state);
+}
+
+void tst_Materials::transparencyIsFoundOrForced()
+{
+    const RefPtr<SimpleMaterialPtr> material(SimpleMaterial::create());
+    QVERIFY(!material->isTransparent());
+    material->setTransparency(0.5f);
+    QVERIFY(material->isTransparent());
+    material->setTransparencyMode(Material::TransparencyForceOpaque);
+    QVERIFY(!material->isTransparent());
+    material->setTransparencyMode(Material::TransparencyForceTransparent);
+    QVERIFY(material->isTransparent());
+}
+
+void tst_Materials::aMaterialGroupCountsItsMaterial()
+{
+    MaterialGroupPtr group = MaterialGroup::create();
+    addRefCP(group);
+    const RefPtr<MaterialPtr> first(SimpleMaterial::create());
+    group->setMaterial(first.get());
+    group->setMaterial(first.get());
+    QCOMPARE(first.get().getRefCount(), 2);
+    group->setMaterial(ChunkMaterial::create());
+    QCOMPARE(first.get().getRefCount(), 1);
+    const UInt32 id = group->getMaterial().getFieldContainerId();
+    clearRefCP(group);
+    QVERIFY(lives(NullFC, id));
+}
+
+void tst_Materials::aMaterialThatCameWithoutSetterIsHeldOnce()
+{
+    const MaterialGroupRefPtr group(MaterialGroup::create());
+    const MaterialPtr material = SimpleMaterial::create();
+    group->getMaterial() = material;
+    changedCP(group.get(), MaterialGroup::MaterialFieldMask, ChangedOrigin::Abstract);
+    changedCP(group.get(), MaterialGroup::MaterialFieldMask, ChangedOrigin::Abstract);
+    QCOMPARE(material.getRefCount(), 1);
+}
+
+void tst_Materials::aTextureHoldsItsImage()
+{
+    const TextureChunkRefPtr texture(TextureChunk::create());
+    ImagePtr image = Image::create();
+    texture->setImage(image);
+    QCOMPARE(image.getRefCount(), 1);
+    QVERIFY(!texture->isTransparent());
+    image->set(Image::OSG_RGBA_PF, 1);
+    QVERIFY(texture->isTransparent());
+}
+
+void tst_Materials::theContentChangeOfAnImageIsAnEdit()
+{
+    const TextureChunkRefPtr texture(TextureChunk::create());
+    texture->imageContentChanged(1, 2, 3, 4);
+    QCOMPARE(texture->getDirtyMinX(), 1);
+    QCOMPARE(texture->getDirtyMaxY(), 4);
+    QCOMPARE(texture->getDirtyMaxZ(), -1);
+}
+
+void tst_Materials::otherMaterialsAreDrawnWith()
+{
+    const MultiPassMaterialRefPtr passes(MultiPassMaterial::create());
+    const MaterialPtr pass = SimpleMaterial::create();
+    passes->getMaterials().push_back(pass);
+    endEditCP(passes.get());
+    QVERIFY(passes->getState() == pass->getState());
+    QVERIFY(passes->getState(1) == NullFC);
+    const SwitchMaterialRefPtr choice(SwitchMaterial::create());
+    QVERIFY(choice->getState() == NullFC);
+    choice->getMaterials().push_back(pass);
+    QVERIFY(choice->getState() == pass->getState());
+}
+
+void tst_Materials::parametersAreSetByNameAndType()
+{
+    const SHLChunkRefPtr chunk(SHLChunk::create());
+    QVERIFY(chunk->setUniformParameter("weight", 0.5f));
+    QVERIFY(chunk->setUniformParameter("count", Int32(3)));
+    QVERIFY(chunk->setUniformParameter("weight", 0.75f));
+    QVERIFY(!chunk->setUniformParameter("weight", true));
+    Real32 weight = 0.f;
+    Int32 count = 0;
+    QVERIFY(chunk->getUniformParameter("weight", weight));
+    QVERIFY(!chunk->getUniformParameter("weight", count));
+    QCOMPARE(weight, 0.75f);
+    QCOMPARE(chunk->getParameters().size(), 2u);
+}
+
+void tst_Materials::parametersAreHeldByTheChunk()
+{
+    const SHLChunkRefPtr chunk(SHLChunk::create());
+    chunk->setUniformParameter("place", Vec3f(1.f, 2.f, 3.f));
+    const UInt32 id = chunk->getParameters(0).getFieldContainerId();
+    QCOMPARE(chunk->getParameters(0)->getTypeName(), "ShaderParameterVec3f");
+    QVERIFY(chunk->subUniformParameter("place"));
+    QVERIFY(!chunk->subUniformParameter("place"));
+    QVERIFY(lives(NullFC, id));
+}
+
+void tst_Materials::imagesHaveTheirPixels()
+{
+    const ImageRefPtr image(Image::create());
+    const UInt8 pixels[12] = { 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12 };
+    QVERIFY(!image->isValid());
+    QVERIFY(image->set(Image::OSG_RGB_PF, 2, 2, 1, 1, 1, 0., pixels));
+    QCOMPARE(image->getDimension(), 2);
+    QCOMPARE(image->getBpp(), 3);
+    QCOMPARE(image->getSize(), 12u);
+    QCOMPARE(int(image->getData()[11]), 12);
+    QVERIFY(image->isValid() && !image->hasAlphaChannel());
+}
+
+void tst_Materials::imagesWithMipmapsAndFramesHaveRoom()
+{
+    const ImageRefPtr image(Image::create());
+    QVERIFY(image->set(
+        Image::OSG_RGBA_PF, 4, 2, 1, 3, 2, 0., nullptr, Image::OSG_UINT16_IMAGEDATA, true, 6));
+    const int side = (4 * 2 + 2 * 1 + 1) * 8;
+    QCOMPARE(image->getSideSize(), side);
+    QCOMPARE(image->getSize(), UInt32(side * 6 * 2));
+    QCOMPARE(image->getData(1, 1, 2) - image->getData(), std::ptrdiff_t(side * 8 + 4 * 2 * 8));
+    QVERIFY(!image->getData(0, 2));
+}
+
+void tst_Materials::impossibleImagesAreRefused()
+{
+    const ImageRefPtr image(Image::create());
+    QVERIFY(!image->set(1, 2));
+    QVERIFY(!image->set(Image::OSG_L_PF, 0));
+    QVERIFY(!image->set(Image::OSG_L_PF, 2, 2, 1, 1, 1, 0., nullptr, 17));
+    QVERIFY(
+        image->set(Image::OSG_L_PF, 2, 2, 1, 1, 1, 0., nullptr, Image::OSG_UINT8_IMAGEDATA, false));
+    QVERIFY(!image->isValid() && !image->getData());
+}
+
+QTEST_APPLESS_MAIN(tst_Materials)
+#include "tst_materials.moc"
