@@ -1,0 +1,27 @@
+#include "kavoRealText.h"
+
+#include <array>
+#include <charconv>
+
+namespace {
+
+// A widened Real32 shows the digits of the Real32: 0.1, not 0.10000000149011612.
+double shortestDecimal(double value)
+{
+    const auto narrow = static_cast<float>(value);
+    if (narrow != value)
+        return value;
+    std::array<char, 32> text;
+    const char *end = std::to_chars(text.begin(), text.end(), narrow).ptr;
+    std::from_chars(text.begin(), end, value);
+    return value;
+}
+
+}
+
+QString kavoRealText(double value, const QLocale &locale)
+{
+    QLocale ungrouped = locale;
+    ungrouped.setNumberOptions(locale.numberOptions() | QLocale::OmitGroupSeparator);
+    return ungrouped.toString(shortestDecimal(value), 'g', QLocale::FloatingPointShortest);
+}
