@@ -1,0 +1,62 @@
+#include "kavoFCEditorWidget.h"
+
+#include "kavoCustomPropertyGLenum.h"
+#include "kavoVariantEditorFactory.h"
+#include "kavoVariantPropertyManager.h"
+
+#include <QScopedValueRollback>
+
+kavoFCEditorWidget::kavoFCEditorWidget(QWidget *parent, const char *)
+    : QtTreePropertyBrowser(parent)
+{
+    m_variantManager = new kavoVariantPropertyManager;
+    connect(m_variantManager, SIGNAL(valueChanged(QtProperty *, const QVariant &)), this,
+        SLOT(valueChanged(QtProperty *, const QVariant &)));
+    m_variantFactory = new kavoVariantEditorFactory(this);
+    setFactoryForManager(m_variantManager, m_variantFactory);
+
+    m_enumManager = new QtGLenumPropertyManager(this);
+    connect(m_enumManager, SIGNAL(valueChanged(QtProperty *, unsigned int)), this,
+        SLOT(valueChanged(QtProperty *, unsigned int)));
+    m_enumFactory = new QtGLenumEditorFactory(this);
+    setFactoryForManager(m_enumManager, m_enumFactory);
+
+    m_colorManager = new QtKavoColorPropertyManager(this);
+    connect(m_colorManager, SIGNAL(valueChanged(QtProperty *, const colorVal)), this,
+        SLOT(valueChanged(QtProperty *, const colorVal)));
+    m_colorFactory = new QtKavoColorEditorFactory(this);
+    setFactoryForManager(m_colorManager, m_colorFactory);
+
+    setPropertiesWithoutValueMarked(true);
+    setRootIsDecorated(true);
+    setAcceptDrops(true);
+}
+
+kavoFCEditorWidget::~kavoFCEditorWidget()
+{
+    deleteRows(properties());
+    delete m_variantManager;
+}
+
+void kavoFCEditorWidget::setFC(const QString &name, osg::FieldContainerPtr fc)
+{
+    m_bindings.clear();
+    deleteRows(properties());
+    clear();
+    m_variantManager->clear();
+
+    const QScopedValueRollback<bool> building(m_building, true);
+    setFC(nullptr, fc, name, false);
+}
+
+// The manager's own clear() copies the set of all its rows for every row that it deletes, which
+// takes seconds for a big tree; last rows first is the quickest order. The rows of the enumeration
+// and colour managers stay, deliberately: they leave the tree with their groups.
+void kavoFCEditorWidget::deleteRows(const QList<QtProperty *> &rows)
+{
+    for (auto row = rows.rbegin(); row != rows.rend(); ++row) {
+        deleteRows((*row)->subProperties());
+        if ((*row)->propertyManager() == m_variantManager)
+            delete *row;
+    }
+}

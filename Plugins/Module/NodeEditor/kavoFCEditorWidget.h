@@ -1,0 +1,115 @@
+#pragma once
+
+#include "kavoCustomPropertyColor.h"
+
+#include <qttreepropertybrowser.h>
+#include <qtvariantproperty.h>
+
+#include <OpenSG/OSGFieldContainer.h>
+#include <OpenSG/OSGFieldContainerPtr.h>
+
+#include <map>
+#include <optional>
+
+class QtGLenumEditorFactory;
+class QtGLenumPropertyManager;
+
+/// Property tree of one field container: a row per field, and a group per container that it leads
+/// to (core, material, chunks, attachments, ...). Edits are written into the fields at once.
+///
+/// The tree is built anew for every container shown and does not follow changes made elsewhere.
+/// A drop of a material, a light or a camera shows what was dropped. GUI thread only.
+class kavoFCEditorWidget : public QtTreePropertyBrowser
+{
+    Q_OBJECT
+
+public:
+    /// Lists with at least this many elements are summarised and not opened or listed.
+    static constexpr osg::UInt32 maxListedElements = 100;
+
+    /// \param name accepted for the host's widget convention and not used
+    kavoFCEditorWidget(QWidget *parent, const char *name);
+    ~kavoFCEditorWidget() override;
+
+    /// Shows a container in place of what was shown; null empties the tree.
+    /// \param name stands before the container's type in the title of the top row
+    void setFC(const QString &name, osg::FieldContainerPtr fc);
+    /// Adds a container with its fields below a row, or as top row if parent is null. Follows
+    /// pointer fields without a limit of depth; only links back to owners are cut off.
+    /// \param expand whether the new row is open; a top row always is
+    void setFC(QtProperty *parent, osg::FieldContainerPtr fc, const QString &name, bool expand);
+    /// The same without fields: the container's title, with a node's name, is all.
+    void setFCnr(QtProperty *parent, osg::FieldContainerPtr fc, const QString &name, bool expand);
+
+    /// Closes the first item of a row. \returns the item, null if the row is not in the tree
+    QtBrowserItem *collapseProperty(QtProperty *property);
+
+    /// Makes the row of a field.
+    /// \param typeName name of the field's type, which decides on the kind of row; its tooltip
+    /// \param valueText the field's text, or what is to stand in its place
+    QtProperty *createPropertyItem(
+        const QString &name, const QString &typeName, const QString &valueText);
+    /// Makes a group of rows from the numbers of a text, one for each of the comma-separated names.
+    /// \param propertyType QVariant type of the rows
+    template <class T>
+    QtVariantProperty *createPropertyList(const QString &name, const QString &typeName,
+        int propertyType, const QString &valueText, const QString &subNames);
+    /// The numbers of real lists, vectors and points with up to 6 digits, separated by ", ". Text
+    /// of other types comes back as it is.
+    static QString beautifyFloats(const QString &typeName, const QString &valueText);
+
+public slots:
+    void valueChanged(QtProperty *property, const QVariant &value);
+    void valueChanged(QtProperty *property, unsigned int value);
+    void valueChanged(QtProperty *property, colorVal value);
+
+protected:
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+
+private:
+    /// The field that a row stands for. The container is known by its id, for it may be gone when
+    /// an edit arrives.
+    struct FieldBinding
+    {
+        osg::UInt32 containerId;
+        osg::Field *field;
+        osg::BitVector fieldMask;
+    };
+
+    struct FieldSource;
+    using RowText = std::optional<QString>;
+
+    void deleteRows(const QList<QtProperty *> &rows);
+
+    QtProperty *addGroup(QtProperty *parent, const QString &title);
+    void finishGroup(QtProperty *group, bool expand);
+    void addField(const FieldSource &source);
+    void addValueRow(const FieldSource &source, const QString &text);
+    static QString valueText(const FieldSource &source);
+    void addAttachments(const FieldSource &source);
+    RowText addPointer(const FieldSource &source);
+    RowText addPointers(const FieldSource &source);
+    void addNodes(const FieldSource &source);
+    void addChunks(const FieldSource &source);
+    void addVariants(const FieldSource &source);
+
+    /// Lists that are shown and edited element by element.
+    static bool isNumberList(const QString &typeName);
+    static bool writeList(osg::Field &field, QString text);
+    static bool writeText(osg::Field &field, const QString &text);
+    void writeBack(QtProperty *property, const QString &value);
+
+    void dropMaterial(const QByteArray &payload);
+    void dropLight(const QByteArray &payload);
+    void dropCamera(const QByteArray &payload);
+
+    QtVariantPropertyManager *m_variantManager = nullptr;
+    QtVariantEditorFactory *m_variantFactory = nullptr;
+    QtGLenumPropertyManager *m_enumManager = nullptr;
+    QtGLenumEditorFactory *m_enumFactory = nullptr;
+    QtKavoColorPropertyManager *m_colorManager = nullptr;
+    QtKavoColorEditorFactory *m_colorFactory = nullptr;
+    bool m_building = false;
+    std::map<QtProperty *, FieldBinding> m_bindings;
+};

@@ -1,0 +1,209 @@
+#include "kavoFCEditorWidget.h"
+
+#include "kavoCustomPropertyGLenum.h"
+
+#include <QHash>
+#include <QSet>
+#include <QTextStream>
+
+#include <cfloat>
+#include <climits>
+#include <cmath>
+#include <sstream>
+
+namespace {
+
+enum class RowKind { Text, Flag, Integer, Real, Box, Quaternion, Enum, Color };
+
+struct RowType
+{
+    RowKind kind = RowKind::Text;
+    double minimum = 0;
+    double maximum = 0;
+};
+
+// Which field type gets which kind of row, with the range of its numbers; any other type is a line
+// of text. A 32-bit unsigned number is held by its bits as a signed one, so that all of them fit.
+const QHash<QString, RowType> rowTypes {
+    { "SFBool", { RowKind::Flag } },
+    { "SFInt8", { RowKind::Integer, SCHAR_MIN, SCHAR_MAX } },
+    { "SFUInt8", { RowKind::Integer, 0, UCHAR_MAX } },
+    { "SFInt16", { RowKind::Integer, SHRT_MIN, SHRT_MAX } },
+    { "SFUInt16", { RowKind::Integer, 0, USHRT_MAX } },
+    { "SFInt32", { RowKind::Integer, INT_MIN, INT_MAX } },
+    { "SFUInt32", { RowKind::Integer, INT_MIN, INT_MAX } },
+    { "SFReal32", { RowKind::Real, -FLT_MAX, FLT_MAX } },
+    { "SFReal64", { RowKind::Real, -DBL_MAX, DBL_MAX } },
+    { "SFTime", { RowKind::Real, -DBL_MAX, DBL_MAX } },
+    { "SFBoxVolume", { RowKind::Box } },
+    { "SFQuaternion", { RowKind::Quaternion } },
+    { "SFGLenum", { RowKind::Enum } },
+    { "SFColor3f", { RowKind::Color } },
+    { "SFColor4f", { RowKind::Color } },
+};
+
+const QSet<QString> floatVectors { "SFVec2f", "SFPnt2f", "SFVec3f", "SFPnt3f", "SFVec4f",
+    "SFPnt4f" };
+
+constexpr int maxDecimals = 13; // of the double manager
+
+// What a row is made of.
+struct RowSource
+{
+    const QString &name;
+    const QString &typeName;
+    const QString &valueText;
+};
+
+// A tenth of the value's magnitude.
+double stepFor(double value)
+{
+    return value == 0 ? 0.1 : std::pow(10, std::floor(std::log10(std::abs(value))) - 1);
+}
+
+// Lets a row hold every value of its type, where the manager's defaults clamp and round.
+void setRange(QtVariantProperty *row, const RowType &type, double value)
+{
+    row->setAttribute("minimum", type.minimum);
+    row->setAttribute("maximum", type.maximum);
+    if (type.kind == RowKind::Real) {
+        row->setAttribute("decimals", maxDecimals);
+        row->setAttribute("singleStep", stepFor(value));
+    }
+}
+
+// Only single fields have a row that takes one value of a kind.
+QtProperty *finishRow(QtVariantProperty *row, const RowSource &source)
+{
+    row->setValue(source.valueText);
+    row->setToolTip(source.typeName);
+    if (!source.typeName.startsWith("SF"))
+        row->setEnabled(false);
+    return row;
+}
+
+QtProperty *makeFlagRow(QtVariantPropertyManager &manager, const RowSource &source)
+{
+    return finishRow(manager.addProperty(QVariant::Bool, source.name), source);
+}
+
+QtProperty *makeTextRow(QtVariantPropertyManager &manager, const RowSource &source)
+{
+    QtVariantProperty *row = manager.addProperty(QVariant::String, source.name);
+    row->setValue(source.valueText);
+    row->setToolTip(source.typeName);
+    return row;
+}
+
+// Infinity and NaN fit in no range and are shown, and can be replaced, as text.
+QtProperty *makeNumberRow(
+    QtVariantPropertyManager &manager, const RowType &type, const RowSource &source)
+{
+    const double value = source.valueText.toDouble();
+    if (!std::isfinite(value))
+        return makeTextRow(manager, source);
+    const auto kind = type.kind == RowKind::Real ? QVariant::Double : QVariant::Int;
+    QtVariantProperty *row = manager.addProperty(kind, source.name);
+    setRange(row, type, value);
+    return finishRow(row, source);
+}
+
+QtProperty *makeEnumRow(QtGLenumPropertyManager &manager, const RowSource &source)
+{
+    unsigned int value = 0;
+    std::istringstream(source.valueText.toStdString()) >> value;
+    QtProperty *row = manager.addProperty(source.name);
+    manager.setValue(row, value);
+    row->setToolTip(source.typeName);
+    return row;
+}
+
+// The text of a three-component colour has no alpha.
+QtProperty *makeColorRow(QtKavoColorPropertyManager &manager, const RowSource &source)
+{
+    QtProperty *row = manager.addProperty(source.name);
+    colorVal color { 0, 0, 0, 1 };
+    std::istringstream text(source.valueText.toStdString());
+    text >> color.r >> color.g >> color.b;
+    if (source.typeName == "SFColor4f")
+        text >> color.a;
+    manager.setValue(row, color);
+    row->setToolTip(source.typeName);
+    return row;
+}
+
+}
+
+QtProperty *kavoFCEditorWidget::createPropertyItem(
+    const QString &name, const QString &typeName, const QString &valueText)
+{
+    const RowSource source { name, typeName, valueText };
+    const auto numberGroup = [&](const QString &subNames) {
+        return createPropertyList<float>(name, typeName, QVariant::Double, valueText, subNames);
+    };
+    const RowType type = rowTypes.value(typeName);
+    switch (type.kind) {
+    case RowKind::Flag:
+        return makeFlagRow(*m_variantManager, source);
+    case RowKind::Integer:
+    case RowKind::Real:
+        return makeNumberRow(*m_variantManager, type, source);
+    case RowKind::Box:
+        return finishRow(numberGroup("min x,min y,min z,max x,max y,max z"), source);
+    case RowKind::Quaternion:
+        return finishRow(numberGroup("x,y,z,w"), source);
+    case RowKind::Enum:
+        return makeEnumRow(*m_enumManager, source);
+    case RowKind::Color:
+        return makeColorRow(*m_colorManager, source);
+    case RowKind::Text:
+        break;
+    }
+    return makeTextRow(*m_variantManager, source);
+}
+
+template <class T>
+QtVariantProperty *kavoFCEditorWidget::createPropertyList(const QString &name,
+    const QString &typeName, int propertyType, const QString &valueText, const QString &subNames)
+{
+    QtVariantProperty *group = m_variantManager->addProperty(
+        QtVariantPropertyManager::groupTypeId(), name + " (" + typeName + ')');
+    QTextStream text(valueText.toUtf8(), QIODevice::ReadOnly);
+    for (int k = 0;; ++k) {
+        const QString subName = subNames.section(',', k, k);
+        if (subName.isEmpty())
+            return group;
+        T number = 0;
+        text >> number;
+        const int type = std::isfinite(number) ? propertyType : int(QVariant::String);
+        QtVariantProperty *row = m_variantManager->addProperty(type, subName);
+        setRange(row, rowTypes.value("SFReal32"), number);
+        row->setValue(QVariant(number));
+        group->addSubProperty(row);
+    }
+}
+
+template QtVariantProperty *kavoFCEditorWidget::createPropertyList<float>(
+    const QString &, const QString &, int, const QString &, const QString &);
+
+bool kavoFCEditorWidget::isNumberList(const QString &typeName)
+{
+    return typeName.startsWith("MFReal") || typeName.startsWith("MFInt")
+        || typeName.startsWith("MFUInt");
+}
+
+QString kavoFCEditorWidget::beautifyFloats(const QString &typeName, const QString &valueText)
+{
+    if (!typeName.startsWith("MFReal") && !floatVectors.contains(typeName))
+        return valueText;
+    QString separated = valueText;
+    separated.replace(',', ' ');
+    QStringList parts = separated.split(' ', Qt::SkipEmptyParts);
+    for (QString &part : parts) {
+        bool isNumber = false;
+        const double number = part.toDouble(&isNumber);
+        if (isNumber)
+            part = QString::number(number, 'g', 6);
+    }
+    return parts.join(", ");
+}
