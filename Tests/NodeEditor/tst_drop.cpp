@@ -1,0 +1,323 @@
+#include "kavoTreeRows.h"
+
+#include <kavoDragFormats.h>
+#include <kavoTestHost.h>
+#include <kavoTestScene.h>
+
+#include <OpenSG/OSGGroup.h>
+#include <OpenSG/OSGMaterialGroup.h>
+#include <OpenSG/OSGPointLight.h>
+
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QMimeData>
+#include <QtTest>
+
+using namespace kavoDragFormats;
+using namespace kavoTreeRows;
+
+class TestDrop : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void cleanupTestCase();
+    void init();
+    void cleanup();
+    void entryOfAKnownFormatIsAccepted_data();
+    void entryOfAKnownFormatIsAccepted();
+    void entryOfUnknownFormatsIsNotAccepted();
+    void aDropIsNotAnswered();
+    void aMaterialIsShownWithoutAName();
+    void aLightIsShownWithItsName();
+    void anUnnamedLightBearsTheTypeOfItsCore();
+    void aCameraIsShownWithItsName();
+    void theFirstIdThatIsANodeIsTheCamera();
+    void aCameraNeedsNoCore();
+    void twoMaterialsShowNothing();
+    void twoLightsShowNothing();
+    void aMaterialNodeNeedsAMaterialGroup();
+    void aMaterialNodeNeedsACore();
+    void aLightNeedsACore();
+    void aGroupWithoutMaterialEmptiesTheEditor();
+    void theCameraWinsOverTheMaterial();
+    void theLightWinsOverTheMaterial();
+    void malformedPayloadsChangeNothing_data();
+    void malformedPayloadsChangeNothing();
+    void anIncompleteItemIsNoItem_data();
+    void anIncompleteItemIsNoItem();
+    void bindingsFollowTheDrop();
+
+private:
+    static qint32 id(const osg::FieldContainerPtr &container);
+    void deliver(QEvent &event);
+    void drop(const QString &format, const QByteArray &bytes);
+    void drop(const QMimeData &data);
+    QString title() const;
+    static QString titleOf(const char *name, const osg::FieldContainerPtr &container);
+
+    kavoFCEditorWidget *m_editor = nullptr;
+    kavoNodePtr m_shown;
+    kavoNodePtr m_materialNode;
+    kavoNodePtr m_light;
+    kavoNodePtr m_bare;
+    osg::MaterialPtr m_material;
+};
+
+qint32 TestDrop::id(const osg::FieldContainerPtr &container)
+{
+    return qint32(container.getFieldContainerId());
+}
+
+QString TestDrop::titleOf(const char *name, const osg::FieldContainerPtr &container)
+{
+    return QStringLiteral("%1 %2 (%3)")
+        .arg(name, container->getTypeName())
+        .arg(container.getFieldContainerId());
+}
+
+void TestDrop::initTestCase()
+{
+    m_material = kavoTestScene::makeMaterial();
+    const osg::MaterialGroupPtr group = osg::MaterialGroup::create();
+    group->setMaterial(m_material);
+    m_materialNode = kavoTestScene::makeNode("Paint", group);
+    m_light = kavoTestScene::makeNode("Lamp", osg::PointLight::create());
+    m_bare = kavoTestScene::makeNode("Bare", osg::NullFC);
+    m_shown = kavoTestScene::makeGroup("Shown");
+}
+
+void TestDrop::cleanupTestCase()
+{
+    for (kavoNodePtr *node : { &m_materialNode, &m_light, &m_bare, &m_shown })
+        *node = kavoNodePtr();
+}
+
+void TestDrop::init()
+{
+    m_editor = new kavoFCEditorWidget(nullptr, nullptr);
+    m_editor->setFC("Shown", osg::NodePtr(m_shown));
+}
+
+void TestDrop::cleanup()
+{
+    delete m_editor;
+}
+
+// Past the application, which expects a real drag behind such events.
+void TestDrop::deliver(QEvent &event)
+{
+    static_cast<QObject *>(m_editor)->event(&event);
+}
+
+void TestDrop::drop(const QMimeData &data)
+{
+    QDropEvent event(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    deliver(event);
+}
+
+void TestDrop::drop(const QString &format, const QByteArray &bytes)
+{
+    QMimeData data;
+    data.setData(format, bytes);
+    drop(data);
+}
+
+QString TestDrop::title() const
+{
+    return m_editor->properties().isEmpty() ? QString() : top(*m_editor)->propertyName();
+}
+
+void TestDrop::entryOfAKnownFormatIsAccepted_data()
+{
+    QTest::addColumn<QString>("format");
+    QTest::newRow("material") << "application/kavo-mattree-item";
+    QTest::newRow("light") << "application/kavo-lighttree-items";
+    QTest::newRow("camera") << "application/kavo-camera-item";
+}
+
+void TestDrop::entryOfAKnownFormatIsAccepted()
+{
+    QFETCH(QString, format);
+    QMimeData data;
+    data.setData(format, QByteArray());
+    QDragEnterEvent event(
+        QPoint(5, 5), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+    event.ignore();
+    deliver(event);
+    QVERIFY(event.isAccepted());
+    QCOMPARE(event.dropAction(), event.proposedAction());
+}
+
+void TestDrop::entryOfUnknownFormatsIsNotAccepted()
+{
+    QMimeData data;
+    data.setText("text");
+    data.setData("application/kavo-mattree-items", QByteArray());
+    QDragEnterEvent event(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    event.ignore();
+    deliver(event);
+    QVERIFY(!event.isAccepted());
+}
+
+void TestDrop::aDropIsNotAnswered()
+{
+    QMimeData data;
+    data.setData(cameras, payload({ id(osg::NodePtr(m_light)) }));
+    QDropEvent event(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    event.ignore();
+    deliver(event);
+    QVERIFY(!event.isAccepted());
+}
+
+void TestDrop::aMaterialIsShownWithoutAName()
+{
+    drop(materials, payload({ id(osg::NodePtr(m_materialNode)), id(m_material) }));
+    QCOMPARE(title(), titleOf("", m_material));
+    QVERIFY(isOpen(*m_editor, top(*m_editor)));
+}
+
+void TestDrop::aLightIsShownWithItsName()
+{
+    drop(lights, payload({ id(osg::NodePtr(m_light)), 0 }));
+    QCOMPARE(title(), titleOf("Lamp", osg::NodePtr(m_light)));
+}
+
+void TestDrop::anUnnamedLightBearsTheTypeOfItsCore()
+{
+    const kavoNodePtr light(kavoTestScene::makeNode(nullptr, osg::PointLight::create()));
+    drop(lights, payload({ id(osg::NodePtr(light)), 0 }));
+    QCOMPARE(title(), titleOf("PointLight", osg::NodePtr(light)));
+}
+
+void TestDrop::aCameraIsShownWithItsName()
+{
+    drop(cameras, payload({ id(osg::NodePtr(m_light)) }));
+    QCOMPARE(title(), titleOf("Lamp", osg::NodePtr(m_light)));
+}
+
+void TestDrop::theFirstIdThatIsANodeIsTheCamera()
+{
+    drop(cameras,
+        payload({ -1, 0x7FFFFFFF, 0, id(m_material), id(osg::NodePtr(m_light)),
+            id(osg::NodePtr(m_materialNode)) }));
+    QCOMPARE(title(), titleOf("Lamp", osg::NodePtr(m_light)));
+}
+
+void TestDrop::aCameraNeedsNoCore()
+{
+    drop(cameras, payload({ id(osg::NodePtr(m_bare)) }));
+    QCOMPARE(title(), titleOf("Bare", osg::NodePtr(m_bare)));
+}
+
+void TestDrop::twoMaterialsShowNothing()
+{
+    const qint32 node = id(osg::NodePtr(m_materialNode));
+    drop(materials, payload({ node, id(m_material), node, id(m_material) }));
+    QCOMPARE(title(), titleOf("Shown", osg::NodePtr(m_shown)));
+}
+
+void TestDrop::twoLightsShowNothing()
+{
+    const qint32 node = id(osg::NodePtr(m_light));
+    drop(lights, payload({ node, 0, node, 0 }));
+    QCOMPARE(title(), titleOf("Shown", osg::NodePtr(m_shown)));
+}
+
+void TestDrop::aMaterialNodeNeedsAMaterialGroup()
+{
+    drop(materials, payload({ id(osg::NodePtr(m_light)), id(m_material) }));
+    QCOMPARE(title(), titleOf("Shown", osg::NodePtr(m_shown)));
+}
+
+void TestDrop::aMaterialNodeNeedsACore()
+{
+    drop(materials, payload({ id(osg::NodePtr(m_bare)), id(m_material) }));
+    QCOMPARE(title(), titleOf("Shown", osg::NodePtr(m_shown)));
+}
+
+void TestDrop::aLightNeedsACore()
+{
+    drop(lights, payload({ id(osg::NodePtr(m_bare)), 0 }));
+    QCOMPARE(title(), titleOf("Shown", osg::NodePtr(m_shown)));
+}
+
+void TestDrop::aGroupWithoutMaterialEmptiesTheEditor()
+{
+    const kavoNodePtr node(kavoTestScene::makeNode("Bare", osg::MaterialGroup::create()));
+    drop(materials, payload({ id(osg::NodePtr(node)), 0 }));
+    QCOMPARE(title(), QString());
+}
+
+void TestDrop::theCameraWinsOverTheMaterial()
+{
+    QMimeData data;
+    data.setData(cameras, payload({ id(osg::NodePtr(m_bare)) }));
+    data.setData(materials, payload({ id(osg::NodePtr(m_materialNode)), id(m_material) }));
+    drop(data);
+    QCOMPARE(title(), titleOf("Bare", osg::NodePtr(m_bare)));
+}
+
+void TestDrop::theLightWinsOverTheMaterial()
+{
+    QMimeData data;
+    data.setData(lights, payload({ id(osg::NodePtr(m_light)), 0 }));
+    data.setData(materials, payload({ id(osg::NodePtr(m_materialNode)), id(m_material) }));
+    drop(data);
+    QCOMPARE(title(), titleOf("Lamp", osg::NodePtr(m_light)));
+}
+
+void TestDrop::malformedPayloadsChangeNothing_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    for (const int size : { 0, 1, 3, 7 })
+        QTest::addRow("%d bytes", size) << QByteArray(size, '\x01');
+    kavoNodePtr dead(kavoTestScene::makeGroup("Dead"));
+    const qint32 deadId = id(osg::NodePtr(dead));
+    dead = kavoNodePtr();
+    QTest::newRow("dead ids") << payload({ deadId, deadId });
+    QTest::newRow("no nodes") << payload({ id(m_material), id(osg::NodePtr(m_light)->getCore()) });
+    QTest::newRow("past the store") << payload({ 0x7FFFFFFF, -1 });
+    QTest::newRow("null") << payload({ 0, 0 });
+    QTest::newRow("100,000 ids") << payload(QVector<qint32>(100000, deadId));
+}
+
+void TestDrop::malformedPayloadsChangeNothing()
+{
+    QFETCH(QByteArray, bytes);
+    for (const char *format : { materials, lights, cameras }) {
+        drop(format, bytes);
+        QCOMPARE(title(), titleOf("Shown", osg::NodePtr(m_shown)));
+    }
+}
+
+void TestDrop::anIncompleteItemIsNoItem_data()
+{
+    const qint32 node = id(osg::NodePtr(m_light));
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<bool>("shows");
+    QTest::newRow("one id") << payload({ node }) << false;
+    QTest::newRow("one id and a half") << payload({ node }) + "\0\0" << false;
+    QTest::newRow("three ids") << payload({ node, 0, node }) << true;
+    QTest::newRow("two ids and a byte") << payload({ node, 0 }) + "x" << true;
+}
+
+void TestDrop::anIncompleteItemIsNoItem()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(bool, shows);
+    drop(lights, bytes);
+    QCOMPARE(title(),
+        shows ? titleOf("Lamp", osg::NodePtr(m_light)) : titleOf("Shown", osg::NodePtr(m_shown)));
+}
+
+void TestDrop::bindingsFollowTheDrop()
+{
+    drop(materials, payload({ id(osg::NodePtr(m_materialNode)), id(m_material) }));
+    setValue(*m_editor, "sortKey", 7);
+    QCOMPARE(m_material->getSortKey(), 7);
+}
+
+KAVO_TEST_MAIN(TestDrop)
+#include "tst_drop.moc"

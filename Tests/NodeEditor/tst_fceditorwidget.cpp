@@ -1,0 +1,208 @@
+#include "OSGFieldSampler.h"
+#include "kavoTreeRows.h"
+
+#include <kavoConsoleCapture.h>
+#include <kavoController.h>
+#include <kavoCustomPropertyGLenum.h>
+#include <kavoTestHost.h>
+#include <kavoTestScene.h>
+
+#include <OpenSG/OSGChangeList.h>
+#include <OpenSG/OSGComponentTransform.h>
+#include <OpenSG/OSGThread.h>
+
+#include <QtTest>
+
+using namespace kavoTreeRows;
+
+class TestFCEditorWidget : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void theTreeTakesDropsAndMarksGroups();
+    void itIsATreePropertyBrowserOfItsOwnMetaObject();
+    void aNullContainerShowsNothing();
+    void aNullContainerEmptiesAFilledTree();
+    void rowsLeftFromAnEarlierContainerAreBoundNoMore();
+    void showingTheSameContainerAgainMakesNewRows();
+    void showingAnotherContainerReplacesTheRows();
+    void buildingTheTreeChangesNothingInTheScene();
+    void everyValueRowIsBound();
+    void groupsAndSubRowsAreNotBound();
+    void manySelectionsLeaveNoVariantRowsBehind();
+
+private:
+    static int invalidPointers(kavoFCEditorWidget &editor, const QList<QtProperty *> &rows);
+};
+
+namespace {
+
+bool isGroup(QtProperty *property)
+{
+    auto *variant = dynamic_cast<QtVariantProperty *>(property);
+    return variant && variant->propertyType() == QtVariantPropertyManager::groupTypeId();
+}
+
+// Another value, whatever the row's kind.
+void touch(QtProperty *property)
+{
+    auto *variant = dynamic_cast<QtVariantProperty *>(property);
+    if (!variant)
+        return;
+    if (variant->valueType() == QVariant::String)
+        variant->setValue(variant->value().toString() + "?");
+    else if (variant->valueType() == QVariant::Bool)
+        variant->setValue(!variant->value().toBool());
+    else
+        variant->setValue(variant->value().toInt() == 1 ? 2 : 1);
+}
+
+}
+
+// Every bound row whose container is gone logs one line when it changes.
+int TestFCEditorWidget::invalidPointers(kavoFCEditorWidget &, const QList<QtProperty *> &rows)
+{
+    kavoConsoleCapture errors(kavoConsoleCapture::StandardError);
+    for (QtProperty *row : rows)
+        touch(row);
+    return errors.text().count("kavoFCEditorWidget::valueChanged: invalid pointer!");
+}
+
+void TestFCEditorWidget::theTreeTakesDropsAndMarksGroups()
+{
+    const kavoFCEditorWidget editor(nullptr, nullptr);
+    QVERIFY(editor.acceptDrops());
+    QVERIFY(editor.propertiesWithoutValueMarked());
+    QVERIFY(editor.rootIsDecorated());
+}
+
+void TestFCEditorWidget::itIsATreePropertyBrowserOfItsOwnMetaObject()
+{
+    const kavoFCEditorWidget editor(nullptr, "ignored");
+    QCOMPARE(editor.metaObject()->className(), "kavoFCEditorWidget");
+    QCOMPARE(editor.metaObject()->superClass(), &QtTreePropertyBrowser::staticMetaObject);
+    QCOMPARE(editor.objectName(), QString());
+}
+
+void TestFCEditorWidget::aNullContainerShowsNothing()
+{
+    kavoFCEditorWidget editor(nullptr, nullptr);
+    editor.setFC("nothing", osg::NullFC);
+    QVERIFY(editor.properties().isEmpty());
+}
+
+void TestFCEditorWidget::aNullContainerEmptiesAFilledTree()
+{
+    const kavoNodePtr truck = kavoTestScene::makeTruck();
+    kavoFCEditorWidget editor(nullptr, nullptr);
+    editor.setFC("truck", osg::NodePtr(truck));
+    QCOMPARE(editor.properties().size(), 1);
+    editor.setFC(QString(), osg::NullFC);
+    QVERIFY(editor.properties().isEmpty());
+}
+
+void TestFCEditorWidget::rowsLeftFromAnEarlierContainerAreBoundNoMore()
+{
+    const osg::FieldSamplerPtr sampler = osg::FieldSampler::create();
+    osg::addRefCP(sampler);
+    kavoFCEditorWidget editor(nullptr, nullptr);
+    editor.setFC("sampler", sampler);
+    QtProperty *left = row(editor, "minFilter");
+    editor.setFC(QString(), osg::NullFC);
+    auto *manager = dynamic_cast<QtGLenumPropertyManager *>(left->propertyManager());
+    kavoConsoleCapture output(kavoConsoleCapture::StandardOutput);
+    manager->setValue(left, 9729);
+    QCOMPARE(sampler->minFilter.getValue(), osg::GLenum(0));
+    QCOMPARE(output.text(), QByteArray("property 'minFilter' changed to '9729'\n"));
+    osg::subRefCP(sampler);
+}
+
+void TestFCEditorWidget::showingTheSameContainerAgainMakesNewRows()
+{
+    const kavoNodePtr truck = kavoTestScene::makeTruck();
+    kavoFCEditorWidget editor(nullptr, nullptr);
+    editor.setFC("truck", osg::NodePtr(truck));
+    const QStringList before = titles(top(editor));
+    qRegisterMetaType<QtProperty *>();
+    QSignalSpy destroyed(
+        top(editor)->propertyManager(), &QtAbstractPropertyManager::propertyDestroyed);
+    const int rows = all(editor).size();
+    editor.setFC("truck", osg::NodePtr(truck));
+    QCOMPARE(titles(top(editor)), before);
+    QCOMPARE(destroyed.size(), rows);
+    QCOMPARE(all(editor).size(), rows);
+}
+
+void TestFCEditorWidget::showingAnotherContainerReplacesTheRows()
+{
+    const kavoNodePtr truck = kavoTestScene::makeTruck();
+    kavoFCEditorWidget editor(nullptr, nullptr);
+    editor.setFC("truck", osg::NodePtr(truck));
+    editor.setFC("wheel", osg::NodePtr(truck)->getChild(0));
+    QCOMPARE(editor.properties().size(), 1);
+    QVERIFY(top(editor)->propertyName().startsWith("wheel Node ("));
+}
+
+void TestFCEditorWidget::buildingTheTreeChangesNothingInTheScene()
+{
+    const osg::FieldSamplerPtr sampler = osg::FieldSampler::create();
+    osg::addRefCP(sampler);
+    sampler->color4.setValue(osg::Color4f(0.123456789f, 0, 0, 0.5f));
+    sampler->real32.setValue(0.123456789f);
+    osg::ChangeList *changes = osg::Thread::getCurrentChangeList();
+    changes->clearAll();
+    kavoFCEditorWidget editor(nullptr, nullptr);
+    kavoConsoleCapture output(kavoConsoleCapture::StandardOutput);
+    editor.setFC("sampler", sampler);
+    QCOMPARE(output.text(), QByteArray());
+    QCOMPARE(int(changes->sizeChanged()), 0);
+    QCOMPARE(sampler->changes, 0);
+    QCOMPARE(sampler->real32.getValue(), 0.123456789f);
+    QCOMPARE(sampler->color4.getValue()[0], 0.123456789f);
+    osg::subRefCP(sampler);
+}
+
+void TestFCEditorWidget::everyValueRowIsBound()
+{
+    osg::FieldSamplerPtr sampler = osg::FieldSampler::create();
+    osg::addRefCP(sampler);
+    kavoFCEditorWidget editor(nullptr, nullptr);
+    editor.setFC("sampler", sampler);
+    QList<QtProperty *> values;
+    for (QtProperty *property : top(editor)->subProperties()) {
+        if (dynamic_cast<QtVariantProperty *>(property) && !isGroup(property))
+            values.append(property);
+    }
+    osg::subRefCP(sampler);
+    QVERIFY(values.size() > 20);
+    QCOMPARE(invalidPointers(editor, values), values.size());
+}
+
+void TestFCEditorWidget::groupsAndSubRowsAreNotBound()
+{
+    osg::FieldContainerPtr transform = osg::ComponentTransform::create();
+    osg::addRefCP(transform);
+    kavoFCEditorWidget editor(nullptr, nullptr);
+    editor.setFC("transform", transform);
+    QtProperty *rotation = row(editor, "rotation (SFQuaternion)");
+    QVERIFY(rotation);
+    osg::subRefCP(transform);
+    QCOMPARE(invalidPointers(editor, { top(editor), rotation }), 0);
+    QCOMPARE(invalidPointers(editor, rotation->subProperties()), 0);
+}
+
+void TestFCEditorWidget::manySelectionsLeaveNoVariantRowsBehind()
+{
+    const kavoNodePtr truck = kavoTestScene::makeTruck();
+    kavoFCEditorWidget editor(nullptr, nullptr);
+    editor.setFC("truck", osg::NodePtr(truck));
+    const QtAbstractPropertyManager *manager = top(editor)->propertyManager();
+    const int rows = manager->properties().size();
+    for (int i = 0; i < 10; ++i)
+        editor.setFC("truck", osg::NodePtr(truck));
+    QCOMPARE(manager->properties().size(), rows);
+}
+
+KAVO_TEST_MAIN(TestFCEditorWidget)
+#include "tst_fceditorwidget.moc"

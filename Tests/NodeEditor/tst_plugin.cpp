@@ -1,0 +1,82 @@
+#include <QKAVODockWindowManager.h>
+#include <kavoModuleBase.h>
+#include <kavoTestHost.h>
+
+#include <QLibrary>
+#include <QProcess>
+#include <QtTest>
+
+class TestPlugin : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initPluginIsTheOnlyFunctionExported();
+    void loadingAloneMakesNoModule();
+    void initPluginMakesTheModule();
+    void initPluginTwiceMakesOneModuleAndOneWindow();
+    void theTypeOfTheStoredModuleIsTheEditor();
+
+private:
+    using InitPlugin = void (*)();
+
+    QLibrary m_library { QStringLiteral(KAVO_PLUGIN_FILE) };
+};
+
+namespace {
+
+// Names of the functions and data that a library offers to others. Weak ones are left out, they are
+// template and inline code of other libraries, and so are the linker's own marks.
+QStringList exportedSymbols(const QString &file)
+{
+    QProcess nm;
+    nm.start("nm", { "--dynamic", "--defined-only", "--format=posix", file });
+    nm.waitForFinished();
+    QStringList names;
+    for (const QString &line : QString(nm.readAllStandardOutput()).split('\n')) {
+        const QStringList parts = line.split(' ');
+        const bool isWeak = QString("VWu").contains(parts.value(1, "W"));
+        if (!isWeak && !QStringList { "__bss_start", "_edata", "_end" }.contains(parts.first()))
+            names.append(parts.first());
+    }
+    return names;
+}
+
+}
+
+void TestPlugin::initPluginIsTheOnlyFunctionExported()
+{
+    QCOMPARE(exportedSymbols(m_library.fileName()), QStringList("initPlugin"));
+}
+
+void TestPlugin::loadingAloneMakesNoModule()
+{
+    QVERIFY2(m_library.load(), qPrintable(m_library.errorString()));
+    QVERIFY(kavoModuleBase::modules().empty());
+}
+
+void TestPlugin::initPluginMakesTheModule()
+{
+    const auto initPlugin = reinterpret_cast<InitPlugin>(m_library.resolve("initPlugin"));
+    QVERIFY(initPlugin);
+    initPlugin();
+    QCOMPARE(kavoModuleBase::modules().size(), std::size_t(1));
+    QCOMPARE(kavoTestHost::docks().keys(), QStringList("Node Editor"));
+}
+
+void TestPlugin::initPluginTwiceMakesOneModuleAndOneWindow()
+{
+    reinterpret_cast<InitPlugin>(m_library.resolve("initPlugin"))();
+    QCOMPARE(kavoModuleBase::modules().size(), std::size_t(1));
+    QCOMPARE(kavoTestHost::docks().keys(), QStringList("Node Editor"));
+}
+
+void TestPlugin::theTypeOfTheStoredModuleIsTheEditor()
+{
+    const kavoModuleBase *module = kavoModuleBase::modules().front();
+    QCOMPARE(module->metaObject()->className(), "kavoNodeEditor");
+    QCOMPARE(module->getWidget(), kavoTestHost::docks().window("Node Editor"));
+}
+
+KAVO_TEST_MAIN(TestPlugin)
+#include "tst_plugin.moc"
