@@ -20,6 +20,5 @@ file(GLOB container_sources CONFIGURE_DEPENDS
     ${CMAKE_CURRENT_SOURCE_DIR}/src/Containers/*.cpp
     ${CMAKE_CURRENT_SOURCE_DIR}/src/Scene/*.cpp
     ${CMAKE_CURRENT_SOURCE_DIR}/src/State/*.cpp
-    ${CMAKE_CURRENT_SOURCE_DIR}/src/Actions/*.cpp
-    ${CMAKE_CURRENT_SOURCE_DIR}/src/IO/*.cpp)
+    ${CMAKE_CURRENT_SOURCE_DIR}/src/Actions/*.cpp)
 list(APPEND container_sources ${generated_files} src/Fields/OSGFieldTarget.cpp)
