@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <QThreadPool>
+#include <memory>
+
+struct kavoImportedScene;
+
+/// Parses one scene file at a time on a worker thread. It knows nothing of OpenSG, whose containers
+/// belong to the GUI thread. Signals arrive on the thread that owns the importer.
+class kavoSceneImporter : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit kavoSceneImporter(QObject *parent = nullptr);
+
+    /// Waits until the worker has noticed that nobody wants its result any more.
+    ~kavoSceneImporter() override;
+
+    /// Begins to parse; an unfinished job is canceled first. Ends in exactly one of `finished`
+    /// and `failed`, unless it is canceled.
+    void start(const QString &fileName);
+
+    /// Nothing more is signaled of the current job.
+    void cancel();
+
+signals:
+    void progress(int percent);
+    void finished(const std::shared_ptr<kavoImportedScene> &scene);
+    void failed(const QString &fileName, const QString &reason);
+
+private:
+    struct Job;
+
+    void run(const std::shared_ptr<Job> &job);
+    void parse(Job &job);
+    void readTextures(Job &job);
+    void conclude(const std::shared_ptr<Job> &job);
+
+    std::shared_ptr<Job> m_job;
+    QThreadPool m_workers;
+};
