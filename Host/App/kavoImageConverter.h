@@ -1,0 +1,14 @@
+#pragma once
+
+#include <OpenSG/OSGImage.h>
+
+#include <QImage>
+
+/// From OpenSG images to Qt's.
+class kavoImageConverter
+{
+public:
+    /// The first picture of the image, top row first; null for a null or an empty image and for
+    /// one whose channels are no bytes.
+    static QImage toImage(const osg::ImagePtr &image);
+};

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <OpenSG/OSGNode.h>
+
+struct aiMetadata;
+
+/// Hangs the metadata of a file's node on a node of the scene, as key/value pairs. GUI thread.
+class kavoMetadataReader
+{
+public:
+    /// Adds an osg::ValuePairBase with one pair for each entry, values as text; nothing where
+    /// there are no entries.
+    static void attach(const osg::NodePtr &node, const aiMetadata *metadata);
+};

@@ -1,0 +1,73 @@
+#include "kavoSceneCameras.h"
+
+#include "kavoContainers.h"
+
+#include <algorithm>
+
+namespace {
+
+struct Entry
+{
+    kavoContainerRef<osg::CameraPtr> camera;
+    osg::UInt32 nodeId; // the beacon is not referenced by its camera: only its id outlives it
+};
+
+struct Cameras
+{
+    std::vector<Entry> entries;
+    osg::UInt32 activeNodeId = 0;
+};
+
+// Never destroyed: by then OpenSG is no longer able to take references back.
+Cameras &cameras()
+{
+    static auto *const instance = new Cameras;
+    return *instance;
+}
+
+std::vector<Entry> &living()
+{
+    std::vector<Entry> &entries = cameras().entries;
+    const auto isDead
+        = [](const Entry &entry) { return kavoContainers::node(entry.nodeId) == osg::NullFC; };
+    entries.erase(std::remove_if(entries.begin(), entries.end(), isDead), entries.end());
+    return entries;
+}
+
+} // namespace
+
+void kavoSceneCameras::set(const std::vector<kavoContainerRef<osg::CameraPtr>> &newCameras)
+{
+    cameras().entries.clear();
+    for (const auto &camera : newCameras)
+        cameras().entries.push_back({ camera, camera.get()->getBeacon().getFieldContainerId() });
+    cameras().activeNodeId = newCameras.empty() ? 0 : cameras().entries.front().nodeId;
+}
+
+std::vector<osg::UInt32> kavoSceneCameras::nodeIds()
+{
+    std::vector<osg::UInt32> ids;
+    for (const Entry &entry : living())
+        ids.push_back(entry.nodeId);
+    return ids;
+}
+
+osg::CameraPtr kavoSceneCameras::at(osg::UInt32 nodeId)
+{
+    for (const Entry &entry : living()) {
+        if (entry.nodeId == nodeId)
+            return entry.camera.get();
+    }
+    return osg::NullFC;
+}
+
+osg::UInt32 kavoSceneCameras::activeNodeId()
+{
+    return at(cameras().activeNodeId) == osg::NullFC ? 0 : cameras().activeNodeId;
+}
+
+void kavoSceneCameras::activate(osg::UInt32 nodeId)
+{
+    if (at(nodeId) != osg::NullFC)
+        cameras().activeNodeId = nodeId;
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "kavoContainerRef.h"
+
+#include <OpenSG/OSGCamera.h>
+#include <OpenSG/OSGNode.h>
+
+#include <vector>
+
+/// The cameras of the open scene. No node holds a camera, so the host keeps them here, referenced.
+/// A camera lives as long as its beacon: those whose node was deleted are no longer listed.
+/// GUI thread.
+class kavoSceneCameras
+{
+public:
+    /// Replaces all cameras; the first one becomes active.
+    static void set(const std::vector<kavoContainerRef<osg::CameraPtr>> &cameras);
+
+    /// Container ids of the beacons, in the order of the cameras.
+    static std::vector<osg::UInt32> nodeIds();
+
+    /// The camera at a node, null if there is none.
+    static osg::CameraPtr at(osg::UInt32 nodeId);
+
+    /// The node of the camera that the viewport looks through; 0 if there is none.
+    static osg::UInt32 activeNodeId();
+
+    /// Activates the camera at the node; nothing happens if there is none.
+    static void activate(osg::UInt32 nodeId);
+};

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <OpenSG/OSGNode.h>
+
+#include <QObject>
+#include <QStringList>
+#include <memory>
+#include <vector>
+
+class kavoSceneBuilder;
+class kavoSceneImporter;
+struct kavoImportedScene;
+
+Q_DECLARE_METATYPE(osg::NodePtr)
+
+/// Loads scene files in the background: parses them one by one on a worker thread, then builds one
+/// scene of all of them in slices on the GUI thread.
+class kavoSceneLoader : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit kavoSceneLoader(QObject *parent = nullptr);
+    ~kavoSceneLoader() override;
+
+    /// Begins to load; a load under way is canceled first. Ends in exactly one of `loaded`,
+    /// `failed` and `canceled`; an empty list loads nothing. The open scene is not touched.
+    void load(const QStringList &files);
+
+    /// Ends a load under way at once, with `canceled`; otherwise nothing happens.
+    void cancel();
+
+    bool isLoading() const;
+
+signals:
+    void progress(int percent, const QString &what);
+
+    /// The new scene. Receivers that want to keep it reference its root (kavoScenegraph::setRoot
+    /// does); otherwise it is gone when they return. The cameras of the files are in
+    /// kavoSceneCameras.
+    void loaded(osg::NodePtr root);
+
+    /// One of the files cannot be read; nothing comes of the others either.
+    void failed(const QString &file, const QString &reason);
+
+    void canceled();
+
+private:
+    void importNext();
+    void addFile(const std::shared_ptr<kavoImportedScene> &file);
+    void build();
+    void conclude();
+    void fail(const QString &file, const QString &reason);
+    void reset();
+
+    QStringList m_files;
+    std::vector<std::shared_ptr<kavoImportedScene>> m_imported;
+    kavoSceneImporter *m_importer;
+    std::unique_ptr<kavoSceneBuilder> m_builder;
+};
