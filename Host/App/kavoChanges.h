@@ -1,0 +1,24 @@
+#pragma once
+
+#include <OpenSG/OSGFieldContainerPtr.h>
+
+#include <QHash>
+#include <QSet>
+
+/// What happened to containers during one round of the event loop.
+struct kavoChanges
+{
+    QHash<osg::UInt32, osg::BitVector> changed; ///< fields by container id, living ones only
+    /// All that changed, and what it belongs to: the holders of an attachment, the nodes of a core.
+    QSet<osg::UInt32> touched;
+    QSet<osg::UInt32> created;
+    QSet<osg::UInt32> destroyed;
+
+    bool isEmpty() const { return changed.isEmpty() && created.isEmpty() && destroyed.isEmpty(); }
+
+    /// Whether one of the fields of the container changed.
+    bool contains(osg::UInt32 id, osg::BitVector fields) const
+    {
+        return (changed.value(id, osg::FieldBits::NoField) & fields) != 0;
+    }
+};
