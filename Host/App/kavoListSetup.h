@@ -1,0 +1,12 @@
+#pragma once
+
+class QAbstractItemModel;
+class QTreeView;
+
+/// What the windows that list parts of the scene have in common.
+class kavoListSetup
+{
+public:
+    /// Whole rows, several at once, that can be dragged away but not dropped; names take the room.
+    static void apply(QTreeView &view, QAbstractItemModel &model);
+};

@@ -1,0 +1,79 @@
+#pragma once
+
+#include <OpenSG/OSGNode.h>
+
+#include <QAbstractItemModel>
+#include <QIcon>
+#include <memory>
+#include <unordered_map>
+#include <unordered_set>
+#include <vector>
+
+class kavoChangeMonitor;
+class kavoSceneEvents;
+struct kavoChanges;
+
+/// The node tree of the open scene.
+///
+/// Rows are made when their parent is opened, so a scene of any size costs what is seen of it; a
+/// row knows its parent and its number, a node is found by its id. Rows hold ids, not handles: a
+/// node that dies before its row goes shows nothing.
+class kavoSceneModel : public QAbstractItemModel
+{
+    Q_OBJECT
+
+public:
+    enum Column { NameColumn, CoreColumn, IdColumn, ColumnCount };
+
+    kavoSceneModel(kavoSceneEvents &events, kavoChangeMonitor &monitor, QObject *parent = nullptr);
+    ~kavoSceneModel() override;
+
+    /// Restricts the tree to the nodes whose name or core type contains the text, or whose id it
+    /// is, and to their ancestors. An empty text shows everything.
+    void setFilter(const QString &text);
+
+    /// The number of nodes that the filter leaves, ancestors included; meaningless without one.
+    int filteredCount() const { return int(m_visible.size()); }
+
+    /// The node of a row, null for the invalid index and for a dead node.
+    osg::NodePtr node(const QModelIndex &index) const;
+
+    /// The row of a node; rows of its ancestors are made where needed. Invalid for nodes that are
+    /// not in the scene or filtered out.
+    QModelIndex indexOf(const osg::NodePtr &node);
+
+    QModelIndex index(int row, int column, const QModelIndex &parent = {}) const override;
+    QModelIndex parent(const QModelIndex &index) const override;
+    int rowCount(const QModelIndex &parent = {}) const override;
+    int columnCount(const QModelIndex &parent = {}) const override;
+    bool hasChildren(const QModelIndex &parent = {}) const override;
+    bool canFetchMore(const QModelIndex &parent) const override;
+    void fetchMore(const QModelIndex &parent) override;
+    QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+private:
+    struct Item;
+    using Ids = std::vector<osg::UInt32>;
+
+    void reset();
+    void findVisible();
+    bool isVisible(osg::UInt32 id) const;
+    bool matches(const osg::NodePtr &node) const;
+    Item *itemAt(const QModelIndex &index) const;
+    QModelIndex indexAt(const Item &item, int column = NameColumn) const;
+    QString text(const osg::NodePtr &node, int column) const;
+    Ids childIds(const osg::NodePtr &node) const;
+
+    void update(const kavoChanges &changes);
+    bool updateItem(osg::UInt32 id, osg::BitVector fields);
+    void syncChildren(Item &item);
+    void insertItems(Item &parent, int row, Ids::const_iterator begin, Ids::const_iterator end);
+    void removeItems(Item &parent, int row, int count);
+    void forget(const Item &item);
+
+    std::unique_ptr<Item> m_top; // not shown; its one child is the scene's root
+    std::unordered_map<osg::UInt32, Item *> m_items;
+    QString m_filter;
+    std::unordered_set<osg::UInt32> m_visible;
+};

@@ -1,0 +1,153 @@
+#include "kavoSceneView.h"
+
+#include "kavoChangeMonitor.h"
+#include "kavoContainers.h"
+#include "kavoNodeDeleter.h"
+#include "kavoSceneEvents.h"
+#include "kavoSceneIndex.h"
+#include "kavoSceneModel.h"
+
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QScopedValueRollback>
+#include <QShortcut>
+#include <QTreeView>
+#include <QVBoxLayout>
+#include <kavoScenegraph.h>
+
+namespace {
+
+constexpr int filterDelayMilliseconds = 150;
+constexpr int opensAllUpTo = 2000; // nodes that a filter leaves
+constexpr int otherwiseOpenLevels = 2;
+
+} // namespace
+
+kavoSceneView::kavoSceneView(kavoSceneEvents &events, kavoChangeMonitor &monitor,
+    const kavoSceneIndex &index, QWidget *parent)
+    : QWidget(parent)
+    , m_model(new kavoSceneModel(events, monitor, this))
+    , m_index(index)
+    , m_filter(new QLineEdit(this))
+    , m_tree(new QTreeView(this))
+{
+    setUpTree();
+    setUpFilter();
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->addWidget(m_filter);
+    layout->addWidget(m_tree);
+    addKey(Qt::Key_Delete, &kavoSceneView::confirmDeletion);
+    addKey(Qt::Key_Escape, &kavoSceneView::selectNothing);
+    connect(&events, &kavoSceneEvents::selectionChanged, this, &kavoSceneView::showSelection);
+    connect(&index, &kavoSceneIndex::structureChanged, this, &kavoSceneView::dropLostSelection,
+        Qt::QueuedConnection); // the model hears of it in the same round
+    showAll();
+}
+
+void kavoSceneView::setUpTree()
+{
+    // In front of the tree itself, which selects the next row when one goes.
+    connect(
+        m_model, &QAbstractItemModel::rowsAboutToBeRemoved, this, [this] { m_following = true; });
+    connect(m_model, &QAbstractItemModel::rowsRemoved, this, [this] { m_following = false; });
+    m_tree->setModel(m_model);
+    m_tree->setUniformRowHeights(true); // rows are not measured one by one
+    m_tree->setAlternatingRowColors(true);
+    m_tree->setAccessibleName(tr("Nodes of the scene"));
+    m_tree->header()->setStretchLastSection(false);
+    m_tree->header()->setSectionResizeMode(kavoSceneModel::NameColumn, QHeaderView::Stretch);
+    connect(m_tree->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+        &kavoSceneView::select);
+    connect(m_model, &QAbstractItemModel::modelReset, this, &kavoSceneView::showAll);
+}
+
+void kavoSceneView::setUpFilter()
+{
+    m_filter->setPlaceholderText(tr("Filter by name, core type or ID"));
+    m_filter->setClearButtonEnabled(true);
+    m_filterDelay.setSingleShot(true);
+    m_filterDelay.setInterval(filterDelayMilliseconds);
+    connect(m_filter, &QLineEdit::textChanged, &m_filterDelay, qOverload<>(&QTimer::start));
+    connect(m_filter, &QLineEdit::returnPressed, this, &kavoSceneView::applyFilter);
+    connect(&m_filterDelay, &QTimer::timeout, this, &kavoSceneView::applyFilter);
+}
+
+void kavoSceneView::addKey(const QKeySequence &key, void (kavoSceneView::*reaction)())
+{
+    auto *shortcut = new QShortcut(key, m_tree);
+    shortcut->setContext(Qt::WidgetShortcut);
+    connect(shortcut, &QShortcut::activated, this, reaction);
+}
+
+void kavoSceneView::applyFilter()
+{
+    m_filterDelay.stop();
+    m_model->setFilter(m_filter->text());
+}
+
+/// After a reset all rows are closed again.
+void kavoSceneView::showAll()
+{
+    if (m_filter->text().isEmpty())
+        m_tree->expandToDepth(0);
+    else if (m_model->filteredCount() <= opensAllUpTo)
+        m_tree->expandAll();
+    else
+        m_tree->expandToDepth(otherwiseOpenLevels);
+    showSelection();
+}
+
+void kavoSceneView::showSelection()
+{
+    const osg::NodePtr selected = kavoScenegraph::getSelectedNode();
+    if (m_model->node(m_tree->currentIndex()) == selected
+        && m_tree->selectionModel()->hasSelection())
+        return;
+    const QScopedValueRollback<bool> following(m_following, true);
+    const QModelIndex index = m_model->indexOf(selected);
+    if (index.isValid())
+        m_tree->setCurrentIndex(index); // opens its parents and scrolls there
+    else
+        m_tree->clearSelection();
+}
+
+void kavoSceneView::select()
+{
+    const QModelIndexList rows = m_tree->selectionModel()->selectedRows();
+    if (!m_following && !rows.isEmpty())
+        kavoScenegraph::setSelectedNode(m_model->node(rows.first()));
+}
+
+void kavoSceneView::selectNothing()
+{
+    kavoScenegraph::setSelectedNode(osg::NullFC);
+}
+
+void kavoSceneView::confirmDeletion()
+{
+    const osg::NodePtr node = kavoScenegraph::getSelectedNode();
+    if (node == osg::NullFC || !kavoNodeDeleter::canDelete(node))
+        return;
+    const osg::UInt32 id = kavoContainers::id(node);
+    const QString question = tr("Delete the node \"%1\" and everything below it?")
+                                 .arg(QString::fromUtf8(kavoScenegraph::getNodeName(node)));
+    if (QMessageBox::question(this, tr("Delete node"), question) != QMessageBox::Yes)
+        return;
+    // The editor empties itself on the message of the selection, which is under way before this.
+    selectNothing();
+    QMetaObject::invokeMethod(
+        this, [this, id] { kavoNodeDeleter::deleteNode(id, m_index); }, Qt::QueuedConnection);
+}
+
+void kavoSceneView::dropLostSelection()
+{
+    const osg::NodePtr selected = kavoScenegraph::getSelectedNode();
+    if (selected != osg::NullFC && !kavoContainers::isWithin(selected, kavoScenegraph::getRoot()))
+        selectNothing();
+    if (!m_filter->text().isEmpty())
+        applyFilter();
+    else
+        showSelection();
+}

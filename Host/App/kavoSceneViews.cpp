@@ -1,0 +1,54 @@
+#include "kavoSceneViews.h"
+
+#include "kavoCameraView.h"
+#include "kavoLightView.h"
+#include "kavoMaterialView.h"
+#include "kavoSceneView.h"
+
+#include <QKAVODockWindowManager.h>
+#include <QWidget>
+#include <kavoController.h>
+#include <kavoIconManager.h>
+#include <kavoMessage.h>
+#include <kavoMessageIds.h>
+
+namespace {
+
+void announceStructure()
+{
+    kavoMessage message(kavoMessageIds::sceneGraphChanged);
+    kavoController::sendMessage(message);
+}
+
+} // namespace
+
+kavoSceneViews::kavoSceneViews(kavoChangeMonitor &monitor, QWidget *parent)
+    : QObject(parent)
+    , m_index(m_events, monitor)
+    , m_scene(new kavoSceneView(m_events, monitor, m_index, parent))
+    , m_materials(new kavoMaterialView(m_events, monitor, m_index, parent))
+    , m_lights(new kavoLightView(monitor, m_index, parent))
+    , m_cameras(new kavoCameraView(m_events, monitor, parent))
+{
+    connect(&m_index, &kavoSceneIndex::structureChanged, this, announceStructure);
+}
+
+void kavoSceneViews::dock(QKAVODockWindowManager &docks)
+{
+    const struct
+    {
+        const char *key;
+        QWidget *window;
+        const char *icon;
+        QString title;
+    } rows[] = {
+        { "Scene", m_scene, "Scene", tr("Scene") },
+        { "Materials", m_materials, "Material", tr("Materials") },
+        { "Lights", m_lights, "Light", tr("Lights") },
+        { "Cameras", m_cameras, "Camera", tr("Cameras") },
+    };
+    for (const auto &row : rows)
+        docks.add(row.key, QStringLiteral("Scene"), row.window,
+            QStringLiteral("Hintcard_%1").arg(row.key), kavoIconManager::getIcon(row.icon),
+            row.title, Qt::LeftDockWidgetArea, true, nullptr);
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "kavoSceneEvents.h"
+#include "kavoSceneIndex.h"
+
+#include <QObject>
+
+class QKAVODockWindowManager;
+class QWidget;
+class kavoCameraView;
+class kavoChangeMonitor;
+class kavoLightView;
+class kavoMaterialView;
+class kavoSceneView;
+
+/// The host's own windows on the scene (Scene, Materials, Lights, Cameras) and what keeps them in
+/// step with it. Needs osgInit, with writable change lists, and an application object.
+class kavoSceneViews : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// \param monitor must outlive this object
+    /// \param parent owns this object and the windows
+    kavoSceneViews(kavoChangeMonitor &monitor, QWidget *parent);
+
+    /// Docks the windows in the group "Scene", under their titles as keys.
+    void dock(QKAVODockWindowManager &docks);
+
+    kavoSceneView *sceneView() const { return m_scene; }
+    kavoMaterialView *materialView() const { return m_materials; }
+    kavoLightView *lightView() const { return m_lights; }
+    kavoCameraView *cameraView() const { return m_cameras; }
+
+private:
+    kavoSceneEvents m_events;
+    kavoSceneIndex m_index;
+    kavoSceneView *m_scene;
+    kavoMaterialView *m_materials;
+    kavoLightView *m_lights;
+    kavoCameraView *m_cameras;
+};
