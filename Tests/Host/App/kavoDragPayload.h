@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QAbstractItemView>
+#include <QDataStream>
+#include <QMimeData>
+#include <QVector>
+#include <memory>
+
+/// Reads what a view would put on a drag of its selected rows.
+namespace kavoDragPayload {
+
+/// The ids under the one format that the view's model knows.
+inline QVector<qint32> ids(const QAbstractItemView &view, const QModelIndexList &rows)
+{
+    const std::unique_ptr<QMimeData> data(view.model()->mimeData(rows));
+    QDataStream stream(data->data(data->formats().value(0)));
+    QVector<qint32> ids;
+    while (!stream.atEnd()) {
+        qint32 id = 0;
+        stream >> id;
+        ids << id;
+    }
+    return ids;
+}
+
+}
