@@ -12,7 +12,7 @@ constexpr const Char8 *header = "#OSG V1.0 ";
 
 /// Containers inside each other, more than which are neither written nor read. The limit bounds
 /// the stack; and since lines are indented by their depth, files that need more are of no use.
-constexpr std::size_t maxDepth = 2000;
+constexpr std::size_t maxDepth = 1000;
 
 } // namespace AsciiFormat
 
