@@ -6,7 +6,8 @@ from container_header import include
 def family_source(members):
     parts = ["// Generated from a description in OpenSG/containers.\n\n"]
     parts += [include(c.name) for c in members]
-    parts.append('\n#include <OpenSG/OSGMFieldTypeDef.inl>\n#include <OpenSG/OSGSFieldTypeDef.inl>\n')
+    parts.append("\n#include <OpenSG/OSGMFieldTypeDef.inl>\n")
+    parts.append("#include <OpenSG/OSGSFieldTypeDef.inl>\n")
     parts.append("\nOSG_BEGIN_NAMESPACE\n")
     parts += [pointer_fields(c) for c in members if not c.kernel and c.pointer_fields]
     parts += [class_source(c) for c in members]
@@ -82,8 +83,9 @@ FieldContainerPtr {c.cpp_name}::shallowCopy() const
 
 
 def follow(f):
-    held = f"_held{f.title}"
-    return f"{held}.follow({f.member})" if f.multi else f"{held} = {f.member}.getValue()"
+    held, value = f"_held{f.title}", f.member
+    action = f"{held}.follow({value})" if f.multi else f"{held} = {value}.getValue()"
+    return f"    if (whichField & {f.title}FieldMask) {{\n        {action};\n    }}\n"
 
 
 def reference_upkeep(c):
@@ -91,7 +93,7 @@ def reference_upkeep(c):
     counted = [f for f in c.fields if f.counted]
     if not counted:
         return ""
-    body = "".join(f"    if (whichField & {f.title}FieldMask) {{\n        {follow(f)};\n    }}\n" for f in counted)
+    body = "".join(follow(f) for f in counted)
     return f"""
 void {c.cpp_name}::changed(BitVector whichField, UInt32 origin)
 {{

@@ -1,7 +1,15 @@
+# Sets container_sources: containers, what scenes are made of, and what is done with them.
+
 # The classes described in containers/*.fcd are generated, all in one run.
-find_package(Python3 REQUIRED COMPONENTS Interpreter)
-file(GLOB descriptions CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/containers/*.fcd)
-file(GLOB generator CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/tools/*.py)
+find_package(Python3 3.9 REQUIRED COMPONENTS Interpreter)
+set(descriptions
+    attributes backgrounds cameras chunks drawables groups lights materials nodes properties shaders
+    textures viewports)
+list(TRANSFORM descriptions PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/containers/)
+list(TRANSFORM descriptions APPEND .fcd)
+set(generator
+    container_description.py container_header.py container_source.py generate_containers.py)
+list(TRANSFORM generator PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/tools/)
 set(generate ${Python3_EXECUTABLE} -B ${CMAKE_CURRENT_SOURCE_DIR}/tools/generate_containers.py)
 
 execute_process(
@@ -16,9 +24,41 @@ add_custom_command(
     COMMENT "Generating container classes"
     VERBATIM)
 
-file(GLOB container_sources CONFIGURE_DEPENDS
-    ${CMAKE_CURRENT_SOURCE_DIR}/src/Containers/*.cpp
-    ${CMAKE_CURRENT_SOURCE_DIR}/src/Scene/*.cpp
-    ${CMAKE_CURRENT_SOURCE_DIR}/src/State/*.cpp
-    ${CMAKE_CURRENT_SOURCE_DIR}/src/Actions/*.cpp)
-list(APPEND container_sources ${generated_files} src/Fields/OSGFieldTarget.cpp)
+set(container_sources
+    ${generated_files}
+    src/Actions/OSGAction.cpp
+    src/Actions/OSGGraphOp.cpp
+    src/Actions/OSGGraphOpFactory.cpp
+    src/Containers/OSGChangeList.cpp
+    src/Containers/OSGFieldContainer.cpp
+    src/Containers/OSGFieldContainerFactory.cpp
+    src/Containers/OSGFieldContainerPtr.cpp
+    src/Containers/OSGFieldContainerPtrBase.cpp
+    src/Containers/OSGFieldContainerType.cpp
+    src/Containers/OSGFieldDescription.cpp
+    src/Containers/OSGHandleFields.cpp
+    src/Containers/OSGThread.cpp
+    src/Fields/OSGFieldTarget.cpp
+    src/Scene/OSGAttachment.cpp
+    src/Scene/OSGAttachmentContainer.cpp
+    src/Scene/OSGGeoProperty.cpp
+    src/Scene/OSGGeometry.cpp
+    src/Scene/OSGNode.cpp
+    src/Scene/OSGNodeCore.cpp
+    src/Scene/OSGParticleBSPTreeFields.cpp
+    src/Scene/OSGSimpleAttachments.cpp
+    src/Scene/OSGSimpleGeometry.cpp
+    src/Scene/OSGStringAttributeMap.cpp
+    src/Scene/OSGTransforms.cpp
+    src/Scene/OSGTriangleBuilder.cpp
+    src/State/OSGChunkMaterial.cpp
+    src/State/OSGFatBorderChunk.cpp
+    src/State/OSGImage.cpp
+    src/State/OSGMaterial.cpp
+    src/State/OSGMaterialChoices.cpp
+    src/State/OSGShaderParameterChunk.cpp
+    src/State/OSGSimpleMaterial.cpp
+    src/State/OSGSimpleTexturedMaterial.cpp
+    src/State/OSGState.cpp
+    src/State/OSGTextureChunk.cpp
+)
