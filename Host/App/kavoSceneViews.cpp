@@ -4,6 +4,7 @@
 #include "kavoLightView.h"
 #include "kavoMaterialView.h"
 #include "kavoSceneView.h"
+#include "kavoViewport.h"
 
 #include <QKAVODockWindowManager.h>
 #include <QWidget>
@@ -25,16 +26,23 @@ void announceStructure()
 kavoSceneViews::kavoSceneViews(kavoChangeMonitor &monitor, QWidget *parent)
     : QObject(parent)
     , m_index(m_events, monitor)
+    , m_viewport(kavoViewport::create(m_events, monitor, m_index, parent))
     , m_scene(new kavoSceneView(m_events, monitor, m_index, parent))
     , m_materials(new kavoMaterialView(m_events, monitor, m_index, parent))
     , m_lights(new kavoLightView(monitor, m_index, parent))
     , m_cameras(new kavoCameraView(m_events, monitor, parent))
 {
     connect(&m_index, &kavoSceneIndex::structureChanged, this, announceStructure);
+    if (auto *viewport = qobject_cast<kavoViewport *>(m_viewport))
+        connect(m_cameras, &kavoCameraView::activeCameraChanged, viewport,
+            &kavoViewport::lookThroughActiveCamera);
 }
 
 void kavoSceneViews::dock(QKAVODockWindowManager &docks)
 {
+    docks.add("Viewport", QStringLiteral("Viewport"), m_viewport,
+        QStringLiteral("Hintcard_Viewport"), kavoIconManager::getIcon("Scene"), tr("Viewport"),
+        Qt::TopDockWidgetArea, true, nullptr);
     const struct
     {
         const char *key;

@@ -13,8 +13,8 @@ class kavoLightView;
 class kavoMaterialView;
 class kavoSceneView;
 
-/// The host's own windows on the scene (Scene, Materials, Lights, Cameras) and what keeps them in
-/// step with it. Needs osgInit, with writable change lists, and an application object.
+/// The host's own windows on the scene (Viewport, Scene, Materials, Lights, Cameras) and what keeps
+/// them in step with it. Needs osgInit, with writable change lists, and an application object.
 class kavoSceneViews : public QObject
 {
     Q_OBJECT
@@ -24,7 +24,9 @@ public:
     /// \param parent owns this object and the windows
     kavoSceneViews(kavoChangeMonitor &monitor, QWidget *parent);
 
-    /// Docks the windows in the group "Scene", under their titles as keys.
+    /// Docks the viewport, and the other windows in the group "Scene", under the keys "Viewport",
+    /// "Scene", "Materials", "Lights" and "Cameras". The viewport is in the middle if it comes
+    /// before all other windows of the host.
     void dock(QKAVODockWindowManager &docks);
 
     kavoSceneView *sceneView() const { return m_scene; }
@@ -35,6 +37,7 @@ public:
 private:
     kavoSceneEvents m_events;
     kavoSceneIndex m_index;
+    QWidget *m_viewport;
     kavoSceneView *m_scene;
     kavoMaterialView *m_materials;
     kavoLightView *m_lights;
