@@ -7,9 +7,11 @@
 #include <kavoScenegraph.h>
 #include <kavoTestHost.h>
 #include <kavoTestScene.h>
+#include <kavoViewport.h>
 
 #include <OpenSG/OSGPointLight.h>
 
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -173,6 +175,14 @@ private slots:
         QTest::keyClicks(m_view->filter(), "wheel");
         QTRY_COMPARE(m_view->tree()->model()->rowCount(root()), 1);
         QVERIFY(selected() == kavoTestLoad::find("Tyre"));
+    }
+
+    void withoutOpenGLTheViewportIsAWordOfExplanation()
+    {
+        QVERIFY(!kavoViewport::isAvailable()); // these tests run without a display
+        const std::unique_ptr<QWidget> view(
+            kavoViewport::create(m_fixture->events, m_fixture->monitor, m_fixture->index));
+        QVERIFY(qobject_cast<QLabel *>(view.get())->text().contains("OpenGL"));
     }
 
 private:
