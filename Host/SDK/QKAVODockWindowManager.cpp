@@ -11,6 +11,7 @@
 #include <QDataStream>
 #include <QMainWindow>
 #include <QMenu>
+#include <QSplitter>
 
 namespace {
 
@@ -26,6 +27,28 @@ ads::DockWidgetArea sideOf(Qt::DockWidgetArea area)
     default:
         return ads::RightDockWidgetArea;
     }
+}
+
+// Percent of the main window that a side takes when it opens.
+int shareOf(ads::DockWidgetArea side)
+{
+    const bool acrossTheWindow
+        = side == ads::TopDockWidgetArea || side == ads::BottomDockWidgetArea;
+    return acrossTheWindow ? 25 : 55;
+}
+
+void giveShare(ads::CDockAreaWidget *area, int percent)
+{
+    auto *splitter = qobject_cast<QSplitter *>(area->parentWidget());
+    if (!splitter || splitter->count() < 2)
+        return;
+    const int total
+        = splitter->orientation() == Qt::Horizontal ? splitter->width() : splitter->height();
+    const int others = total * (100 - percent) / 100 / (splitter->count() - 1);
+    QList<int> sizes;
+    for (int i = 0; i < splitter->count(); ++i)
+        sizes << (splitter->widget(i) == area ? total * percent / 100 : others);
+    splitter->setSizes(sizes);
 }
 
 QString areaName(const QString &group, Qt::DockWidgetArea area)
@@ -158,7 +181,8 @@ void QKAVODockWindowManager::place(const Window &window)
     if (first && first->dockAreaWidget()) {
         m_docks->addDockWidgetTabToArea(window.dock, first->dockAreaWidget());
     } else {
-        m_docks->addDockWidget(sideOf(window.area), window.dock);
+        const ads::DockWidgetArea side = sideOf(window.area);
+        giveShare(m_docks->addDockWidget(side, window.dock), shareOf(side));
         first = window.dock;
     }
     window.dock->toggleView(window.visible);
