@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QString>
+
+class QAbstractItemModel;
+class QModelIndex;
+class QTextStream;
+class QWidget;
+class QtBrowserItem;
+
+/// Writes what a window shows as text, opened and closed branches alike: one row a line, two blanks
+/// of indent per level, the name, a tab, the value text.
+class kavoWindowPrinter
+{
+public:
+    explicit kavoWindowPrinter(QTextStream &out);
+
+    /// Prints the first property browser or item view in the window.
+    /// \returns false if it holds neither
+    bool print(QWidget *window);
+
+private:
+    void row(int level, const QString &name, const QString &value);
+
+    void printItem(const QtBrowserItem *item, int level);
+    void printChildren(QAbstractItemModel *model, const QModelIndex &parent, int level);
+
+    QTextStream &m_out;
+};
