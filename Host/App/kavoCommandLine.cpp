@@ -1,0 +1,125 @@
+#include "kavoCommandLine.h"
+
+#include "kavoExportArguments.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+const QString selectOption = QStringLiteral("select");
+const QString pluginsOption = QStringLiteral("plugins");
+const QString screenshotOption = QStringLiteral("screenshot");
+const QString printWindowOption = QStringLiteral("print-window");
+const QString printFieldOption = QStringLiteral("print-field");
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("kavoCommandLine", text);
+}
+
+QList<QCommandLineOption> options()
+{
+    return {
+        { selectOption, tr("Select the node of this name, or of this container id."),
+            tr("NAME-or-ID") },
+        { pluginsOption, tr("Load the plug-ins of this folder too. May be given several times."),
+            tr("DIR") },
+        { screenshotOption, tr("Write a picture of the main window to this file, then exit."),
+            tr("FILE") },
+        { printWindowOption,
+            tr("Print the rows of the window docked under this key, then exit: two blanks of "
+               "indent per level, the name, a tab, the value."),
+            tr("KEY") },
+        { printFieldOption,
+            tr("When the application ends, print the text of a field: container id, a point, "
+               "name."),
+            tr("ID.NAME") },
+    };
+}
+
+}
+
+kavoCommandLine::kavoCommandLine(const QStringList &arguments)
+{
+    m_parser.setApplicationDescription(
+        tr("Shows 3D scenes and lets you look into every part of them.\n\n"
+           "Exit codes: 0 success, 1 a job failed (the reason is on standard error), "
+           "2 wrong usage."));
+    m_parser.addHelpOption();
+    m_parser.addVersionOption();
+    m_parser.addPositionalArgument(
+        QStringLiteral("scene"), tr("Scene files to open."), QStringLiteral("[scene...]"));
+    m_parser.addOptions(options() + kavoExportArguments::options());
+    m_parsed = m_parser.parse(arguments);
+}
+
+QString kavoCommandLine::error() const
+{
+    return m_parsed ? missingValue() : m_parser.errorText();
+}
+
+QString kavoCommandLine::missingValue() const
+{
+    for (const QString &option :
+        { selectOption, pluginsOption, screenshotOption, printWindowOption, printFieldOption }) {
+        if (m_parser.isSet(option) && m_parser.values(option).contains(QString()))
+            return tr("The value of --%1 is empty.").arg(option);
+    }
+    return exports().error();
+}
+
+bool kavoCommandLine::wantsHelp() const
+{
+    return m_parser.isSet(QStringLiteral("help"));
+}
+
+bool kavoCommandLine::wantsVersion() const
+{
+    return m_parser.isSet(QStringLiteral("version"));
+}
+
+bool kavoCommandLine::isJob() const
+{
+    return m_parser.isSet(screenshotOption) || m_parser.isSet(printWindowOption)
+        || exports().areJobs();
+}
+
+QString kavoCommandLine::helpText() const
+{
+    return m_parser.helpText();
+}
+
+QStringList kavoCommandLine::sceneFiles() const
+{
+    return m_parser.positionalArguments();
+}
+
+QString kavoCommandLine::nodeToSelect() const
+{
+    return m_parser.value(selectOption);
+}
+
+QStringList kavoCommandLine::pluginFolders() const
+{
+    return m_parser.values(pluginsOption);
+}
+
+QString kavoCommandLine::screenshotFile() const
+{
+    return m_parser.value(screenshotOption);
+}
+
+QString kavoCommandLine::windowToPrint() const
+{
+    return m_parser.value(printWindowOption);
+}
+
+QString kavoCommandLine::fieldToPrint() const
+{
+    return m_parser.value(printFieldOption);
+}
+
+kavoExportArguments kavoCommandLine::exports() const
+{
+    return kavoExportArguments(m_parser);
+}

@@ -1,0 +1,116 @@
+#include "kavoJobs.h"
+
+#include "kavoExportArguments.h"
+#include "kavoMainWindow.h"
+#include "kavoTaskError.h"
+#include "kavoWindowPrinter.h"
+
+#include <QKAVODockWindowManager.h>
+#include <kavoScenegraph.h>
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QPixmap>
+#include <QTextStream>
+#include <QTimer>
+
+#include <cstdio>
+
+namespace {
+
+// Lets queued messages, layouts and paints run, which may ask for further rounds themselves.
+void settle()
+{
+    QEventLoop loop;
+    for (int round = 0; round < 100 && loop.processEvents(); ++round) { }
+}
+
+}
+
+kavoJobs::kavoJobs(const kavoCommandLine &commandLine, kavoMainWindow &window)
+    : m_commandLine(commandLine)
+    , m_window(window)
+{
+    connect(&window, &kavoMainWindow::openFailed, this, &kavoJobs::fail);
+    connect(&window, &kavoMainWindow::openCanceled, this, &kavoJobs::cancel);
+}
+
+void kavoJobs::start()
+{
+    if (m_commandLine.sceneFiles().isEmpty()) {
+        QTimer::singleShot(0, this, &kavoJobs::run);
+        return;
+    }
+    connect(&m_window, &kavoMainWindow::opened, this, &kavoJobs::run);
+    m_window.open(m_commandLine.sceneFiles());
+}
+
+void kavoJobs::run()
+{
+    forgetScenes();
+    try {
+        const QString node = m_commandLine.nodeToSelect();
+        if (!node.isEmpty() && !m_window.select(node))
+            throw kavoTaskError(tr("The scene has no node named or numbered '%1'").arg(node));
+        settle();
+        exportValuePairs();
+        if (!m_commandLine.windowToPrint().isEmpty())
+            printWindow(m_commandLine.windowToPrint());
+        if (!m_commandLine.screenshotFile().isEmpty())
+            saveScreenshot(m_commandLine.screenshotFile());
+    } catch (const kavoTaskError &error) {
+        return fail(error.message());
+    }
+    if (m_commandLine.isJob())
+        QCoreApplication::exit(0);
+}
+
+void kavoJobs::cancel()
+{
+    forgetScenes();
+    if (m_commandLine.isJob())
+        fail(tr("Loading was canceled"));
+}
+
+// Scenes that the user opens later are none of the command line's business.
+void kavoJobs::forgetScenes()
+{
+    disconnect(&m_window, &kavoMainWindow::opened, this, nullptr);
+}
+
+void kavoJobs::fail(const QString &message)
+{
+    forgetScenes();
+    if (!m_commandLine.isJob())
+        return m_window.reportError(message);
+    std::fprintf(stderr, "kavo: %s\n", qUtf8Printable(message));
+    QCoreApplication::exit(1);
+}
+
+void kavoJobs::exportValuePairs()
+{
+    const osg::NodePtr scene = kavoScenegraph::getRoot();
+    const bool isPart = !m_commandLine.nodeToSelect().isEmpty();
+    m_commandLine.exports().run(scene, isPart ? kavoScenegraph::getSelectedNode() : scene);
+}
+
+void kavoJobs::printWindow(const QString &key)
+{
+    QWidget *window = m_window.docks().window(key);
+    if (!window) {
+        throw kavoTaskError(tr("There is no window '%1', only %2")
+                                .arg(key, m_window.docks().keys().join(QStringLiteral(", "))));
+    }
+    m_window.docks().show(key);
+    settle();
+    QTextStream out(stdout);
+    out.setCodec("UTF-8");
+    if (!kavoWindowPrinter(out).print(window))
+        throw kavoTaskError(tr("The window '%1' has no rows to print").arg(key));
+}
+
+void kavoJobs::saveScreenshot(const QString &file)
+{
+    if (!m_window.grab().save(file))
+        throw kavoTaskError(tr("Cannot write the picture '%1'").arg(file));
+}
