@@ -1,0 +1,188 @@
+#include <QImage>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
+
+// The application as users and scripts meet it: a process with arguments, output and exit code.
+class tst_kavo : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void helpIsPrinted();
+    void theVersionIsPrinted();
+    void wrongUsageExitsWithTwo();
+    void aFailedJobExitsWithOneAndSaysWhy_data();
+    void aFailedJobExitsWithOneAndSaysWhy();
+    void theSceneWindowIsPrinted();
+    void theNodeEditorIsPrintedForTheSelectedNode();
+    void aNodeCanBeSelectedByItsId();
+    void aScreenshotIsWritten();
+    void severalScenesOpenAsOne();
+    void badPluginsAreReportedAndSkipped();
+    void jobsNeedNoDisplay();
+    void aWindowWithoutADisplayIsRefused();
+    void modulesLeaveInOrderAtTheEnd();
+
+private:
+    struct Result
+    {
+        int exitCode;
+        QString output, errors;
+    };
+    Result run(const QStringList &arguments, const QStringList &unsetVariables = {}) const;
+
+    QTemporaryDir m_folder;
+};
+
+namespace {
+
+const QString truck = QStringLiteral(KAVO_TEST_MODELS "/glTF/CesiumMilkTruck/CesiumMilkTruck.gltf");
+const QString selected = QStringLiteral("Geometry-mesh002Node");
+
+QString firstLine(const QString &text)
+{
+    return text.section('\n', 0, 0);
+}
+
+}
+
+tst_kavo::Result tst_kavo::run(
+    const QStringList &arguments, const QStringList &unsetVariables) const
+{
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("XDG_CONFIG_HOME", m_folder.path());
+    for (const QString &variable : unsetVariables)
+        environment.remove(variable);
+    process.setProcessEnvironment(environment);
+    process.start(KAVO_EXECUTABLE, arguments);
+    const bool ended = process.waitForFinished(60000);
+    const bool clean = ended && process.exitStatus() == QProcess::NormalExit;
+    return { clean ? process.exitCode() : -1, process.readAllStandardOutput(),
+        process.readAllStandardError() };
+}
+
+void tst_kavo::helpIsPrinted()
+{
+    const Result result = run({ "--help" });
+    QCOMPARE(result.exitCode, 0);
+    QVERIFY(result.output.contains("--print-window <KEY>"));
+}
+
+void tst_kavo::theVersionIsPrinted()
+{
+    const Result result = run({ "--version" });
+    QCOMPARE(result.exitCode, 0);
+    QCOMPARE(result.output, QStringLiteral("kavo " KAVO_VERSION "\n"));
+}
+
+void tst_kavo::wrongUsageExitsWithTwo()
+{
+    const Result result = run({ "--colour" });
+    QCOMPARE(result.exitCode, 2);
+    QVERIFY(result.errors.contains("colour"));
+}
+
+void tst_kavo::aFailedJobExitsWithOneAndSaysWhy_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("no such file") << QStringList { "no-such-scene.gltf", "--print-window", "Scene" }
+                                  << "no-such-scene.gltf";
+    QTest::newRow("no such window")
+        << QStringList { "--print-window", "Toaster" } << "There is no window 'Toaster'";
+    QTest::newRow("no such node") << QStringList { truck, "--select", "Sail", "--print-window",
+        "Scene" } << "no node named or numbered 'Sail'";
+    QTest::newRow("no rows") << QStringList { "--print-window", "Log" }
+                             << "The window 'Log' has no rows";
+    QTest::newRow("no place for a picture")
+        << QStringList { "--screenshot", "/no/such/folder/a.png" } << "/no/such/folder/a.png";
+}
+
+void tst_kavo::aFailedJobExitsWithOneAndSaysWhy()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, reason);
+    const Result result = run(arguments);
+    QCOMPARE(result.exitCode, 1);
+    QVERIFY2(result.errors.contains(reason), qPrintable(result.errors));
+}
+
+void tst_kavo::theSceneWindowIsPrinted()
+{
+    const Result result = run({ truck, "--print-window", "Scene" });
+    QCOMPARE(result.exitCode, 0);
+    QVERIFY2(result.output.contains(selected + "\tGeometry\t"), qPrintable(result.output));
+}
+
+void tst_kavo::theNodeEditorIsPrintedForTheSelectedNode()
+{
+    const Result result = run({ truck, "--select", selected, "--print-window", "Node Editor" });
+    QCOMPARE(result.exitCode, 0);
+    const QRegularExpression title(
+        QRegularExpression::anchoredPattern(selected + " Node \\(\\d+\\)\\t"));
+    QVERIFY2(title.match(firstLine(result.output)).hasMatch(), qPrintable(result.output));
+    QVERIFY(result.output.contains("\n  core Geometry ("));
+    QVERIFY(result.output.contains("\n    material ChunkMaterial ("));
+    QVERIFY(result.output.contains("\n       MaterialChunk ("));
+}
+
+void tst_kavo::aNodeCanBeSelectedByItsId()
+{
+    const Result byName = run({ truck, "--select", selected, "--print-window", "Node Editor" });
+    const QString id = firstLine(byName.output).section('(', 1).section(')', 0, 0);
+    const Result byId = run({ truck, "--select", id, "--print-window", "Node Editor" });
+    QCOMPARE(byId.output, byName.output);
+}
+
+void tst_kavo::aScreenshotIsWritten()
+{
+    const QString file = m_folder.filePath("picture.png");
+    QCOMPARE(run({ truck, "--screenshot", file }).exitCode, 0);
+    const QImage picture(file);
+    QVERIFY(picture.width() >= 800 && picture.height() >= 600);
+}
+
+void tst_kavo::severalScenesOpenAsOne()
+{
+    const Result one = run({ truck, "--print-window", "Scene" });
+    const Result two = run({ truck, truck, "--print-window", "Scene" });
+    QCOMPARE(two.exitCode, 0);
+    QCOMPARE(two.output.count(selected), 2 * one.output.count(selected));
+}
+
+void tst_kavo::badPluginsAreReportedAndSkipped()
+{
+    const Result result = run({ "--plugins", KAVO_TEST_PLUGIN_DIR, "--print-window", "Scene" });
+    QCOMPARE(result.exitCode, 0);
+    QVERIFY(result.errors.contains("libGoodPlugin.so' loaded"));
+    QVERIFY(result.errors.contains("libThrowingPlugin.so' skipped"));
+    QVERIFY(result.errors.contains("libWithoutEntryPlugin.so' skipped"));
+}
+
+void tst_kavo::jobsNeedNoDisplay()
+{
+    const Result result
+        = run({ "--print-window", "Scene" }, { "QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY" });
+    QCOMPARE(result.exitCode, 0);
+    QVERIFY(result.errors.contains("no display"));
+}
+
+void tst_kavo::aWindowWithoutADisplayIsRefused()
+{
+    const Result result = run({}, { "QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY" });
+    QCOMPARE(result.exitCode, 1);
+    QVERIFY(result.errors.contains("no display"));
+}
+
+void tst_kavo::modulesLeaveInOrderAtTheEnd()
+{
+    const Result result = run({ truck, "--select", selected, "--print-window", "Node Editor" });
+    QCOMPARE(result.exitCode, 0);
+    QVERIFY(result.output.endsWith("kavoNodeEditor::~kavoNodeEditor\n"));
+}
+
+QTEST_GUILESS_MAIN(tst_kavo)
+#include "tst_kavo.moc"

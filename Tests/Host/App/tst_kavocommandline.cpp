@@ -1,0 +1,94 @@
+#include <kavoCommandLine.h>
+
+#include <QTest>
+
+class tst_kavoCommandLine : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void nothingAsksForNothing();
+    void everyOptionIsRead();
+    void scenesAndFoldersMayBeSeveral();
+    void aPictureOrAPrintedWindowIsAJob();
+    void wrongUsageIsExplained_data();
+    void wrongUsageIsExplained();
+    void helpNamesEveryOption_data();
+    void helpNamesEveryOption();
+};
+
+static QStringList arguments(const QStringList &rest)
+{
+    return QStringList { "kavo" } + rest;
+}
+
+void tst_kavoCommandLine::nothingAsksForNothing()
+{
+    const kavoCommandLine commandLine(arguments({}));
+    QVERIFY(commandLine.error().isEmpty());
+    QVERIFY(!commandLine.isJob());
+    QVERIFY(!commandLine.wantsHelp());
+    QVERIFY(commandLine.sceneFiles().isEmpty());
+    QVERIFY(commandLine.nodeToSelect().isEmpty());
+}
+
+void tst_kavoCommandLine::everyOptionIsRead()
+{
+    const kavoCommandLine commandLine(arguments({ "a.gltf", "--select", "Wheel", "--plugins", "p",
+        "--screenshot", "s.png", "--print-window", "Node Editor" }));
+    QVERIFY(commandLine.error().isEmpty());
+    QCOMPARE(commandLine.sceneFiles(), QStringList { "a.gltf" });
+    QCOMPARE(commandLine.nodeToSelect(), QStringLiteral("Wheel"));
+    QCOMPARE(commandLine.pluginFolders(), QStringList { "p" });
+    QCOMPARE(commandLine.screenshotFile(), QStringLiteral("s.png"));
+    QCOMPARE(commandLine.windowToPrint(), QStringLiteral("Node Editor"));
+}
+
+void tst_kavoCommandLine::scenesAndFoldersMayBeSeveral()
+{
+    const kavoCommandLine commandLine(
+        arguments({ "--plugins", "p", "a.gltf", "--plugins", "q", "b.fbx" }));
+    QCOMPARE(commandLine.sceneFiles(), (QStringList { "a.gltf", "b.fbx" }));
+    QCOMPARE(commandLine.pluginFolders(), (QStringList { "p", "q" }));
+}
+
+void tst_kavoCommandLine::aPictureOrAPrintedWindowIsAJob()
+{
+    QVERIFY(kavoCommandLine(arguments({ "--screenshot", "s.png" })).isJob());
+    QVERIFY(kavoCommandLine(arguments({ "--print-window", "Log" })).isJob());
+    QVERIFY(!kavoCommandLine(arguments({ "a.gltf", "--select", "Wheel" })).isJob());
+}
+
+void tst_kavoCommandLine::wrongUsageIsExplained_data()
+{
+    QTest::addColumn<QStringList>("rest");
+    QTest::newRow("unknown option") << QStringList { "--colour" };
+    QTest::newRow("no value") << QStringList { "--select" };
+    QTest::newRow("empty value") << QStringList { "--print-window=" };
+    QTest::newRow("empty among others") << QStringList { "--plugins", "p", "--plugins", "" };
+}
+
+void tst_kavoCommandLine::wrongUsageIsExplained()
+{
+    QFETCH(QStringList, rest);
+    QVERIFY(!kavoCommandLine(arguments(rest)).error().isEmpty());
+}
+
+void tst_kavoCommandLine::helpNamesEveryOption_data()
+{
+    QTest::addColumn<QString>("option");
+    for (const char *option :
+        { "--help", "--version", "--select", "--plugins", "--screenshot", "--print-window" })
+        QTest::newRow(option) << QString(option);
+}
+
+void tst_kavoCommandLine::helpNamesEveryOption()
+{
+    QFETCH(QString, option);
+    const kavoCommandLine commandLine(arguments({ "--help" }));
+    QVERIFY(commandLine.wantsHelp());
+    QVERIFY(commandLine.helpText().contains(option));
+}
+
+QTEST_GUILESS_MAIN(tst_kavoCommandLine)
+#include "tst_kavocommandline.moc"
