@@ -35,8 +35,10 @@ Node::Node(const Node &source)
 
 Node::~Node()
 {
-    for (const NodePtr &child : _mfChildren) {
-        releaseChild(child);
+    while (!_mfChildren.empty()) {
+        const NodePtr last = _mfChildren.back();
+        _mfChildren.getValues().pop_back();
+        releaseChild(last);
     }
     exchangeCore(NullFC);
 }

@@ -2,6 +2,9 @@
 
 #include <OpenSG/OSGNode.h>
 
+#include <algorithm>
+#include <iterator>
+
 OSG_BEGIN_NAMESPACE
 
 NodeCore::NodeCore(const NodeCore &source)
@@ -30,11 +33,12 @@ void NodeCore::addParent(const NodePtr &parent)
     _mfParents.push_back(parent);
 }
 
+// From the back: a tree takes its nodes down from there, and a core may have very many parents.
 void NodeCore::subParent(const NodePtr &parent)
 {
-    const auto found = _mfParents.find(parent);
-    if (found != _mfParents.end()) {
-        _mfParents.erase(found);
+    const auto found = std::find(_mfParents.rbegin(), _mfParents.rend(), parent);
+    if (found != _mfParents.rend()) {
+        _mfParents.erase(std::next(found).base());
     }
 }
 
