@@ -91,7 +91,8 @@ void kavoJobs::exportValuePairs()
 {
     const osg::NodePtr scene = kavoScenegraph::getRoot();
     const bool isPart = !m_commandLine.nodeToSelect().isEmpty();
-    m_commandLine.exports().run(scene, isPart ? kavoScenegraph::getSelectedNode() : scene);
+    m_commandLine.exports().run(
+        scene, isPart ? osg::NodePtr(kavoScenegraph::getSelectedNode()) : scene);
 }
 
 void kavoJobs::printWindow(const QString &key)
