@@ -45,6 +45,9 @@ const QHash<QString, RowType> rowTypes {
 const QSet<QString> floatVectors { "SFVec2f", "SFPnt2f", "SFVec3f", "SFPnt3f", "SFVec4f",
     "SFPnt4f" };
 
+// The numbers of boxes and quaternions.
+constexpr RowType componentType { RowKind::Real, -FLT_MAX, FLT_MAX };
+
 constexpr int maxDecimals = 13; // of the double manager
 
 // What a row is made of.
@@ -77,7 +80,7 @@ QtProperty *finishRow(QtVariantProperty *row, const RowSource &source)
 {
     row->setValue(source.valueText);
     row->setToolTip(source.typeName);
-    if (!source.typeName.startsWith("SF"))
+    if (!source.typeName.startsWith(QLatin1String("SF")))
         row->setEnabled(false);
     return row;
 }
@@ -177,7 +180,7 @@ QtVariantProperty *kavoFCEditorWidget::createPropertyList(const QString &name,
         text >> number;
         const int type = std::isfinite(number) ? propertyType : int(QVariant::String);
         QtVariantProperty *row = m_variantManager->addProperty(type, subName);
-        setRange(row, rowTypes.value("SFReal32"), number);
+        setRange(row, componentType, number);
         row->setValue(QVariant(number));
         group->addSubProperty(row);
     }
@@ -188,13 +191,14 @@ template QtVariantProperty *kavoFCEditorWidget::createPropertyList<float>(
 
 bool kavoFCEditorWidget::isNumberList(const QString &typeName)
 {
-    return typeName.startsWith("MFReal") || typeName.startsWith("MFInt")
-        || typeName.startsWith("MFUInt");
+    return typeName.startsWith(QLatin1String("MFReal"))
+        || typeName.startsWith(QLatin1String("MFInt"))
+        || typeName.startsWith(QLatin1String("MFUInt"));
 }
 
 QString kavoFCEditorWidget::beautifyFloats(const QString &typeName, const QString &valueText)
 {
-    if (!typeName.startsWith("MFReal") && !floatVectors.contains(typeName))
+    if (!typeName.startsWith(QLatin1String("MFReal")) && !floatVectors.contains(typeName))
         return valueText;
     QString separated = valueText;
     separated.replace(',', ' ');

@@ -2,8 +2,10 @@
 
 #include <qtvariantproperty.h>
 
-/// The variant manager with real numbers shown to their last digit. The stock one rounds them to at
-/// most 13 decimals, so that 1e-20 would show as 0.
+/// The variant manager with real numbers shown to their last digit (the stock one rounds them to at
+/// most 13 decimals, so that 1e-20 would show as 0) and with text rows that cost no more than
+/// others (the stock one makes a line edit to find out what it would show, and a regular expression
+/// for each row).
 class kavoVariantPropertyManager : public QtVariantPropertyManager
 {
     Q_OBJECT
@@ -13,4 +15,5 @@ public:
 
 protected:
     QString valueText(const QtProperty *property) const override;
+    void initializeProperty(QtProperty *property) override;
 };
