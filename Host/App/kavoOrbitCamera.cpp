@@ -62,9 +62,10 @@ QMatrix4x4 kavoOrbitCamera::projection(const QSize &window) const
 {
     const float far = (eye() - m_center).length() + 2 * m_radius;
     const float near = std::max(far * nearToFar, (eye() - m_center).length() - 2 * m_radius);
+    const float aspect = float(window.width()) / float(std::max(1, window.height()));
+    const float halfHeight = std::tan(qDegreesToRadians(m_fov) / 2) / std::min(1.0f, aspect);
     QMatrix4x4 matrix;
-    matrix.perspective(
-        m_fov, float(window.width()) / float(std::max(1, window.height())), near, far);
+    matrix.perspective(2 * qRadiansToDegrees(std::atan(halfHeight)), aspect, near, far);
     return matrix;
 }
 

@@ -13,7 +13,7 @@ public:
     void fit(const QVector3D &center, float radius);
 
     /// Looks from a place as a camera does that looks along its negative z axis.
-    /// \param fov from bottom to top, in degrees
+    /// \param fov across the shorter side of the window, in degrees
     void place(const QMatrix4x4 &toWorld, float fov);
 
     /// Movements of the pointer in pixels.

@@ -173,11 +173,19 @@ private slots:
         QCOMPARE(geometry.pick({ 5, 5, 9 }, { 0, 0, -1 }), 0u);
     }
 
+    void anOrbitCameraSeesAllOfWhatItFits_data()
+    {
+        QTest::addColumn<QSize>("window");
+        QTest::newRow("wide") << QSize(400, 300);
+        QTest::newRow("high") << QSize(200, 600);
+    }
+
     void anOrbitCameraSeesAllOfWhatItFits()
     {
+        QFETCH(QSize, window);
         kavoOrbitCamera camera;
         camera.fit({ 10, 20, 30 }, 5);
-        const QMatrix4x4 toClip = camera.projection({ 400, 300 }) * camera.view();
+        const QMatrix4x4 toClip = camera.projection(window) * camera.view();
         QVERIFY((toClip.map(QVector3D(10, 20, 30)) * QVector3D(1, 1, 0)).length() < 1e-3f);
         for (const QVector3D &axis : { QVector3D(5, 0, 0), QVector3D(0, 5, 0), QVector3D(0, 0, 5) })
             for (float sign : { -1.0f, 1.0f }) {
