@@ -3,6 +3,12 @@
 #include <QHeaderView>
 #include <QTreeView>
 
+namespace {
+
+constexpr int typeColumnWidth = 110, idColumnWidth = 50; // pixels, until the user decides
+
+} // namespace
+
 void kavoListSetup::apply(QTreeView &view, QAbstractItemModel &model)
 {
     view.setModel(&model);
@@ -13,4 +19,6 @@ void kavoListSetup::apply(QTreeView &view, QAbstractItemModel &model)
     view.setDragDropMode(QAbstractItemView::DragOnly);
     view.header()->setStretchLastSection(false);
     view.header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    view.header()->resizeSection(1, typeColumnWidth);
+    view.header()->resizeSection(2, idColumnWidth);
 }

@@ -7,6 +7,7 @@ class QTreeView;
 class kavoListSetup
 {
 public:
-    /// Whole rows, several at once, that can be dragged away but not dropped; names take the room.
+    /// Whole rows, several at once, that can be dragged away but not dropped. The columns are name,
+    /// type and id; names take the room.
     static void apply(QTreeView &view, QAbstractItemModel &model);
 };

@@ -58,6 +58,7 @@ void kavoSceneBuilder::buildSlice()
         if (!buildStep()) {
             m_timer.stop();
             m_root->addChild(m_library);
+            m_root->updateVolume();
             emit finished();
             return;
         }

@@ -21,6 +21,7 @@ namespace {
 constexpr int filterDelayMilliseconds = 150;
 constexpr int opensAllUpTo = 2000; // nodes that a filter leaves
 constexpr int otherwiseOpenLevels = 2;
+constexpr int coreColumnWidth = 90, idColumnWidth = 50; // pixels, until the user decides
 
 } // namespace
 
@@ -58,6 +59,8 @@ void kavoSceneView::setUpTree()
     m_tree->setAccessibleName(tr("Nodes of the scene"));
     m_tree->header()->setStretchLastSection(false);
     m_tree->header()->setSectionResizeMode(kavoSceneModel::NameColumn, QHeaderView::Stretch);
+    m_tree->header()->resizeSection(kavoSceneModel::CoreColumn, coreColumnWidth);
+    m_tree->header()->resizeSection(kavoSceneModel::IdColumn, idColumnWidth);
     connect(m_tree->selectionModel(), &QItemSelectionModel::selectionChanged, this,
         &kavoSceneView::select);
     connect(m_model, &QAbstractItemModel::modelReset, this, &kavoSceneView::showAll);

@@ -109,6 +109,14 @@ private slots:
         QVERIFY(osg::GeometryPtr::dcast(mesh->getCore()) != osg::NullFC);
     }
 
+    void everyNodeKnowsItsVolume()
+    {
+        open(truck);
+        osg::Pnt3f min, max;
+        find("Geometry-mesh002Node")->getVolume().getBounds(min, max);
+        QVERIFY(max[0] > min[0] && max[1] > min[1] && max[2] > min[2]);
+    }
+
     void nodesOfTheSameMeshShareItsGeometry()
     {
         open(truck);
