@@ -29,6 +29,15 @@ template <class... Format> void appendChars(std::string &out, Format... format)
 
 constexpr int decimals = 6;
 
+// Nearly all reals are plain decimals, which from_chars reads several times as fast as strtod. What
+// it does not read in the same way (white space and signs in front, hexadecimal, numbers out of
+// range) is left to strtod.
+template <class T> bool readPlainReal(const char *text, T &value)
+{
+    const auto [end, error] = std::from_chars(text, text + std::strlen(text), value);
+    return error == std::errc() && *end != 'x' && *end != 'X';
+}
+
 } // namespace
 
 std::int64_t readSigned(const char *text)
@@ -43,12 +52,16 @@ std::uint64_t readUnsigned(const char *text)
 
 void readReal(const char *text, float &value)
 {
-    value = strtof_l(text, nullptr, classicLocale());
+    if (!readPlainReal(text, value)) {
+        value = strtof_l(text, nullptr, classicLocale());
+    }
 }
 
 void readReal(const char *text, double &value)
 {
-    value = strtod_l(text, nullptr, classicLocale());
+    if (!readPlainReal(text, value)) {
+        value = strtod_l(text, nullptr, classicLocale());
+    }
 }
 
 void readReal(const char *text, long double &value)

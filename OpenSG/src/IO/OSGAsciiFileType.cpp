@@ -4,9 +4,23 @@
 #include "OSGAsciiWriter.h"
 
 #include <istream>
-#include <iterator>
+#include <vector>
 
 OSG_BEGIN_NAMESPACE
+
+namespace {
+
+std::string readAll(std::istream &is)
+{
+    std::string text;
+    std::vector<char> block(1 << 16);
+    while (is.read(block.data(), static_cast<std::streamsize>(block.size())) || is.gcount() > 0) {
+        text.append(block.data(), static_cast<std::size_t>(is.gcount()));
+    }
+    return text;
+}
+
+} // namespace
 
 AsciiFileType::AsciiFileType()
     : SceneFileType("OpenSG Ascii Geometry", { "osg" }, OSG_READ_SUPPORTED | OSG_WRITE_SUPPORTED)
@@ -15,7 +29,7 @@ AsciiFileType::AsciiFileType()
 
 FCPtrStore AsciiFileType::readTopNodes(std::istream &is, const Progress &progress) const
 {
-    const std::string text(std::istreambuf_iterator<char>(is), {});
+    const std::string text = readAll(is);
     return AsciiReader(text, progress).read();
 }
 

@@ -124,14 +124,16 @@ void SceneScanner::advance()
 
 void SceneScanner::skipSeparators()
 {
-    for (bool isComment = false; _next < _text.size(); ++_next) {
-        const char character = _text[_next];
-        isComment = (isComment || character == '#') && character != '\n';
-        if (!isComment && !is(Separator, character)) {
-            return;
+    const char *character = _text.data() + _next;
+    const char *const end = _text.data() + _text.size();
+    for (bool isComment = false; character != end; ++character) {
+        isComment = (isComment || *character == '#') && *character != '\n';
+        if (!isComment && !is(Separator, *character)) {
+            break;
         }
-        _line += character == '\n';
+        _line += *character == '\n';
     }
+    _next = static_cast<std::size_t>(character - _text.data());
 }
 
 bool SceneScanner::at(std::size_t position, char character) const
