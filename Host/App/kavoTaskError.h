@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QString>
+#include <stdexcept>
+
+/// Why a task failed, in words for the user.
+class kavoTaskError : public std::runtime_error
+{
+public:
+    explicit kavoTaskError(const QString &message)
+        : std::runtime_error(message.toStdString())
+    {
+    }
+
+    QString message() const { return QString::fromUtf8(what()); }
+};

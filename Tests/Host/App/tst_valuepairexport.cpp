@@ -1,0 +1,206 @@
+#include <kavoConsoleCapture.h>
+#include <kavoNodePtr.h>
+#include <kavoTaskError.h>
+#include <kavoTestHost.h>
+#include <kavoTestPairs.h>
+#include <kavoValuePairExport.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <algorithm>
+#include <memory>
+#include <sys/stat.h>
+
+using kavoTestPairs::addNode;
+
+class tst_ValuePairExport : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void theSceneIsWritten();
+    void aPartOfTheSceneIsWritten();
+    void allNodesAreWrittenOnRequest();
+    void anEmptySceneIsOnlyAHeader();
+    void theOperationIsCreatedByNameAndDeleted();
+    void anExistingFileIsReplacedAndKeepsItsPermissions();
+    void aLinkStaysALink();
+    void aDeviceIsWrittenToDirectly();
+    void aFileThatCannotBeWrittenIsExplained_data();
+    void aFileThatCannotBeWrittenIsExplained();
+    void aFullDiskIsExplained();
+    void progressGrowsToTheEnd();
+    void cancelingLeavesNothing();
+    void cancelingKeepsTheOldFile();
+
+private:
+    QString path(const QString &name) const { return m_folder->filePath(name); }
+    static QByteArray contentOf(const QString &file);
+
+    std::unique_ptr<kavoConsoleCapture> m_console;
+    std::unique_ptr<QTemporaryDir> m_folder;
+    kavoNodePtr m_root;
+};
+
+void tst_ValuePairExport::init()
+{
+    m_console = std::make_unique<kavoConsoleCapture>(kavoConsoleCapture::StandardOutput);
+    m_folder = std::make_unique<QTemporaryDir>();
+    m_root = addNode(osg::NullFC, "Hull", { { "color", "red" } });
+    addNode(m_root, "Mast", { { "color", "blue" } });
+}
+
+void tst_ValuePairExport::cleanup()
+{
+    m_root = osg::NullFC;
+    m_folder.reset();
+    m_console.reset();
+}
+
+QByteArray tst_ValuePairExport::contentOf(const QString &file)
+{
+    QFile opened(file);
+    return opened.open(QIODevice::ReadOnly) ? opened.readAll() : "no file";
+}
+
+void tst_ValuePairExport::theSceneIsWritten()
+{
+    QVERIFY(kavoValuePairExport::run(m_root, path("a.csv"), false));
+    QCOMPARE(contentOf(path("a.csv")), QByteArray("nodes\\keys,color,\nHull,red,\nMast,blue,\n"));
+    QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files), QStringList { "a.csv" });
+}
+
+void tst_ValuePairExport::aPartOfTheSceneIsWritten()
+{
+    QVERIFY(kavoValuePairExport::run(m_root->getChild(0), path("a.csv"), false));
+    QCOMPARE(contentOf(path("a.csv")), QByteArray("nodes\\keys,color,\nMast,blue,\n"));
+}
+
+void tst_ValuePairExport::allNodesAreWrittenOnRequest()
+{
+    m_root->getChild(0)->setTravMask(1);
+    kavoValuePairExport::run(m_root, path("visible.csv"), false);
+    QCOMPARE(contentOf(path("visible.csv")), QByteArray("nodes\\keys,color,\nHull,red,\n"));
+    kavoValuePairExport::run(m_root, path("all.csv"), true);
+    QCOMPARE(contentOf(path("all.csv")), QByteArray("nodes\\keys,color,\nHull,red,\nMast,blue,\n"));
+}
+
+void tst_ValuePairExport::anEmptySceneIsOnlyAHeader()
+{
+    QVERIFY(kavoValuePairExport::run(osg::NullFC, path("a.csv"), false));
+    QCOMPARE(contentOf(path("a.csv")), QByteArray("nodes\\keys,\n"));
+}
+
+void tst_ValuePairExport::theOperationIsCreatedByNameAndDeleted()
+{
+    kavoValuePairExport::run(m_root, path("a.csv"), false);
+    kavoConsoleCapture console(kavoConsoleCapture::StandardOutput);
+    kavoValuePairExport::run(m_root, path("b.csv"), false);
+    QCOMPARE(console.text(),
+        QByteArray("ValuePairCSVCreator::~ValuePairCSVCreator\n"
+                   "ValuePairCSVCreator::ValuePairCSVCreator\n"
+                   "ValuePairCSVCreator::~ValuePairCSVCreator\n"));
+}
+
+void tst_ValuePairExport::anExistingFileIsReplacedAndKeepsItsPermissions()
+{
+    QFile old(path("a.csv"));
+    QVERIFY(old.open(QIODevice::WriteOnly) && old.write("old") == 3);
+    old.close();
+    ::chmod(QFile::encodeName(old.fileName()), 0640);
+    kavoValuePairExport::run(m_root, old.fileName(), false);
+    QVERIFY(contentOf(old.fileName()).startsWith("nodes"));
+    struct stat status;
+    QCOMPARE(::stat(QFile::encodeName(old.fileName()), &status), 0);
+    QCOMPARE(int(status.st_mode & 0777), 0640);
+}
+
+void tst_ValuePairExport::aLinkStaysALink()
+{
+    kavoValuePairExport::run(m_root, path("a.csv"), false);
+    QVERIFY(QFile::link(path("a.csv"), path("link.csv")));
+    kavoValuePairExport::run(m_root->getChild(0), path("link.csv"), false);
+    QVERIFY(QFileInfo(path("link.csv")).isSymLink());
+    QCOMPARE(contentOf(path("a.csv")), QByteArray("nodes\\keys,color,\nMast,blue,\n"));
+}
+
+void tst_ValuePairExport::aDeviceIsWrittenToDirectly()
+{
+    QVERIFY(kavoValuePairExport::run(m_root, "/dev/null", false));
+    QVERIFY(!QFileInfo("/dev/null").isFile());
+}
+
+void tst_ValuePairExport::aFileThatCannotBeWrittenIsExplained_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("no such folder") << "/no/such/folder/a.csv"
+                                    << "No such file or directory";
+    QTest::newRow("a folder") << "/"
+                              << "Is a directory";
+}
+
+void tst_ValuePairExport::aFileThatCannotBeWrittenIsExplained()
+{
+    QFETCH(QString, file);
+    QFETCH(QString, reason);
+    try {
+        kavoValuePairExport::run(m_root, file, false);
+        QFAIL("no error");
+    } catch (const kavoTaskError &error) {
+        QCOMPARE(error.message(), QString("Cannot write '%1': %2").arg(file, reason));
+    }
+}
+
+void tst_ValuePairExport::aFullDiskIsExplained()
+{
+    QVERIFY(QFile::link("/dev/full", path("full.csv")));
+    try {
+        kavoValuePairExport::run(m_root, path("full.csv"), false);
+        QFAIL("no error");
+    } catch (const kavoTaskError &error) {
+        QVERIFY(error.message().endsWith("No space left on device"));
+    }
+}
+
+void tst_ValuePairExport::progressGrowsToTheEnd()
+{
+    for (int i = 0; i < 5000; ++i)
+        addNode(m_root, nullptr);
+    std::vector<int> percents;
+    kavoValuePairExport::run(m_root, path("a.csv"), false, [&](int percent) {
+        percents.push_back(percent);
+        return true;
+    });
+    QVERIFY(percents.size() >= 4);
+    QVERIFY(std::is_sorted(percents.begin(), percents.end()));
+    QVERIFY(percents.front() > 0 && percents.back() <= 100);
+}
+
+void tst_ValuePairExport::cancelingLeavesNothing()
+{
+    for (int i = 0; i < 5000; ++i)
+        addNode(m_root, nullptr);
+    const auto cancel = [](int) { return false; };
+    QVERIFY(!kavoValuePairExport::run(m_root, path("a.csv"), false, cancel));
+    QVERIFY(QDir(m_folder->path()).isEmpty());
+}
+
+void tst_ValuePairExport::cancelingKeepsTheOldFile()
+{
+    kavoValuePairExport::run(m_root, path("a.csv"), false);
+    const QByteArray old = contentOf(path("a.csv"));
+    for (int i = 0; i < 5000; ++i)
+        addNode(m_root, nullptr, { { "k", "v" } });
+    QVERIFY(!kavoValuePairExport::run(m_root, path("a.csv"), false, [](int) { return false; }));
+    QCOMPARE(contentOf(path("a.csv")), old);
+}
+
+KAVO_TEST_MAIN(tst_ValuePairExport)
+#include "tst_valuepairexport.moc"
