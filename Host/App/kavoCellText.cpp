@@ -1,0 +1,91 @@
+#include "kavoCellText.h"
+
+#include <QString>
+
+#include <algorithm>
+#include <cctype>
+#include <cstring>
+
+namespace {
+
+constexpr char guard = '\'';
+
+const char *skipSign(const char *c)
+{
+    return *c == '+' || *c == '-' ? c + 1 : c;
+}
+
+const char *skipDigits(const char *c)
+{
+    while (std::isdigit(static_cast<unsigned char>(*c)))
+        ++c;
+    return c;
+}
+
+// Digits with at most one separator among them, then perhaps an exponent.
+bool isNumber(const std::string &text, char separator)
+{
+    const char *begin = skipSign(text.c_str());
+    const char *end = skipDigits(begin);
+    bool hasDigits = end != begin;
+    if (*end == separator) {
+        begin = end + 1;
+        end = skipDigits(begin);
+        hasDigits = hasDigits || end != begin;
+    }
+    if (hasDigits && (*end == 'e' || *end == 'E')) {
+        begin = skipSign(end + 1);
+        end = skipDigits(begin);
+        hasDigits = end != begin;
+    }
+    return hasDigits && end == text.c_str() + text.size();
+}
+
+std::string replaced(std::string text, char from, char to)
+{
+    std::replace(text.begin(), text.end(), from, to);
+    return text;
+}
+
+}
+
+kavoCellText::kavoCellText(char decimalSeparator, bool guardsFormulas)
+    : m_decimalSeparator(decimalSeparator)
+    , m_guardsFormulas(guardsFormulas)
+{
+}
+
+std::string kavoCellText::encode(const std::string &text) const
+{
+    if (isNumber(text, '.'))
+        return replaced(text, '.', m_decimalSeparator);
+    if (m_guardsFormulas && needsGuard(text))
+        return guard + validUtf8(text);
+    return validUtf8(text);
+}
+
+std::string kavoCellText::decode(const std::string &cell) const
+{
+    if (m_guardsFormulas && !cell.empty() && cell.front() == guard)
+        return cell.substr(1);
+    if (isNumber(cell, m_decimalSeparator))
+        return replaced(cell, m_decimalSeparator, '.');
+    return cell;
+}
+
+// An apostrophe of the text's own needs one as well, to be told from a guard.
+bool kavoCellText::needsGuard(const std::string &text) const
+{
+    static const std::string starters = "=+-@\t\r'";
+    if (text.empty())
+        return false;
+    return starters.find(text.front()) != std::string::npos || isNumber(text, m_decimalSeparator);
+}
+
+std::string kavoCellText::validUtf8(const std::string &text)
+{
+    const auto isAscii = [](char letter) { return static_cast<unsigned char>(letter) < 0x80; };
+    if (std::all_of(text.begin(), text.end(), isAscii))
+        return text;
+    return QString::fromStdString(text).toStdString();
+}

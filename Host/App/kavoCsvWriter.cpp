@@ -1,0 +1,62 @@
+#include "kavoCsvWriter.h"
+
+kavoCsvWriter::kavoCsvWriter(std::ostream &out, const kavoTableOptions &options)
+    : m_out(out)
+    , m_cellText(options.decimalSeparator, options.guardsFormulas)
+    , m_delimiter(options.delimiter)
+    , m_startsWithByteOrderMark(options.startsWithByteOrderMark)
+    , m_quotable("\"\r\n")
+{
+    m_quotable += m_delimiter;
+}
+
+const std::vector<std::string> &kavoCsvWriter::fixedColumns()
+{
+    static const std::vector<std::string> columns { "id", "path", "name", "type" };
+    return columns;
+}
+
+void kavoCsvWriter::writeHeader(const std::vector<std::string> &keys)
+{
+    if (m_startsWithByteOrderMark)
+        m_out << "\xEF\xBB\xBF";
+    for (const std::string &column : fixedColumns())
+        append(column);
+    for (const std::string &key : keys)
+        append(key);
+    endLine();
+}
+
+void kavoCsvWriter::writeRow(const Node &node, const Cells &cells)
+{
+    append(std::to_string(node.id));
+    append(node.path);
+    append(node.name);
+    append(node.type);
+    static const std::string empty;
+    for (const std::string *cell : cells)
+        append(cell ? *cell : empty);
+    endLine();
+}
+
+void kavoCsvWriter::append(const std::string &text)
+{
+    const std::string cell = m_cellText.encode(text);
+    if (cell.find_first_of(m_quotable) == std::string::npos) {
+        m_line += cell;
+    } else {
+        m_line += '"';
+        for (char letter : cell)
+            m_line.append(letter == '"' ? 2 : 1, letter);
+        m_line += '"';
+    }
+    m_line += m_delimiter;
+}
+
+void kavoCsvWriter::endLine()
+{
+    m_line.pop_back();
+    m_line += "\r\n";
+    m_out.write(m_line.data(), std::streamsize(m_line.size()));
+    m_line.clear();
+}

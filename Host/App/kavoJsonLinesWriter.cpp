@@ -1,0 +1,47 @@
+#include "kavoJsonLinesWriter.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace {
+
+void addValue(QJsonObject &values, const QString &key, const QString &value)
+{
+    const QJsonValue present = values.value(key);
+    if (present.isUndefined()) {
+        values.insert(key, value);
+        return;
+    }
+    QJsonArray list = present.isArray() ? present.toArray() : QJsonArray { present };
+    list.append(value);
+    values.insert(key, list);
+}
+
+}
+
+kavoJsonLinesWriter::kavoJsonLinesWriter(std::ostream &out)
+    : m_out(out)
+{
+}
+
+void kavoJsonLinesWriter::writeHeader(const std::vector<std::string> &keys)
+{
+    m_keys = keys;
+}
+
+void kavoJsonLinesWriter::writeRow(const Node &node, const Cells &cells)
+{
+    QJsonObject values;
+    for (std::size_t i = 0; i < cells.size(); ++i) {
+        if (cells[i])
+            addValue(values, QString::fromStdString(m_keys[i]), QString::fromStdString(*cells[i]));
+    }
+    const QJsonObject row { { QStringLiteral("id"), qint64(node.id) },
+        { QStringLiteral("path"), QString::fromStdString(node.path) },
+        { QStringLiteral("name"), QString::fromStdString(node.name) },
+        { QStringLiteral("type"), QString::fromStdString(node.type) },
+        { QStringLiteral("values"), values } };
+    const QByteArray line = QJsonDocument(row).toJson(QJsonDocument::Compact) + '\n';
+    m_out.write(line.constData(), line.size());
+}

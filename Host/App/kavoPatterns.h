@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QList>
+#include <QRegExp>
+#include <QString>
+
+#include <string>
+
+/// Wildcard patterns, of which a text must match one.
+class kavoPatterns
+{
+public:
+    /// \param patterns separated by semicolons: * any text, ? any letter, [ab] one of these. Upper
+    /// and lower case differ. An empty list matches everything.
+    explicit kavoPatterns(const QString &patterns = QString());
+
+    bool matches(const std::string &text) const;
+    bool matchEverything() const { return m_patterns.isEmpty(); }
+
+private:
+    QList<QRegExp> m_patterns;
+};
