@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QString>
+
+#include <string>
+#include <vector>
+
+/// Splits CSV as in RFC 4180 into rows of cells. Lines may end in CR LF, LF or CR; blank ones are
+/// passed over.
+class kavoCsvParser
+{
+public:
+    /// \param text must live as long as the parser
+    kavoCsvParser(const std::string &text, char delimiter);
+
+    /// \returns false at the end
+    /// \throws kavoTaskError if a quote stands where none may be, or is never closed
+    bool readRow(std::vector<std::string> &cells);
+
+    /// Where the row that was read last begins, counted from 1.
+    int line() const { return m_rowLine; }
+
+private:
+    bool atEnd() const { return m_place == m_text.size(); }
+    bool atEndOfCell() const;
+    bool skipLineEnd();
+    std::string readCell();
+    std::string readQuoted();
+    [[noreturn]] void fail(const QString &reason) const;
+
+    const std::string &m_text;
+    char m_delimiter;
+    std::size_t m_place = 0;
+    int m_line = 1;
+    int m_rowLine = 0;
+};

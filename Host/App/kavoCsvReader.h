@@ -1,0 +1,14 @@
+#pragma once
+
+#include "kavoTable.h"
+#include "kavoTableOptions.h"
+
+#include <string>
+
+/// Reads what kavoCsvWriter writes. Columns of keys may be missing, new or in another order.
+class kavoCsvReader
+{
+public:
+    /// \throws kavoTaskError if the text is malformed
+    static kavoTable read(const std::string &text, const kavoTableOptions &options);
+};

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "kavoTable.h"
+#include "kavoTableOptions.h"
+
+#include <QString>
+
+/// Reads the files that kavoTableExport writes, edited or not.
+class kavoTableReader
+{
+public:
+    /// \param options format, decimal separator and guard as at the export; the delimiter of CSV is
+    /// found out
+    /// \throws kavoTaskError if the file cannot be read or is not such a table; it names the line
+    static kavoTable read(const QString &fileName, const kavoTableOptions &options);
+};
