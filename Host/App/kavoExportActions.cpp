@@ -1,0 +1,100 @@
+#include "kavoExportActions.h"
+
+#include "kavoExportScopeBox.h"
+#include "kavoTableExport.h"
+#include "kavoTableExportDialog.h"
+#include "kavoTableImportDialog.h"
+#include "kavoTaskError.h"
+#include "kavoValuePairExport.h"
+#include "kavoValuePairExportDialog.h"
+
+#include <kavoScenegraph.h>
+
+#include <QFileDialog>
+#include <QMenu>
+#include <QMessageBox>
+#include <QProgressDialog>
+
+kavoExportActions::kavoExportActions(QWidget *window, QMenu *fileMenu)
+    : QObject(window)
+    , m_window(window)
+{
+    QMenu *exports = fileMenu->addMenu(tr("&Export"));
+    exports->addAction(tr("&Value Pairs (CSV)..."), this, &kavoExportActions::exportValuePairs);
+    exports->addAction(tr("&Table..."), this, &kavoExportActions::exportTable);
+    fileMenu->addAction(tr("&Import Table..."), this, &kavoExportActions::importTable);
+}
+
+void kavoExportActions::exportValuePairs()
+{
+    kavoValuePairExportDialog dialog(m_window);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    const QString file = QFileDialog::getSaveFileName(
+        m_window, dialog.windowTitle(), QString(), tr("Comma-separated values (*.csv)"));
+    if (file.isEmpty())
+        return;
+    run(dialog.windowTitle(), [&](const kavoMonitor &monitor) {
+        return kavoValuePairExport::run(
+            dialog.scope().root(), file, dialog.scope().takesAllNodes(), monitor);
+    });
+}
+
+void kavoExportActions::exportTable()
+{
+    kavoTableExportDialog dialog(m_window);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    const kavoTableOptions options = dialog.options();
+    const bool isJson = options.format == kavoTableOptions::JsonLines;
+    const QString file = QFileDialog::getSaveFileName(m_window, dialog.windowTitle(), QString(),
+        isJson ? tr("JSON Lines (*.jsonl)") : tr("Comma-separated values (*.csv)"));
+    if (file.isEmpty())
+        return;
+    run(dialog.windowTitle(), [&](const kavoMonitor &monitor) {
+        return kavoTableExport(dialog.scope().root(), options).run(file, monitor);
+    });
+}
+
+void kavoExportActions::importTable()
+{
+    const QString file = QFileDialog::getOpenFileName(
+        m_window, tr("Import Table"), QString(), tr("Tables (*.csv *.jsonl);;All files (*)"));
+    if (file.isEmpty())
+        return;
+    kavoTableImportDialog dialog(m_window);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    run(dialog.windowTitle(), [&](const kavoMonitor &) {
+        show(kavoTableImport::run(kavoScenegraph::getRoot(), file, dialog.options(file)));
+        return true;
+    });
+}
+
+void kavoExportActions::run(
+    const QString &title, const std::function<bool(const kavoMonitor &)> &task)
+{
+    QProgressDialog progress(title, tr("Cancel"), 0, 100, m_window);
+    progress.setWindowModality(Qt::WindowModal);
+    try {
+        task([&](int percent) {
+            progress.setValue(percent);
+            return !progress.wasCanceled();
+        });
+    } catch (const kavoTaskError &error) {
+        emit failed(error.message());
+    }
+}
+
+void kavoExportActions::show(const kavoTableImport::Report &report)
+{
+    QString text = report.summary();
+    if (!report.unplacedRows.isEmpty())
+        text += '\n'
+            + tr("%n rows have no place in this scene.", nullptr, report.unplacedRows.size());
+    auto *box = new QMessageBox(
+        QMessageBox::Information, tr("Import Table"), text, QMessageBox::Ok, m_window);
+    box->setDetailedText(report.unplacedRows.join('\n'));
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->open();
+}

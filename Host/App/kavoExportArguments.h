@@ -1,0 +1,46 @@
+#pragma once
+
+#include "kavoTableOptions.h"
+
+#include <OpenSG/OSGNodePtr.h>
+
+#include <QCommandLineOption>
+#include <QCommandLineParser>
+#include <QList>
+#include <QString>
+
+/// What the command line asks for in the way of value pairs: import of a table, export of tables.
+class kavoExportArguments
+{
+public:
+    static QList<QCommandLineOption> options();
+
+    /// \param parser has these options and has parsed
+    explicit kavoExportArguments(const QCommandLineParser &parser);
+
+    /// What is wrong with the values of the options, empty if nothing is.
+    QString error() const { return m_error; }
+    /// Whether there is something to run.
+    bool areJobs() const;
+
+    /// Imports first, so that what it changes comes out again, then exports.
+    /// \param scene the nodes that can be changed
+    /// \param part the nodes that are written
+    /// \throws kavoTaskError if one of them fails, after all if rows could not be placed
+    void run(const osg::NodePtr &scene, const osg::NodePtr &part) const;
+
+private:
+    void parseTableOptions(const QCommandLineParser &parser);
+    QString choose(const QCommandLineParser &parser, const QString &option,
+        const QStringList &choices, const QString &preset);
+    /// \returns how many rows could not be placed
+    int importTable(const osg::NodePtr &scene) const;
+    kavoTableOptions optionsFor(const QString &fileName) const;
+
+    QString m_valuePairFile;
+    QString m_exportFile;
+    QString m_importFile;
+    QString m_format; ///< empty: by the name of the file
+    kavoTableOptions m_tableOptions;
+    QString m_error;
+};

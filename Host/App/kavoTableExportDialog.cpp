@@ -1,0 +1,22 @@
+#include "kavoTableExportDialog.h"
+
+#include "kavoExportScopeBox.h"
+#include "kavoTableFilterBox.h"
+#include "kavoTableFormatBox.h"
+
+kavoTableExportDialog::kavoTableExportDialog(QWidget *parent)
+    : kavoTaskDialog(tr("Export Table"), tr("&Export..."), parent)
+    , m_scope(add(new kavoExportScopeBox))
+    , m_filter(add(new kavoTableFilterBox))
+    , m_format(add(new kavoTableFormatBox(kavoTableFormatBox::Export)))
+{
+}
+
+kavoTableOptions kavoTableExportDialog::options() const
+{
+    kavoTableOptions options;
+    m_filter->apply(options);
+    m_format->apply(options);
+    options.takesAllNodes = m_scope->takesAllNodes();
+    return options;
+}

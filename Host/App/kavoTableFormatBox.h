@@ -1,0 +1,33 @@
+#pragma once
+
+#include "kavoTableOptions.h"
+
+#include <QGroupBox>
+
+class QCheckBox;
+class QComboBox;
+class QFormLayout;
+
+/// Asks for the format of a table. At an import the format and the delimiter are found out, so only
+/// what cannot be is asked for.
+class kavoTableFormatBox : public QGroupBox
+{
+    Q_OBJECT
+
+public:
+    enum Purpose { Export, Import };
+
+    explicit kavoTableFormatBox(Purpose purpose, QWidget *parent = nullptr);
+
+    /// Sets what was chosen here; leaves the rest alone.
+    void apply(kavoTableOptions &options) const;
+
+private:
+    void addExportRows(QFormLayout *layout);
+
+    QComboBox *m_format;
+    QComboBox *m_delimiter;
+    QComboBox *m_decimalSeparator;
+    QCheckBox *m_byteOrderMark;
+    QCheckBox *m_guardsFormulas;
+};

@@ -1,0 +1,17 @@
+#include "kavoTableImportDialog.h"
+
+#include "kavoTableFormatBox.h"
+
+kavoTableImportDialog::kavoTableImportDialog(QWidget *parent)
+    : kavoTaskDialog(tr("Import Table"), tr("&Import"), parent)
+    , m_format(add(new kavoTableFormatBox(kavoTableFormatBox::Import)))
+{
+}
+
+kavoTableOptions kavoTableImportDialog::options(const QString &fileName) const
+{
+    kavoTableOptions options;
+    m_format->apply(options);
+    options.format = kavoTableOptions::formatOf(fileName);
+    return options;
+}

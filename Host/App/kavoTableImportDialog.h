@@ -1,0 +1,20 @@
+#pragma once
+
+#include "kavoTableOptions.h"
+#include "kavoTaskDialog.h"
+
+class kavoTableFormatBox;
+
+/// Asks how a table was exported, as far as it cannot be seen.
+class kavoTableImportDialog : public kavoTaskDialog
+{
+    Q_OBJECT
+
+public:
+    explicit kavoTableImportDialog(QWidget *parent = nullptr);
+
+    kavoTableOptions options(const QString &fileName) const;
+
+private:
+    kavoTableFormatBox *m_format;
+};

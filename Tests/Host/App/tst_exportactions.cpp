@@ -1,0 +1,251 @@
+#include "kavoTableFixture.h"
+
+#include <kavoConsoleCapture.h>
+#include <kavoExportActions.h>
+#include <kavoRealInput.h>
+#include <kavoScenegraph.h>
+#include <kavoTaskError.h>
+#include <kavoTestHost.h>
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QProgressDialog>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+
+#include <functional>
+#include <memory>
+
+using kavoTestPairs::addNode;
+
+namespace {
+
+// The menu's actions open dialogs and return when these close, so what a user does in them is
+// queued beforehand: one step for each dialog.
+class User
+{
+public:
+    void willDo(const std::function<void(QDialog &)> &step) { m_steps.append(step); }
+
+    void trigger(QMenu &menu, const QString &text)
+    {
+        QTimer timer;
+        QObject::connect(&timer, &QTimer::timeout, [this] { act(); });
+        timer.start(50);
+        find(menu, text)->trigger();
+    }
+
+    bool isDone() const { return m_steps.isEmpty(); }
+
+private:
+    static QAction *find(QMenu &menu, const QString &text)
+    {
+        for (QAction *action : menu.findChildren<QAction *>()) {
+            if (action->text().remove('&') == text)
+                return action;
+        }
+        return nullptr;
+    }
+
+    void act()
+    {
+        auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+        if (!dialog || dialog == m_last || m_steps.isEmpty())
+            return;
+        m_last = dialog;
+        m_steps.takeFirst()(*dialog);
+    }
+
+    QList<std::function<void(QDialog &)>> m_steps;
+    QPointer<QDialog> m_last;
+};
+
+template <class Widget> Widget *child(const QDialog &dialog, const QString &text)
+{
+    for (Widget *widget : dialog.findChildren<Widget *>()) {
+        if (widget->text().remove('&') == text)
+            return widget;
+    }
+    return nullptr;
+}
+
+void accept(QDialog &dialog)
+{
+    const auto *buttons = dialog.findChild<QDialogButtonBox *>();
+    QTest::mouseClick(buttons->button(QDialogButtonBox::Ok), Qt::LeftButton);
+}
+
+std::function<void(QDialog &)> chooseFile(const QString &file)
+{
+    return [file](QDialog &dialog) {
+        dialog.findChild<QLineEdit *>()->setText(file);
+        QTest::keyClick(dialog.findChild<QLineEdit *>(), Qt::Key_Return);
+    };
+}
+
+}
+
+class tst_ExportActions : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void valuePairsOfTheSelectionAreExported();
+    void withoutASelectionOnlyTheSceneCanBeExported();
+    void aTableIsExportedAsChosen();
+    void aTableIsImported();
+    void rowsWithoutAPlaceAreShown();
+    void aFailureIsSignaled();
+    void theProgressDialogCancels();
+
+private:
+    QByteArray written(const QString &name) const;
+
+    std::unique_ptr<kavoTableFixture> m_table;
+    std::unique_ptr<kavoConsoleCapture> m_console;
+    std::unique_ptr<QMenu> m_menu;
+    std::unique_ptr<kavoExportActions> m_actions;
+    std::unique_ptr<User> m_user;
+    osg::NodePtr m_mast;
+};
+
+void tst_ExportActions::init()
+{
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    QVERIFY(kavoTestHost::show());
+    m_console = std::make_unique<kavoConsoleCapture>(kavoConsoleCapture::StandardOutput);
+    m_table = std::make_unique<kavoTableFixture>();
+    m_mast = addNode(m_table->root, "Mast", { { "color", "red" } });
+    kavoScenegraph::setRoot(m_table->root);
+    m_menu = std::make_unique<QMenu>();
+    m_actions = std::make_unique<kavoExportActions>(&kavoTestHost::mainWindow(), m_menu.get());
+    m_user = std::make_unique<User>();
+}
+
+void tst_ExportActions::cleanup()
+{
+    kavoScenegraph::setRoot(osg::NullFC);
+    m_user.reset();
+    m_actions.reset();
+    m_menu.reset();
+    m_table.reset();
+    m_console.reset();
+}
+
+QByteArray tst_ExportActions::written(const QString &name) const
+{
+    QFile file(m_table->path(name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : "no file";
+}
+
+void tst_ExportActions::valuePairsOfTheSelectionAreExported()
+{
+    kavoScenegraph::setSelectedNode(m_mast);
+    m_mast->setTravMask(1);
+    m_user->willDo([](QDialog &dialog) {
+        QTest::mouseClick(
+            child<QRadioButton>(dialog, "Selected node and all below"), Qt::LeftButton);
+        child<QCheckBox>(dialog, "Also nodes that are not fully visible")->click();
+        accept(dialog);
+    });
+    m_user->willDo(chooseFile(m_table->path("p.csv")));
+    m_user->trigger(*m_menu, "Value Pairs (CSV)...");
+    QVERIFY(m_user->isDone());
+    QCOMPARE(written("p.csv"), QByteArray("nodes\\keys,color,\nMast,red,\n"));
+}
+
+void tst_ExportActions::withoutASelectionOnlyTheSceneCanBeExported()
+{
+    bool isEnabled = true;
+    m_user->willDo([&](QDialog &dialog) {
+        isEnabled = child<QRadioButton>(dialog, "Selected node and all below")->isEnabled();
+        accept(dialog);
+    });
+    m_user->willDo(chooseFile(m_table->path("p.csv")));
+    m_user->trigger(*m_menu, "Value Pairs (CSV)...");
+    QVERIFY(!isEnabled);
+    QCOMPARE(written("p.csv"), QByteArray("nodes\\keys,color,\nHull,,\nMast,red,\n"));
+}
+
+void tst_ExportActions::aTableIsExportedAsChosen()
+{
+    m_user->willDo([](QDialog &dialog) {
+        dialog.findChildren<QComboBox *>().at(1)->setCurrentText("Semicolon");
+        dialog.findChildren<QLineEdit *>().first()->setText("col*");
+        accept(dialog);
+    });
+    m_user->willDo(chooseFile(m_table->path("t.csv")));
+    m_user->trigger(*m_menu, "Table...");
+    QVERIFY(m_user->isDone());
+    QVERIFY(written("t.csv").startsWith("id;path;name;type;color\r\n"));
+    QVERIFY(written("t.csv").endsWith(";/Hull/Mast;Mast;Group;red\r\n"));
+}
+
+void tst_ExportActions::aTableIsImported()
+{
+    const QByteArray edited = m_table->exported().replace("red", "blue");
+    QFile file(m_table->path("t.csv"));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(edited) == edited.size());
+    file.close();
+    m_user->willDo(chooseFile(file.fileName()));
+    m_user->willDo([](QDialog &dialog) { accept(dialog); });
+    m_user->trigger(*m_menu, "Import Table...");
+    QVERIFY(m_user->isDone());
+    QVERIFY(
+        kavoTestPairs::of(m_mast) == (std::vector<kavoTestPairs::Pair> { { "color", "blue" } }));
+    auto *box = kavoTestHost::mainWindow().findChild<QMessageBox *>();
+    QCOMPARE(box->text(), QString("1 values of 1 nodes changed"));
+    box->close();
+}
+
+void tst_ExportActions::rowsWithoutAPlaceAreShown()
+{
+    kavoTableImport::Report report;
+    report.unplacedRows << "line 7: nowhere";
+    m_actions->show(report);
+    QPointer<QMessageBox> box = kavoTestHost::mainWindow().findChild<QMessageBox *>();
+    QVERIFY(box->text().contains("1 rows have no place in this scene."));
+    QCOMPARE(box->detailedText(), QString("line 7: nowhere"));
+    box->close();
+    QTRY_VERIFY(!box);
+}
+
+void tst_ExportActions::aFailureIsSignaled()
+{
+    QSignalSpy failed(m_actions.get(), &kavoExportActions::failed);
+    m_actions->run("Try", [](const kavoMonitor &) -> bool { throw kavoTaskError("no way"); });
+    QCOMPARE(failed.size(), 1);
+    QCOMPARE(failed[0][0].toString(), QString("no way"));
+}
+
+void tst_ExportActions::theProgressDialogCancels()
+{
+    int steps = 0;
+    m_actions->run("Wait", [&](const kavoMonitor &monitor) {
+        for (bool goOn = true; goOn && steps < 1000; ++steps) {
+            QTest::qSleep(10);
+            goOn = monitor(steps / 10);
+            auto *dialog = kavoTestHost::mainWindow().findChild<QProgressDialog *>();
+            if (dialog->isVisible())
+                kavoRealInput::click(dialog->findChild<QPushButton *>());
+        }
+        return true;
+    });
+    QVERIFY(steps < 1000);
+}
+
+KAVO_TEST_MAIN(tst_ExportActions)
+#include "tst_exportactions.moc"
