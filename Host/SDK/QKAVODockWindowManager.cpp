@@ -13,6 +13,9 @@
 #include <QMenu>
 #include <QSplitter>
 
+#include <algorithm>
+#include <numeric>
+
 namespace {
 
 ads::DockWidgetArea sideOf(Qt::DockWidgetArea area)
@@ -32,22 +35,23 @@ ads::DockWidgetArea sideOf(Qt::DockWidgetArea area)
 // Percent of the main window that a side takes when it opens.
 int shareOf(ads::DockWidgetArea side)
 {
-    const bool acrossTheWindow
-        = side == ads::TopDockWidgetArea || side == ads::BottomDockWidgetArea;
-    return acrossTheWindow ? 25 : 55;
+    return side == ads::RightDockWidgetArea ? 35 : 25;
 }
 
+// The others share the rest as they shared the whole before; before the first layout all the same.
 void giveShare(ads::CDockAreaWidget *area, int percent)
 {
     auto *splitter = qobject_cast<QSplitter *>(area->parentWidget());
     if (!splitter || splitter->count() < 2)
         return;
-    const int total
-        = splitter->orientation() == Qt::Horizontal ? splitter->width() : splitter->height();
-    const int others = total * (100 - percent) / 100 / (splitter->count() - 1);
-    QList<int> sizes;
-    for (int i = 0; i < splitter->count(); ++i)
-        sizes << (splitter->widget(i) == area ? total * percent / 100 : others);
+    const int own = splitter->indexOf(area);
+    QList<int> sizes = splitter->sizes();
+    sizes[own] = 0;
+    if (sizes.count(0) == sizes.size())
+        std::fill(sizes.begin(), sizes.end(), 100);
+    sizes[own] = 0;
+    const int others = std::accumulate(sizes.cbegin(), sizes.cend(), 0);
+    sizes[own] = others * percent / (100 - percent);
     splitter->setSizes(sizes);
 }
 
