@@ -10,9 +10,9 @@
 namespace kavoDragFormats {
 
 /// Materials. Two ids an item: the node that carries the material (its core is a material group),
-/// then the node of the material tree's parent entry.
+/// then the material.
 constexpr char materials[] = "application/kavo-mattree-item";
-/// Lights. Two ids an item: the light's node, then its beacon (or 0).
+/// Lights. Two ids an item: the light's node, then the light, which is its core.
 constexpr char lights[] = "application/kavo-lighttree-items";
 /// Cameras. One id an item: the camera's node.
 constexpr char cameras[] = "application/kavo-camera-item";
