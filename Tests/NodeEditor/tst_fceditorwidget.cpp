@@ -24,6 +24,8 @@ private slots:
     void itIsATreePropertyBrowserOfItsOwnMetaObject();
     void aNullContainerShowsNothing();
     void aNullContainerEmptiesAFilledTree();
+    void theCurrentRowGoesWithItsTree();
+    void anOpenRowEditorGoesWithItsTree();
     void rowsLeftFromAnEarlierContainerAreBoundNoMore();
     void showingTheSameContainerAgainMakesNewRows();
     void showingAnotherContainerReplacesTheRows();
@@ -100,6 +102,33 @@ void TestFCEditorWidget::aNullContainerEmptiesAFilledTree()
     QCOMPARE(editor.properties().size(), 1);
     editor.setFC(QString(), osg::NullFC);
     QVERIFY(editor.properties().isEmpty());
+}
+
+void TestFCEditorWidget::theCurrentRowGoesWithItsTree()
+{
+    const kavoNodePtr truck = kavoTestScene::makeTruck();
+    kavoFCEditorWidget editor(nullptr, nullptr);
+    editor.setFC("truck", osg::NodePtr(truck));
+    editor.setCurrentItem(editor.items(top(editor)).first());
+    QSignalSpy current(&editor, &QtAbstractPropertyBrowser::currentItemChanged);
+    editor.setFC(QString(), osg::NullFC);
+    QCOMPARE(current.size(), 1);
+    QCOMPARE(editor.currentItem(), nullptr);
+}
+
+void TestFCEditorWidget::anOpenRowEditorGoesWithItsTree()
+{
+    const osg::FieldSamplerPtr sampler = osg::FieldSampler::create();
+    osg::addRefCP(sampler);
+    kavoFCEditorWidget editor(nullptr, nullptr);
+    editor.show();
+    editor.setFC("sampler", sampler);
+    const QPointer<QWidget> open = edit(editor, "text");
+    QVERIFY(open);
+    editor.setFC("sampler", sampler);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(!open);
+    osg::subRefCP(sampler);
 }
 
 void TestFCEditorWidget::rowsLeftFromAnEarlierContainerAreBoundNoMore()

@@ -5,6 +5,7 @@
 #include "kavoVariantPropertyManager.h"
 
 #include <QScopedValueRollback>
+#include <QTreeWidget>
 
 kavoFCEditorWidget::kavoFCEditorWidget(QWidget *parent, const char *)
     : QtTreePropertyBrowser(parent)
@@ -34,19 +35,28 @@ kavoFCEditorWidget::kavoFCEditorWidget(QWidget *parent, const char *)
 
 kavoFCEditorWidget::~kavoFCEditorWidget()
 {
-    deleteRows(properties());
+    deleteAllRows();
     delete m_variantManager;
 }
 
 void kavoFCEditorWidget::setFC(const QString &name, osg::FieldContainerPtr fc)
 {
     m_bindings.clear();
-    deleteRows(properties());
+    deleteAllRows();
     clear();
     m_variantManager->clear();
 
     const QScopedValueRollback<bool> building(m_building, true);
     setFC(nullptr, fc, name, false);
+}
+
+// For each row that goes, the view's model looks at all rows that the view remembers as open or as
+// spanning both columns: it forgets them first.
+void kavoFCEditorWidget::deleteAllRows()
+{
+    setCurrentItem(nullptr);
+    findChild<QTreeWidget *>()->reset();
+    deleteRows(properties());
 }
 
 // The manager's own clear() copies the set of all its rows for every row that it deletes, which

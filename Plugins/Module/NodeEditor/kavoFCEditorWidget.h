@@ -80,6 +80,7 @@ private:
     struct FieldSource;
     using RowText = std::optional<QString>;
 
+    void deleteAllRows();
     void deleteRows(const QList<QtProperty *> &rows);
 
     QtProperty *addGroup(QtProperty *parent, const QString &title);
