@@ -1,0 +1,15 @@
+#pragma once
+
+#include "BenchRow.h"
+
+#include <QTreeWidget>
+
+/// The least that any tree of these rows costs in Qt: a bare tree widget of two columns, each
+/// group filled before it enters the tree.
+class BenchFloor : public QTreeWidget
+{
+public:
+    BenchFloor();
+
+    void build(const BenchRow &top);
+};

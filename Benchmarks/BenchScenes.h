@@ -1,0 +1,23 @@
+#pragma once
+
+#include <kavoNodePtr.h>
+
+#include <OpenSG/OSGNode.h>
+
+/// What the benchmarks show.
+namespace BenchScenes {
+
+/// A node with a name, a box as geometry, and a material of five chunks, one of them a texture.
+kavoNodePtr makeTexturedNode();
+
+/// An attachment with 400 fields, which nobody references.
+osg::AttachmentPtr makeManyFields();
+
+/// A node that carries as many transform variants, of three rows each, in lists of a given length.
+kavoNodePtr makeNodeWithVariants(int count, int listLength);
+
+/// A tree of that many nodes: groups of up to 100 children, three levels deep below the root. Not
+/// all of one kind, and all have a name.
+kavoNodePtr makeTree(int nodes);
+
+}

@@ -1,0 +1,86 @@
+#include "BenchSelection.h"
+
+#include "BenchClock.h"
+#include "BenchHost.h"
+
+#include <QApplication>
+
+namespace {
+
+template <class Build, class Empty>
+BenchSelection::Times medians(int rounds, Build build, Empty empty)
+{
+    std::vector<double> builds, empties;
+    for (int round = 0; round < rounds; ++round) {
+        builds.push_back(BenchClock::time(build));
+        BenchHost::settle();
+        empties.push_back(BenchClock::time(empty));
+        BenchHost::settle();
+    }
+    return { BenchClock::median(builds), BenchClock::median(empties) };
+}
+
+// Sees whether a viewport was painted.
+class PaintWatch : public QObject
+{
+public:
+    bool painted = false;
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        painted |= event->type() == QEvent::Paint;
+        return false;
+    }
+};
+
+}
+
+BenchSelection::BenchSelection()
+    : m_editor(nullptr, "editor")
+{
+    BenchHost::show(m_editor);
+    BenchHost::show(m_baseline);
+    BenchHost::show(m_floor);
+}
+
+BenchSelection::Times BenchSelection::editor(const osg::FieldContainerPtr &container, int rounds)
+{
+    m_editor.setFC("node", container);
+    m_rows = BenchRow::record(m_editor);
+    BenchHost::settle();
+    m_editor.setFC("node", osg::NullFC);
+    return medians(
+        rounds, [&] { m_editor.setFC("node", container); },
+        [&] { m_editor.setFC("", osg::NullFC); });
+}
+
+BenchSelection::Times BenchSelection::baseline(int rounds)
+{
+    return medians(
+        rounds, [&] { m_baseline.build(m_rows); }, [&] { m_baseline.empty(); });
+}
+
+BenchSelection::Times BenchSelection::floor(int rounds)
+{
+    return medians(
+        rounds, [&] { m_floor.build(m_rows); }, [&] { m_floor.clear(); });
+}
+
+double BenchSelection::untilPainted(const osg::FieldContainerPtr &container, int rounds)
+{
+    PaintWatch watch;
+    BenchHost::treeOf(m_editor).viewport()->installEventFilter(&watch);
+    m_editor.raise();
+    m_editor.setFC("node", container);
+    BenchHost::settle();
+    return BenchClock::medianOf(rounds, [&] {
+        const double time = BenchClock::wallTime([&] {
+            m_editor.setFC("node", container);
+            while (!watch.painted)
+                QApplication::processEvents();
+        });
+        BenchHost::settle();
+        watch.painted = false;
+        return time;
+    });
+}
