@@ -62,9 +62,11 @@ void setTexCoords(osg::Geometry &geometry, const aiMesh &mesh)
         &osg::Geometry::setTexCoords2, &osg::Geometry::setTexCoords3, &osg::Geometry::setTexCoords4,
         &osg::Geometry::setTexCoords5, &osg::Geometry::setTexCoords6,
         &osg::Geometry::setTexCoords7 };
-    for (unsigned int set = 0; set < std::size(setters) && mesh.HasTextureCoords(set); ++set)
-        (geometry.*setters[set])(property<osg::GeoTexCoords2f>(mesh.mTextureCoords[set],
+    for (unsigned int set = 0; set < std::size(setters) && mesh.HasTextureCoords(set); ++set) {
+        const Setter setter = setters[set];
+        (geometry.*setter)(property<osg::GeoTexCoords2f>(mesh.mTextureCoords[set],
             mesh.mNumVertices, [](const aiVector3D &v) { return osg::Vec2f(v.x, v.y); }));
+    }
 }
 
 void setVertices(osg::Geometry &geometry, const aiMesh &mesh)
