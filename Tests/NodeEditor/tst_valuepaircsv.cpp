@@ -1,6 +1,3 @@
-#include "LiteralValuePairCsv.h"
-#include "RandomValuePairScene.h"
-
 #include <OSGValuePairCSVCreator.h>
 #include <kavoConsoleCapture.h>
 #include <kavoTestHost.h>
@@ -64,13 +61,10 @@ private slots:
     void aFullDiskIsToldByTheSaveError();
     void theMonitorIsCalledNowAndThen();
     void theMonitorEndsTheTraversal();
-    void randomScenesAreWrittenLikeTheLiteralWay();
 
 private:
     void traverse();
     QByteArray saved();
-    QByteArray saved(LiteralValuePairCsv &literal);
-    QByteArray written();
 
     QTemporaryDir m_folder;
     std::unique_ptr<kavoConsoleCapture> m_console;
@@ -98,22 +92,11 @@ void tst_ValuePairCsv::traverse()
     static_cast<osg::GraphOp &>(*m_creator).traverse(root);
 }
 
-QByteArray tst_ValuePairCsv::written()
-{
-    QFile file(m_folder.filePath("pairs.csv"));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : "no file";
-}
-
 QByteArray tst_ValuePairCsv::saved()
 {
     m_creator->save(m_folder.filePath("pairs.csv").toStdString());
-    return written();
-}
-
-QByteArray tst_ValuePairCsv::saved(LiteralValuePairCsv &literal)
-{
-    literal.save(m_folder.filePath("pairs.csv").toStdString());
-    return written();
+    QFile file(m_folder.filePath("pairs.csv"));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : "no file";
 }
 
 void tst_ValuePairCsv::oneRowPerNodeAndOneColumnPerKey()
@@ -370,26 +353,6 @@ void tst_ValuePairCsv::theMonitorEndsTheTraversal()
     osg::NodePtr root = m_root;
     QVERIFY(!static_cast<osg::GraphOp &>(*m_creator).traverse(root));
     QCOMPARE(calls, 1);
-}
-
-void tst_ValuePairCsv::randomScenesAreWrittenLikeTheLiteralWay()
-{
-    for (unsigned seed = 0; seed < 2000; ++seed) {
-        RandomValuePairScene random(seed);
-        const bool takesAll = random.oneIn(2);
-        m_creator = std::make_unique<ValuePairCSVCreator>("ValuePairCSVCreator");
-        m_creator->setCsvType(takesAll);
-        LiteralValuePairCsv literal(takesAll);
-        for (bool again = true; again; again = random.oneIn(2)) {
-            m_root = random.make();
-            traverse();
-            osg::NodePtr root = m_root;
-            static_cast<osg::GraphOp &>(literal).traverse(root);
-            if (!random.oneIn(4))
-                QVERIFY2(saved() == saved(literal), qPrintable(QString::number(seed)));
-        }
-        QVERIFY2(saved() == saved(literal), qPrintable(QString::number(seed)));
-    }
 }
 
 KAVO_TEST_MAIN(tst_ValuePairCsv)

@@ -36,7 +36,7 @@ ValuePairCSVCreator::ValuePairCSVCreator(const char *name)
     std::cout << "ValuePairCSVCreator::ValuePairCSVCreator" << std::endl;
 }
 
-// Announces the destructor: scripts that read the host's output know it by this line.
+// Deliberate: prints the destructor's line.
 GraphOp *ValuePairCSVCreator::create()
 {
     std::cout << "ValuePairCSVCreator::~ValuePairCSVCreator" << std::endl;

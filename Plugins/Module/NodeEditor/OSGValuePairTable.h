@@ -2,14 +2,16 @@
 
 #include <OpenSG/OSGMFBaseTypes.h>
 
+#include <array>
 #include <map>
 #include <ostream>
 #include <string>
 #include <unordered_map>
-#include <utility>
 #include <vector>
 
 OSG_BEGIN_NAMESPACE
+
+class TextBuffer;
 
 /// The table that a ValuePairCSVCreator gathers: a column for every key, all of one length, and
 /// beside them the names of the rows.
@@ -37,6 +39,7 @@ private:
     {
         const std::string *key;
         UInt32 rank; ///< place among the columns in key order
+        UInt32 alike; ///< next of the ring of columns whose keys are the same up to their first NUL
         UInt32 node; ///< the setPairs() that met it last
         UInt32 occurrences; ///< how often in that one
     };
@@ -50,42 +53,42 @@ private:
 
         bool operator<(const Cell &other) const;
     };
-    struct CellHeader
+    struct PackedRow
     {
-        UInt32 column;
-        UInt32 size;
+        const char *begin, *end, *blockEnd;
     };
     struct Position
     {
         UInt32 block;
         UInt32 offset;
     };
-    /// Columns whose keys are the same up to their first NUL: more than one only in odd scenes.
-    using Group = std::vector<UInt32>;
+    using Place = std::map<std::string, UInt32>::const_iterator;
 
-    Group &groupOf(const std::string &key);
-    void addColumn(const std::string &key, Group &group);
+    UInt32 columnOf(const std::string &key);
+    UInt32 addColumn(const std::string &key);
+    void joinRing(Place place);
     void updateRanks();
     void collectCells(const MFString &keys);
+    void addCell(UInt32 id, UInt32 value);
     void cut(UInt32 row);
     void beginRow();
     void appendCell(UInt32 column, const std::string &value);
-    void writeHeader(std::string &text) const;
-    static const char *writeName(std::string &text, const char *name);
-    void writeCells(std::string &text, UInt32 row) const;
-    std::pair<const char *, const char *> cellsOf(UInt32 row) const;
+    void writeHeader(std::ostream &out) const;
+    void writeCells(TextBuffer &text, UInt32 row) const;
+    PackedRow cellsOf(UInt32 row) const;
 
     std::string m_names; ///< each ends in NUL
-    std::map<std::string, UInt32> m_columnsByKey;
-    std::unordered_map<std::string, Group> m_groups; ///< by key up to the first NUL
+    std::map<std::string, UInt32> m_columnsInOrder; ///< by key
+    std::unordered_map<std::string, UInt32> m_columnsByKey; ///< the same, found faster
+    std::array<UInt32, 1024> m_recentColumns {}; ///< by a cheap hash of the key
     std::vector<Column> m_columns;
     bool m_ranksAreStale = false;
 
-    std::vector<std::string> m_blocks; ///< cells as header and text, whole rows in each
+    std::vector<std::string> m_blocks; ///< each cell as column, size and text; whole rows in each
     std::vector<Position> m_rows; ///< the rows up to the last that has cells
     UInt32 m_length = 0;
 
-    std::vector<const Group *> m_groupsOfNode;
+    std::vector<UInt32> m_columnsOfNode;
     std::vector<Cell> m_cells;
     UInt32 m_node = 0;
 };
