@@ -1,0 +1,104 @@
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+// Import and export of value pairs as scripts meet it: the application without a display.
+class tst_kavoExport : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void valuePairsAndTableAreWritten();
+    void aPartIsWritten();
+    void aFileThatCannotBeWrittenExitsWithOne();
+    void anEditedTableIsImported();
+    void wrongOptionsExitWithTwo();
+
+private:
+    struct Result
+    {
+        int exitCode;
+        QByteArray output, errors;
+    };
+    Result run(const QStringList &arguments) const;
+    QByteArray written(const QString &name) const;
+
+    QTemporaryDir m_folder;
+};
+
+static const QString spider = QStringLiteral(KAVO_TEST_MODELS "/FBX/spider.fbx");
+
+tst_kavoExport::Result tst_kavoExport::run(const QStringList &arguments) const
+{
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("XDG_CONFIG_HOME", m_folder.path());
+    for (const char *variable : { "DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM" })
+        environment.remove(variable);
+    process.setProcessEnvironment(environment);
+    process.setWorkingDirectory(m_folder.path());
+    process.start(KAVO_EXECUTABLE, arguments);
+    const bool ended = process.waitForFinished(60000);
+    const bool clean = ended && process.exitStatus() == QProcess::NormalExit;
+    return { clean ? process.exitCode() : -1, process.readAllStandardOutput(),
+        process.readAllStandardError() };
+}
+
+QByteArray tst_kavoExport::written(const QString &name) const
+{
+    QFile file(m_folder.filePath(name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : "no file";
+}
+
+void tst_kavoExport::valuePairsAndTableAreWritten()
+{
+    const Result result
+        = run({ spider, "--export-value-pairs", "pairs.csv", "--export-table", "table.csv" });
+    QVERIFY2(result.exitCode == 0, result.errors);
+    QVERIFY(written("pairs.csv").startsWith("nodes\\keys,AspectH,AspectW,"));
+    QCOMPARE(written("table.csv").count("\r\n"), 22);
+    QVERIFY(result.output.contains("ValuePairCSVCreator::ValuePairCSVCreator\n"));
+}
+
+void tst_kavoExport::aPartIsWritten()
+{
+    const Result result
+        = run({ spider, "--select", "Camera", "--all-nodes", "--export-value-pairs", "part.csv" });
+    QVERIFY2(result.exitCode == 0, result.errors);
+    QCOMPARE(written("part.csv").count('\n'), 2);
+    QVERIFY(written("part.csv").contains("\nCamera,"));
+}
+
+void tst_kavoExport::aFileThatCannotBeWrittenExitsWithOne()
+{
+    const Result result = run({ spider, "--export-value-pairs", "no/such.csv" });
+    QCOMPARE(result.exitCode, 1);
+    QVERIFY2(result.errors.contains("Cannot write 'no/such.csv': No such file or directory"),
+        result.errors);
+}
+
+void tst_kavoExport::anEditedTableIsImported()
+{
+    QCOMPARE(run({ spider, "--export-table", "before.csv" }).exitCode, 0);
+    QByteArray edited = written("before.csv");
+    edited.replace(",false,", ",maybe,");
+    QFile file(m_folder.filePath("edited.csv"));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(edited) == edited.size());
+    file.close();
+    const Result result
+        = run({ spider, "--import-table", "edited.csv", "--export-table", "after.csv" });
+    QVERIFY2(result.exitCode == 0, result.errors);
+    QVERIFY2(result.output.contains("21 values of 21 nodes changed\n"), result.output);
+    QCOMPARE(written("after.csv"), edited);
+}
+
+void tst_kavoExport::wrongOptionsExitWithTwo()
+{
+    const Result result = run({ spider, "--export-table", "t.csv", "--table-decimal", ";" });
+    QCOMPARE(result.exitCode, 2);
+    QVERIFY(result.errors.contains("--table-decimal is one of point, comma."));
+}
+
+QTEST_GUILESS_MAIN(tst_kavoExport)
+#include "tst_kavoexport.moc"
