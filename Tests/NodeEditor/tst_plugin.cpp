@@ -1,6 +1,10 @@
 #include <QKAVODockWindowManager.h>
+#include <kavoController.h>
+#include <kavoMessage.h>
+#include <kavoMessageIds.h>
 #include <kavoModuleBase.h>
 #include <kavoTestHost.h>
+#include <kavoTestScene.h>
 
 #include <QLibrary>
 #include <QProcess>
@@ -16,6 +20,8 @@ private slots:
     void initPluginMakesTheModule();
     void initPluginTwiceMakesOneModuleAndOneWindow();
     void theTypeOfTheStoredModuleIsTheEditor();
+    void aNodeIsShownInTheWindow();
+    void theProcessEndsWellWithANodeShown();
 
 private:
     using InitPlugin = void (*)();
@@ -76,6 +82,31 @@ void TestPlugin::theTypeOfTheStoredModuleIsTheEditor()
     const kavoModuleBase *module = kavoModuleBase::modules().front();
     QCOMPARE(module->metaObject()->className(), "kavoNodeEditor");
     QCOMPARE(module->getWidget(), kavoTestHost::docks().window("Node Editor"));
+}
+
+// Leaves the node shown: the rows go with the module, when the process exits.
+void TestPlugin::aNodeIsShownInTheWindow()
+{
+    reinterpret_cast<InitPlugin>(m_library.resolve("initPlugin"))();
+    QVERIFY(kavoTestHost::show());
+    QWidget *window = kavoTestHost::docks().window("Node Editor");
+    kavoTestHost::docks().show("Node Editor");
+    QTRY_VERIFY(window->isVisible());
+    const kavoNodePtr truck = kavoTestScene::makeTruck();
+    kavoMessage message(kavoMessageIds::nodeShown);
+    message.set("node", osg::NodePtr(truck));
+    kavoController::sendMessage(message);
+    QVERIFY(window->windowTitle().startsWith("Node Editor - Root ("));
+}
+
+void TestPlugin::theProcessEndsWellWithANodeShown()
+{
+    QProcess child;
+    child.start(QCoreApplication::applicationFilePath(), { "aNodeIsShownInTheWindow" });
+    QVERIFY(child.waitForFinished());
+    QCOMPARE(child.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(child.exitCode(), 0);
+    QVERIFY(child.readAllStandardOutput().endsWith("kavoNodeEditor::~kavoNodeEditor\n"));
 }
 
 KAVO_TEST_MAIN(TestPlugin)

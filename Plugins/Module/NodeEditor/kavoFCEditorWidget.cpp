@@ -11,6 +11,8 @@ kavoFCEditorWidget::kavoFCEditorWidget(QWidget *parent, const char *)
     : QtTreePropertyBrowser(parent)
 {
     m_variantManager = new kavoVariantPropertyManager;
+    // Makes the table behind all variant rows, so that it outlives widgets of static objects.
+    m_variantManager->value(nullptr);
     connect(m_variantManager, SIGNAL(valueChanged(QtProperty *, const QVariant &)), this,
         SLOT(valueChanged(QtProperty *, const QVariant &)));
     m_variantFactory = new kavoVariantEditorFactory(this);
@@ -35,6 +37,9 @@ kavoFCEditorWidget::kavoFCEditorWidget(QWidget *parent, const char *)
 
 kavoFCEditorWidget::~kavoFCEditorWidget()
 {
+    // The component remembers a browser by its address until it is told otherwise.
+    unsetFactoryForManager(m_variantManager);
+    unsetFactoryForManager(m_enumManager);
     deleteAllRows();
     delete m_variantManager;
 }
