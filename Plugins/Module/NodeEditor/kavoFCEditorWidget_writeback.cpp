@@ -43,12 +43,14 @@ std::string inputFor(const osg::Field &field, const std::string &text)
     return isQuoted(written) ? text.substr(1, text.size() - 2) : text;
 }
 
-// The abstract field interface knows no clear().
-void clearField(osg::Field &field)
+// The abstract field interface knows no clear(). Types without a creator cannot be cleared.
+bool clearField(osg::Field &field)
 {
     const std::unique_ptr<osg::Field> empty(
         osg::FieldFactory::the().createField(field.getType().getId()));
-    field.setAbstrValue(*empty);
+    if (empty)
+        field.setAbstrValue(*empty);
+    return bool(empty);
 }
 
 }
@@ -59,7 +61,8 @@ bool kavoFCEditorWidget::writeList(osg::Field &field, QString text)
 {
     if (!isNumberList(field.getType().getCName()) || text.startsWith("<type="))
         return false;
-    clearField(field);
+    if (!clearField(field))
+        return false;
     text.replace(',', ' ');
     for (const QString &part : text.split(' ', Qt::SkipEmptyParts))
         field.pushValueByStr(part.toUtf8().constData());

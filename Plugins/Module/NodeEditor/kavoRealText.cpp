@@ -1,13 +1,17 @@
 #include "kavoRealText.h"
 
 #include <array>
+#include <cfloat>
 #include <charconv>
+#include <cmath>
 
 namespace {
 
 // A widened Real32 shows the digits of the Real32: 0.1, not 0.10000000149011612.
 double shortestDecimal(double value)
 {
+    if (std::abs(value) > FLT_MAX)
+        return value;
     const auto narrow = static_cast<float>(value);
     if (narrow != value)
         return value;
