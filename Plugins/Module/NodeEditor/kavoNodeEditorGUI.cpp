@@ -1,6 +1,6 @@
 #include "kavoNodeEditorGUI.h"
 
-// Named before the form names it: hosts find the windows of modules by this name.
+// Named first: the form names only a nameless window.
 kavoNodeEditorGUIW::kavoNodeEditorGUIW(QWidget *parent)
     : QMainWindow(parent)
 {
