@@ -37,6 +37,18 @@ template <class Handle> bool changesIgnored(long)
     return false;
 }
 
+template <class Handle>
+auto setChangesIgnored(bool ignored, int) -> decltype(Handle::setIgnoreChanged(ignored), bool())
+{
+    Handle::setIgnoreChanged(ignored);
+    return true;
+}
+
+template <class Handle> bool setChangesIgnored(bool, long)
+{
+    return false;
+}
+
 }
 
 /// Target of a pointer field, whatever its handle type.
@@ -53,6 +65,13 @@ inline osg::FieldContainerPtr target(osg::Field *field, osg::UInt32 index = 0)
 inline bool changesIgnored()
 {
     return detail::changesIgnored<osg::FieldContainerPtr>(0);
+}
+
+/// Sets or clears the ignore-change switch.
+/// \returns false if there is no such switch, as in stock 1.8
+inline bool setChangesIgnored(bool ignored)
+{
+    return detail::setChangesIgnored<osg::FieldContainerPtr>(ignored, 0);
 }
 
 }

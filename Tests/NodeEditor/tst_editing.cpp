@@ -193,7 +193,7 @@ void TestEditing::anEnumIsChosenWithTheMouse()
     QTRY_VERIFY(box->view()->isVisible());
     const QModelIndex linear = box->model()->index(box->findText("GL_LINEAR"), 0);
     click(box->view()->viewport(), box->view()->visualRect(linear).center());
-    QTRY_COMPARE(chunk->getMinFilter(), osg::GLenum(9729));
+    QTRY_COMPARE(chunk->getMinFilter(), GLenum(9729));
     show(m_sampler);
     osg::subRefCP(chunk);
 }
@@ -204,7 +204,7 @@ void TestEditing::anEnumIsChosenWithTheKeyboard()
     show(m_sampler);
     QVERIFY(open("minFilter"));
     press(Qt::Key_Down);
-    QCOMPARE(m_sampler->minFilter.getValue(), osg::GLenum(9729));
+    QCOMPARE(m_sampler->minFilter.getValue(), GLenum(9729));
     QCOMPARE(text(editor(), "minFilter"), QString("GL_LINEAR"));
 }
 

@@ -193,9 +193,10 @@ void TestWriteBack::derivedFieldsFollowAnEdit()
 
 void TestWriteBack::theIgnoreChangeSwitchIsHeeded()
 {
-    osg::FieldContainerPtr::setIgnoreChanged(true);
+    if (!kavoOpenSG::setChangesIgnored(true))
+        QSKIP("This OpenSG has no ignore-change switch.");
     setValue(*m_editor, "real32", 0.25);
-    osg::FieldContainerPtr::setIgnoreChanged(false);
+    kavoOpenSG::setChangesIgnored(false);
     QCOMPARE(m_sampler->changes, 0);
     QCOMPARE(m_sampler->real32.getValue(), 0.25f);
     QCOMPARE(int(osg::Thread::getCurrentChangeList()->sizeChanged()), 1);
@@ -322,10 +323,10 @@ void TestWriteBack::aNameEditedTenTimesHasNoQuotes()
 void TestWriteBack::anEnumIsWrittenAsDecimal()
 {
     setEnum(9729);
-    QCOMPARE(m_sampler->minFilter.getValue(), osg::GLenum(9729));
+    QCOMPARE(m_sampler->minFilter.getValue(), GLenum(9729));
     QCOMPARE(m_sampler->lastMask, osg::FieldSampler::maskOf("minFilter"));
     setEnum(0xFFFFFFFF);
-    QCOMPARE(m_sampler->minFilter.getValue(), osg::GLenum(0xFFFFFFFF));
+    QCOMPARE(m_sampler->minFilter.getValue(), GLenum(0xFFFFFFFF));
 }
 
 void TestWriteBack::anEnumEditPrintsATraceLineFirst()

@@ -18,6 +18,7 @@ private slots:
     void anIndexPastTheEndGivesNull();
     void aFieldOfTheHostsOwnHandleTypeIsReadToo();
     void changesAreNotIgnoredUnlessAskedFor();
+    void theIgnoreChangeSwitchCanBeSetAndCleared();
 };
 
 static osg::FieldContainerPtr target(
@@ -69,6 +70,15 @@ void tst_kavoOpenSGCompat::aFieldOfTheHostsOwnHandleTypeIsReadToo()
 
 void tst_kavoOpenSGCompat::changesAreNotIgnoredUnlessAskedFor()
 {
+    QVERIFY(!kavoOpenSG::changesIgnored());
+}
+
+void tst_kavoOpenSGCompat::theIgnoreChangeSwitchCanBeSetAndCleared()
+{
+    if (!kavoOpenSG::setChangesIgnored(true))
+        QSKIP("This OpenSG has no ignore-change switch.");
+    QVERIFY(kavoOpenSG::changesIgnored());
+    QVERIFY(kavoOpenSG::setChangesIgnored(false));
     QVERIFY(!kavoOpenSG::changesIgnored());
 }
 
