@@ -1,4 +1,5 @@
 #include "OSGFieldSampler.h"
+#include "OSGParentLink.h"
 #include "kavoTreeRows.h"
 
 #include <OSGAnimNodeBase.h>
@@ -194,19 +195,26 @@ void TestPropertyTree::anUnsetPointerSaysSo()
 void TestPropertyTree::backLinksShowTheOwnersId_data()
 {
     QTest::addColumn<QString>("field");
+    QTest::addColumn<bool>("isSampled");
     for (const char *name : { "parent", "childs", "associated" })
-        QTest::newRow(name) << name;
+        QTest::newRow(name) << name << true;
+    QTest::newRow("parents") << "parents" << false;
 }
 
 void TestPropertyTree::backLinksShowTheOwnersId()
 {
     QFETCH(QString, field);
+    QFETCH(bool, isSampled);
     const kavoNodePtr node(kavoTestScene::makeGroup("Owner"));
+    const osg::ParentLinkPtr single = osg::ParentLink::create();
+    osg::addRefCP(single);
+    single->parents.setValue(node);
     for (osg::SFNodePtr *link : { &m_sampler->parent, &m_sampler->childs, &m_sampler->associated })
         link->setValue(node);
-    show(m_sampler);
+    show(isSampled ? osg::FieldContainerPtr(m_sampler) : osg::FieldContainerPtr(single));
     QCOMPARE(text(*m_editor, field), QString::number(osg::NodePtr(node).getFieldContainerId()));
     QVERIFY(row(*m_editor, field)->subProperties().isEmpty());
+    osg::subRefCP(single);
 }
 
 void TestPropertyTree::animatedNodesAreListedUpTo99_data()
