@@ -4,6 +4,7 @@
 #include <kavoTestHost.h>
 #include <kavoTestScene.h>
 
+#include <OpenSG/OSGFieldContainerFactory.h>
 #include <OpenSG/OSGGroup.h>
 #include <OpenSG/OSGMaterialGroup.h>
 #include <OpenSG/OSGPointLight.h>
@@ -51,6 +52,7 @@ private slots:
 
 private:
     static qint32 id(const osg::FieldContainerPtr &container);
+    static qint32 idOfADestroyedNode();
     void deliver(QEvent &event);
     void drop(const QString &format, const QByteArray &bytes);
     void drop(const QMimeData &data);
@@ -68,6 +70,12 @@ private:
 qint32 TestDrop::id(const osg::FieldContainerPtr &container)
 {
     return qint32(container.getFieldContainerId());
+}
+
+qint32 TestDrop::idOfADestroyedNode()
+{
+    const kavoNodePtr node(kavoTestScene::makeGroup("Dead"));
+    return id(osg::NodePtr(node));
 }
 
 QString TestDrop::titleOf(const char *name, const osg::FieldContainerPtr &container)
@@ -199,8 +207,10 @@ void TestDrop::aCameraIsShownWithItsName()
 
 void TestDrop::theFirstIdThatIsANodeIsTheCamera()
 {
+    const qint32 stale = idOfADestroyedNode();
+    QVERIFY(osg::FieldContainerFactory::the()->getContainer(osg::UInt32(stale)) == osg::NullFC);
     drop(cameras,
-        payload({ -1, 0x7FFFFFFF, 0, id(m_material), id(osg::NodePtr(m_light)),
+        payload({ stale, -1, 0x7FFFFFFF, 0, id(m_material), id(osg::NodePtr(m_light)),
             id(osg::NodePtr(m_materialNode)) }));
     QCOMPARE(title(), titleOf("Lamp", osg::NodePtr(m_light)));
 }
@@ -273,9 +283,7 @@ void TestDrop::malformedPayloadsChangeNothing_data()
     QTest::addColumn<QByteArray>("bytes");
     for (const int size : { 0, 1, 3, 7 })
         QTest::addRow("%d bytes", size) << QByteArray(size, '\x01');
-    kavoNodePtr dead(kavoTestScene::makeGroup("Dead"));
-    const qint32 deadId = id(osg::NodePtr(dead));
-    dead = kavoNodePtr();
+    const qint32 deadId = idOfADestroyedNode();
     QTest::newRow("dead ids") << payload({ deadId, deadId });
     QTest::newRow("no nodes") << payload({ id(m_material), id(osg::NodePtr(m_light)->getCore()) });
     QTest::newRow("past the store") << payload({ 0x7FFFFFFF, -1 });

@@ -19,6 +19,7 @@ private slots:
     void aNodeIsNoMaterial();
     void theErrorNamesKeyAndTypesAndShowsTheCallStack();
     void aDerivedHandleIsAnotherType();
+    void aValueOfAnotherTypeLeavesTheResultUntouched();
 };
 
 void TestGetFromMessage::aMissingAttributeIsSilentlyFalse()
@@ -82,6 +83,17 @@ void TestGetFromMessage::aDerivedHandleIsAnotherType()
     message.set("material", osg::ChunkMaterialPtr());
     kavoConsoleCapture errors(kavoConsoleCapture::StandardError);
     QVERIFY(!getFromMessage(message, "material", material));
+}
+
+void TestGetFromMessage::aValueOfAnotherTypeLeavesTheResultUntouched()
+{
+    const kavoNodePtr kept(osg::Node::create());
+    osg::NodePtr node = kept;
+    kavoMessage message;
+    message.set("node", osg::MaterialPtr());
+    kavoConsoleCapture errors(kavoConsoleCapture::StandardError);
+    QVERIFY(!getFromMessage(message, "node", node));
+    QVERIFY(node == osg::NodePtr(kept));
 }
 
 KAVO_TEST_MAIN(TestGetFromMessage)
