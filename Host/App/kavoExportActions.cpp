@@ -90,8 +90,7 @@ void kavoExportActions::show(const kavoTableImport::Report &report)
 {
     QString text = report.summary();
     if (!report.unplacedRows.isEmpty())
-        text += '\n'
-            + tr("%n rows have no place in this scene.", nullptr, report.unplacedRows.size());
+        text += '\n' + tr("Rows without a place in this scene: %1").arg(report.unplacedRows.size());
     auto *box = new QMessageBox(
         QMessageBox::Information, tr("Import Table"), text, QMessageBox::Ok, m_window);
     box->setDetailedText(report.unplacedRows.join('\n'));

@@ -121,7 +121,8 @@ void kavoExportArguments::run(const osg::NodePtr &scene, const osg::NodePtr &par
     if (!m_exportFile.isEmpty())
         kavoTableExport(part, optionsFor(m_exportFile)).run(m_exportFile);
     if (unplaced > 0)
-        throw kavoTaskError(tr("%1 rows of '%2' have no place").arg(unplaced).arg(m_importFile));
+        throw kavoTaskError(
+            tr("Rows of '%1' without a place in the scene: %2").arg(m_importFile).arg(unplaced));
 }
 
 int kavoExportArguments::importTable(const osg::NodePtr &scene) const

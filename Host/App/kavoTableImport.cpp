@@ -58,7 +58,7 @@ bool setCell(const osg::NodePtr &node, const kavoTable::Column &column, const st
 
 QString kavoTableImport::Report::summary() const
 {
-    return tr("%1 values of %2 nodes changed").arg(changedValues).arg(changedNodes);
+    return tr("Changed values: %1, nodes: %2").arg(changedValues).arg(changedNodes);
 }
 
 kavoTableImport::Report kavoTableImport::run(

@@ -21,6 +21,10 @@ class TextBuffer;
 class ValuePairTable
 {
 public:
+    ValuePairTable() = default;
+    ValuePairTable(const ValuePairTable &) = delete;
+    ValuePairTable &operator=(const ValuePairTable &) = delete;
+
     void addName(const char *name);
 
     /// Cuts every column at the row, then appends to each the values that belong to its key: one

@@ -207,7 +207,7 @@ void tst_ExportActions::aTableIsImported()
     QVERIFY(
         kavoTestPairs::of(m_mast) == (std::vector<kavoTestPairs::Pair> { { "color", "blue" } }));
     auto *box = kavoTestHost::mainWindow().findChild<QMessageBox *>();
-    QCOMPARE(box->text(), QString("1 values of 1 nodes changed"));
+    QCOMPARE(box->text(), QString("Changed values: 1, nodes: 1"));
     box->close();
 }
 
@@ -217,7 +217,7 @@ void tst_ExportActions::rowsWithoutAPlaceAreShown()
     report.unplacedRows << "line 7: nowhere";
     m_actions->show(report);
     QPointer<QMessageBox> box = kavoTestHost::mainWindow().findChild<QMessageBox *>();
-    QVERIFY(box->text().contains("1 rows have no place in this scene."));
+    QVERIFY(box->text().contains("Rows without a place in this scene: 1"));
     QCOMPARE(box->detailedText(), QString("line 7: nowhere"));
     box->close();
     QTRY_VERIFY(!box);

@@ -108,7 +108,7 @@ void tst_TableImport::anEditedCellIsWrittenBack()
     QCOMPARE(report.changedValues, 1);
     QCOMPARE(report.changedNodes, 1);
     QCOMPARE(report.unplacedRows, QStringList());
-    QCOMPARE(report.summary(), QString("1 values of 1 nodes changed"));
+    QCOMPARE(report.summary(), QString("Changed values: 1, nodes: 1"));
 }
 
 void tst_TableImport::theChangeIsAnnounced()
