@@ -59,7 +59,7 @@ QtKavoColorPropertyManager::QtKavoColorPropertyManager(QObject *parent)
 
 QtKavoColorPropertyManager::~QtKavoColorPropertyManager()
 {
-    clear();
+    qDeleteAll(properties()); // clear() copies the set for every row in it
     delete d_ptr;
 }
 

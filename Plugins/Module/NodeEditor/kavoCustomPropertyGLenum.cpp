@@ -60,7 +60,7 @@ QtGLenumPropertyManager::QtGLenumPropertyManager(QObject *parent)
 
 QtGLenumPropertyManager::~QtGLenumPropertyManager()
 {
-    clear();
+    qDeleteAll(properties()); // clear() copies the set for every row in it
     delete d_ptr;
 }
 
