@@ -7,6 +7,8 @@
 #include <QWindow>
 
 #include <clocale>
+#include <fstream>
+#include <unistd.h>
 
 namespace {
 
@@ -36,6 +38,14 @@ void BenchHost::show(QWidget &widget)
 QTreeWidget &BenchHost::treeOf(const QWidget &browser)
 {
     return *browser.findChild<QTreeWidget *>();
+}
+
+double BenchHost::residentMemory()
+{
+    std::ifstream file("/proc/self/statm");
+    double size = 0, resident = 0;
+    file >> size >> resident;
+    return resident * double(sysconf(_SC_PAGESIZE)) / (1 << 20);
 }
 
 void BenchHost::settle()

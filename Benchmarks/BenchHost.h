@@ -16,6 +16,9 @@ void show(QWidget &widget);
 /// The tree inside a property browser.
 QTreeWidget &treeOf(const QWidget &browser);
 
+/// Memory of the process that is in RAM, in MiB.
+double residentMemory();
+
 /// Runs the event loop until nothing is left to do.
 void settle();
 

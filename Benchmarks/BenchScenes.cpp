@@ -38,14 +38,6 @@ osg::ChunkMaterialPtr makeMaterial()
     return material;
 }
 
-osg::NodePtr makeGroup(const char *name)
-{
-    const osg::NodePtr node = osg::Node::create();
-    node->setCore(osg::Group::create());
-    osg::setName(node, name);
-    return node;
-}
-
 void attach(const osg::NodePtr &node, const osg::AttachmentPtr &attachment, int binding)
 {
     osg::beginEditCP(node, osg::Node::AttachmentsFieldMask);
@@ -64,23 +56,43 @@ osg::TransformVariantListPtr makeVariants(int count)
     return variants;
 }
 
-osg::NodePtr makeTreeNode(int number)
+osg::NodePtr makeNode(const std::string &name, const osg::NodeCorePtr &core)
 {
     const osg::NodePtr node = osg::Node::create();
-    if (number % 2)
-        node->setCore(osg::Transform::create());
-    else
-        node->setCore(osg::Group::create());
-    osg::setName(node, ("Node " + std::to_string(number)).c_str());
+    node->setCore(core);
+    osg::setName(node, name);
     return node;
 }
 
-// Fills a group with up to 100 children; \returns how many nodes are still to be made.
-int fill(const osg::NodePtr &parent, int nodes)
+osg::NodePtr makeGroup(const char *name)
 {
-    for (int i = 0; i < 100 && nodes > 0; ++i)
-        parent->addChild(makeTreeNode(nodes--));
-    return nodes;
+    return makeNode(name, osg::Group::create());
+}
+
+// Moves what is below to a place within a cube of that size.
+osg::NodePtr makePlace(int number, osg::Real32 size)
+{
+    const osg::TransformPtr transform = osg::Transform::create();
+    const auto part = [&](int i) { return size * (osg::Real32(i % 10) / 10 - 0.5f); };
+    transform->getMatrix().setTranslate(part(number), part(number / 10), part(number / 3));
+    return makeNode("Place " + std::to_string(number), transform);
+}
+
+// Puts up to 100 pairs of nodes below a node; \returns the upper ones.
+std::vector<osg::NodePtr> addPlaces(
+    const osg::NodePtr &parent, int pairs, osg::Real32 size, bool hasGeometry)
+{
+    std::vector<osg::NodePtr> places;
+    const osg::NodeCorePtr box = osg::makeBoxGeo(0.02f, 0.02f, 0.02f, 1, 1, 1);
+    for (int i = 0; i < std::min(pairs, 100); ++i) {
+        places.push_back(makePlace(i, size));
+        parent->addChild(places.back());
+        if (hasGeometry)
+            places.back()->addChild(makeNode("Box", box));
+        else
+            places.back()->addChild(makeNode("Group", osg::Group::create()));
+    }
+    return places;
 }
 
 }
@@ -89,10 +101,7 @@ kavoNodePtr BenchScenes::makeTexturedNode()
 {
     const osg::GeometryPtr geometry = osg::makeBoxGeo(1, 1, 1, 1, 1, 1);
     geometry->setMaterial(makeMaterial());
-    const kavoNodePtr node(osg::Node::create());
-    node->setCore(geometry);
-    osg::setName(osg::NodePtr(node), "Textured box");
-    return node;
+    return makeNode("Textured box", geometry);
 }
 
 osg::AttachmentPtr BenchScenes::makeManyFields()
@@ -108,15 +117,16 @@ kavoNodePtr BenchScenes::makeNodeWithVariants(int count, int listLength)
     return node;
 }
 
-kavoNodePtr BenchScenes::makeTree(int nodes)
+kavoNodePtr BenchScenes::makeTree(int nodes, bool hasGeometry)
 {
     const kavoNodePtr root(makeGroup("Root"));
     std::vector<osg::NodePtr> level { root }, next;
-    for (nodes -= 1; nodes > 0; level.swap(next), next.clear()) {
-        for (const osg::NodePtr &parent : level) {
-            nodes = fill(parent, nodes);
-            for (osg::UInt32 i = 0; i < parent->getNChildren(); ++i)
-                next.push_back(parent->getChild(i));
+    osg::Real32 size = 10;
+    for (int pairs = nodes / 2; pairs > 0; level.swap(next), next.clear(), size /= 5) {
+        for (std::size_t i = 0; i < level.size() && pairs > 0; ++i) {
+            const auto places = addPlaces(level[i], pairs, size, hasGeometry);
+            next.insert(next.end(), places.begin(), places.end());
+            pairs -= int(places.size());
         }
     }
     return root;

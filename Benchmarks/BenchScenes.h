@@ -16,8 +16,8 @@ osg::AttachmentPtr makeManyFields();
 /// A node that carries as many transform variants, of three rows each, in lists of a given length.
 kavoNodePtr makeNodeWithVariants(int count, int listLength);
 
-/// A tree of that many nodes: groups of up to 100 children, three levels deep below the root. Not
-/// all of one kind, and all have a name.
-kavoNodePtr makeTree(int nodes);
+/// A tree of that many nodes with names: transforms with up to 100 transforms below them, each of
+/// which moves a group of its own or, with geometry, a box. A hundred siblings share their box.
+kavoNodePtr makeTree(int nodes, bool hasGeometry);
 
 }

@@ -2,8 +2,7 @@
 
 #include "BenchClock.h"
 #include "BenchHost.h"
-
-#include <QApplication>
+#include "BenchPaintWatch.h"
 
 namespace {
 
@@ -19,19 +18,6 @@ BenchSelection::Times medians(int rounds, Build build, Empty empty)
     }
     return { BenchClock::median(builds), BenchClock::median(empties) };
 }
-
-// Sees whether a viewport was painted.
-class PaintWatch : public QObject
-{
-public:
-    bool painted = false;
-
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        painted |= event->type() == QEvent::Paint;
-        return false;
-    }
-};
 
 }
 
@@ -68,19 +54,17 @@ BenchSelection::Times BenchSelection::floor(int rounds)
 
 double BenchSelection::untilPainted(const osg::FieldContainerPtr &container, int rounds)
 {
-    PaintWatch watch;
-    BenchHost::treeOf(m_editor).viewport()->installEventFilter(&watch);
+    BenchPaintWatch watch(*BenchHost::treeOf(m_editor).viewport());
     m_editor.raise();
     m_editor.setFC("node", container);
     BenchHost::settle();
     return BenchClock::medianOf(rounds, [&] {
+        watch.forget();
         const double time = BenchClock::wallTime([&] {
             m_editor.setFC("node", container);
-            while (!watch.painted)
-                QApplication::processEvents();
+            watch.waitForPaint();
         });
         BenchHost::settle();
-        watch.painted = false;
         return time;
     });
 }

@@ -1,0 +1,153 @@
+// The whole host with the editor plug-in: loading scenes, selecting and scrolling in large ones.
+
+#include "BenchClock.h"
+#include "BenchHost.h"
+#include "BenchPaintWatch.h"
+#include "BenchScenes.h"
+#include "BenchTable.h"
+
+#include <QKAVODockWindowManager.h>
+#include <kavoController.h>
+#include <kavoMainWindow.h>
+#include <kavoMessage.h>
+#include <kavoMessageIds.h>
+#include <kavoScenegraph.h>
+
+#include <OpenSG/OSGNode.h>
+
+#include <QScrollBar>
+#include <QTreeView>
+
+#include <cstdlib>
+#include <random>
+
+namespace {
+
+QWidget &window(kavoMainWindow &host, const char *key)
+{
+    return *host.docks().window(key);
+}
+
+void showScene(const kavoNodePtr &root)
+{
+    kavoScenegraph::setRoot(root);
+    kavoMessage loaded(kavoMessageIds::sceneLoaded);
+    kavoController::sendMessage(loaded);
+}
+
+void openModel(kavoMainWindow &host)
+{
+    BenchPaintWatch frames(window(host, "Viewport"));
+    bool isOpen = false;
+    QObject::connect(&host, &kavoMainWindow::opened, &frames, [&] {
+        isOpen = true;
+        frames.forget();
+    });
+    const double before = BenchHost::residentMemory();
+    const double time = BenchClock::wallTime([&] {
+        host.open({ KAVO_BENCH_MODEL });
+        while (!isOpen)
+            QCoreApplication::processEvents();
+        frames.waitForPaint();
+    });
+    BenchTable::figure("AC14-FZK-Haus.ifc: from opening to the first frame", time, "ms");
+    BenchTable::figure("AC14-FZK-Haus.ifc: memory", BenchHost::residentMemory() - before, "MiB");
+}
+
+void openLargeScene(kavoMainWindow &host)
+{
+    BenchPaintWatch frames(window(host, "Viewport"));
+    const double before = BenchHost::residentMemory();
+    kavoNodePtr root;
+    const double making = BenchClock::wallTime([&] { root = BenchScenes::makeTree(200000, true); });
+    BenchTable::figure("200,000 nodes, half of them boxes: make", making, "ms");
+    BenchTable::figure("200,000 nodes: memory", BenchHost::residentMemory() - before, "MiB");
+    BenchHost::settle();
+    frames.forget();
+    const double showing = BenchClock::wallTime([&] {
+        showScene(root);
+        frames.waitForPaint();
+    });
+    BenchTable::figure("200,000 nodes: from the open scene to the first frame", showing, "ms");
+    BenchTable::figure("200,000 nodes: memory, shown", BenchHost::residentMemory() - before, "MiB");
+}
+
+osg::NodePtr anyNode(std::mt19937 &random)
+{
+    osg::NodePtr node = kavoScenegraph::getRoot();
+    for (int depth = 0; depth < 2; ++depth)
+        node = node->getChild(osg::UInt32(random() % node->getNChildren()));
+    return node;
+}
+
+void select(const osg::NodePtr &node)
+{
+    kavoScenegraph::setSelectedNode(node);
+    BenchHost::settle();
+}
+
+void selecting()
+{
+    std::mt19937 random(1);
+    const double one = BenchClock::medianOf(
+        101, [&] { return BenchClock::wallTime([&] { select(anyNode(random)); }); });
+    const double many = BenchClock::medianOf(11, [&] {
+        return BenchClock::wallTime([&] {
+            for (int i = 0; i < 1000; ++i)
+                kavoScenegraph::setSelectedNode(anyNode(random));
+            BenchHost::settle();
+        });
+    });
+    BenchTable::below("100,000 nodes: select one, all windows follow", one, 16.7, "ms");
+    BenchTable::atMost(
+        "100,000 nodes: 1,000 selections in one round, as against one", many, one, 2, "ms");
+}
+
+void scrolling(kavoMainWindow &host)
+{
+    auto &tree = *window(host, "Scene").findChild<QTreeView *>();
+    tree.expandToDepth(1);
+    BenchHost::settle();
+    BenchPaintWatch frames(*tree.viewport());
+    QScrollBar &bar = *tree.verticalScrollBar();
+    std::mt19937 random(1);
+    const double time = BenchClock::medianOf(101, [&] {
+        frames.forget();
+        return BenchClock::wallTime([&] {
+            const int step = 1 + int(random() % unsigned(bar.maximum())); // never to the same place
+            bar.setValue((bar.value() + step) % (bar.maximum() + 1));
+            frames.waitForPaint();
+        });
+    });
+    BenchTable::below("100,000 nodes: scroll the Scene window, a frame", time, 16.7, "ms");
+}
+
+void openLevels(kavoMainWindow &host)
+{
+    auto &tree = *window(host, "Scene").findChild<QTreeView *>();
+    const double time = BenchClock::wallTime([&] {
+        tree.expandAll();
+        BenchHost::settle();
+    });
+    BenchTable::figure("100,000 nodes: open all rows of the Scene window", time, "ms");
+}
+
+}
+
+int main(int argc, char **argv)
+{
+    BenchHost::start(argc, argv);
+    auto *host = new kavoMainWindow;
+    host->loadPlugins({});
+    BenchHost::show(*host);
+    host->resize(1280, 800);
+    openModel(*host);
+    openLargeScene(*host);
+    showScene(BenchScenes::makeTree(100000, false));
+    BenchHost::settle();
+    host->docks().show("Node Editor");
+    selecting();
+    scrolling(*host);
+    openLevels(*host);
+    std::quick_exit(0); // modules print a line when they die
+}
