@@ -25,9 +25,9 @@ TransformVariantList::TransformVariantList() = default;
 
 TransformVariantList::TransformVariantList(const TransformVariantList &source)
     : Inherited(source)
+    , _mfVariants(source._mfVariants)
 {
-    for (const TransformVariantPtr &variant : source._mfVariants)
-        addVariant(variant);
+    holdVariants();
 }
 
 TransformVariantList::~TransformVariantList()
@@ -39,13 +39,30 @@ void TransformVariantList::addVariant(const TransformVariantPtr &variant)
 {
     addRefCP(variant);
     _mfVariants.push_back(variant);
+    _held.push_back(variant);
 }
 
 void TransformVariantList::clearVariants()
 {
-    for (const TransformVariantPtr &variant : _mfVariants)
-        subRefCP(variant);
     _mfVariants.clear();
+    holdVariants();
+}
+
+void TransformVariantList::changed(BitVector which, UInt32 origin)
+{
+    if (which & VariantsFieldMask)
+        holdVariants();
+    Inherited::changed(which, origin);
+}
+
+// The new references come first: what stays in the list must not be destroyed in between.
+void TransformVariantList::holdVariants()
+{
+    for (const TransformVariantPtr &variant : _mfVariants)
+        addRefCP(variant);
+    for (const TransformVariantPtr &variant : _held)
+        subRefCP(variant);
+    _held.assign(_mfVariants.begin(), _mfVariants.end());
 }
 
 void TransformVariantList::dump(UInt32, const BitVector) const

@@ -5,13 +5,15 @@
 
 #include <OpenSG/OSGAttachment.h>
 
+#include <vector>
+
 OSG_BEGIN_NAMESPACE
 
 class TransformVariantList;
 typedef FCPtr<AttachmentPtr, TransformVariantList> TransformVariantListPtr;
 
 /// Attachment that holds the transform variants of a node, null elements included. It keeps a
-/// reference to each; add and remove elements through addVariant and clearVariants only.
+/// reference to each: from addVariant on, or from the end of an edit of the field.
 class KAVO_SDK_EXPORT TransformVariantList : public Attachment
 {
     typedef Attachment Inherited;
@@ -29,6 +31,7 @@ public:
     void addVariant(const TransformVariantPtr &variant);
     void clearVariants();
 
+    void changed(BitVector which, UInt32 origin) override;
     void dump(UInt32 indent = 0, const BitVector flags = 0) const override;
 
 protected:
@@ -47,6 +50,9 @@ private:
     static FieldContainerType _type;
 
     void operator=(const TransformVariantList &) = delete;
+    void holdVariants();
+
+    std::vector<TransformVariantPtr> _held;
 };
 
 OSG_FIELD_CONTAINER_INL_DEF(TransformVariantList, TransformVariantListPtr)

@@ -30,6 +30,7 @@ private slots:
     void anAnimationListsNodesWithoutReferences();
     void aVariantListIsAFieldOfItsOwnType();
     void aVariantListHoldsReferences();
+    void anEditOfAVariantListTakesReferencesToo();
     void aVariantListMayHoldNulls();
     void aCopiedVariantListSharesItsVariants();
     void aVariantHasLabelAndMatrix();
@@ -185,6 +186,20 @@ void tst_HostContainers::aVariantListHoldsReferences()
     const osg::UInt32 id = variant.getFieldContainerId();
     list->addVariant(variant);
     QCOMPARE(variant.getRefCount(), 1);
+    osg::subRefCP(list);
+    QVERIFY(osg::FieldContainerFactory::the()->getContainer(id) == osg::NullFC);
+}
+
+void tst_HostContainers::anEditOfAVariantListTakesReferencesToo()
+{
+    const osg::TransformVariantPtr variant = osg::TransformVariant::create();
+    const osg::TransformVariantListPtr list = osg::TransformVariantList::create();
+    osg::addRefCP(list);
+    list->addVariant(variant);
+    list->getMFVariants()->push_back(variant);
+    osg::endEditCP(list, osg::TransformVariantList::VariantsFieldMask);
+    QCOMPARE(variant.getRefCount(), 2);
+    const osg::UInt32 id = variant.getFieldContainerId();
     osg::subRefCP(list);
     QVERIFY(osg::FieldContainerFactory::the()->getContainer(id) == osg::NullFC);
 }
