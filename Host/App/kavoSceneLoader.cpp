@@ -4,6 +4,8 @@
 #include "kavoSceneBuilder.h"
 #include "kavoSceneCameras.h"
 #include "kavoSceneImporter.h"
+#include "kavoSceneReader.h"
+#include "kavoTaskError.h"
 
 #include <kavoLog.h>
 
@@ -40,9 +42,12 @@ kavoSceneLoader::~kavoSceneLoader() = default;
 void kavoSceneLoader::load(const QStringList &files)
 {
     cancel();
-    m_files = files;
-    if (!files.isEmpty())
+    for (const QString &file : files)
+        (kavoSceneReader::canRead(file) ? m_sceneFiles : m_files) << file;
+    if (!m_files.isEmpty())
         importNext();
+    else if (!m_sceneFiles.isEmpty())
+        build();
 }
 
 void kavoSceneLoader::cancel()
@@ -56,7 +61,7 @@ void kavoSceneLoader::cancel()
 
 bool kavoSceneLoader::isLoading() const
 {
-    return !m_files.isEmpty();
+    return !m_files.isEmpty() || !m_sceneFiles.isEmpty();
 }
 
 void kavoSceneLoader::importNext()
@@ -91,11 +96,31 @@ void kavoSceneLoader::build()
 
 void kavoSceneLoader::conclude()
 {
-    const kavoNodePtr root = m_builder->root();
-    kavoSceneCameras::set(m_builder->cameras());
+    m_cameras = m_builder->cameras();
+    kavoNodePtr root = m_builder->root();
+    for (const QString &file : QStringList(m_sceneFiles)) {
+        try {
+            root = withSceneFile(root, file);
+        } catch (const kavoTaskError &error) {
+            return fail(file, error.message());
+        }
+    }
+    kavoSceneCameras::set(m_cameras);
     reset();
     emit progress(100, QString());
     emit loaded(root);
+}
+
+// Below what was built of other files; a scene file on its own is the scene.
+kavoNodePtr kavoSceneLoader::withSceneFile(const kavoNodePtr &root, const QString &file)
+{
+    emit progress(parsingShare, tr("Reading %1").arg(baseName(file)));
+    const kavoSceneReader::Scene scene = kavoSceneReader::read(file);
+    m_cameras.insert(m_cameras.end(), scene.cameras.begin(), scene.cameras.end());
+    if (m_files.isEmpty() && m_sceneFiles.size() == 1)
+        return scene.root;
+    root->addChild(osg::NodePtr(scene.root));
+    return root;
 }
 
 void kavoSceneLoader::fail(const QString &file, const QString &reason)
@@ -107,6 +132,8 @@ void kavoSceneLoader::fail(const QString &file, const QString &reason)
 void kavoSceneLoader::reset()
 {
     m_files.clear();
+    m_sceneFiles.clear();
+    m_cameras.clear();
     m_imported.clear();
     if (m_builder) { // perhaps in the midst of a signal
         m_builder->disconnect(this);

@@ -1,5 +1,9 @@
 #pragma once
 
+#include "kavoSavedCameras.h"
+
+#include <kavoNodePtr.h>
+
 #include <OpenSG/OSGNode.h>
 
 #include <QObject>
@@ -14,7 +18,8 @@ struct kavoImportedScene;
 Q_DECLARE_METATYPE(osg::NodePtr)
 
 /// Loads scene files in the background: parses them one by one on a worker thread, then builds one
-/// scene of all of them in slices on the GUI thread.
+/// scene of all of them in slices on the GUI thread. OpenSG's own files are read on the GUI thread
+/// at the end, since only that may make containers; the one file loaded is then the scene itself.
 class kavoSceneLoader : public QObject
 {
     Q_OBJECT
@@ -50,10 +55,13 @@ private:
     void addFile(const std::shared_ptr<kavoImportedScene> &file);
     void build();
     void conclude();
+    kavoNodePtr withSceneFile(const kavoNodePtr &root, const QString &file);
     void fail(const QString &file, const QString &reason);
     void reset();
 
-    QStringList m_files;
+    QStringList m_files; ///< to be parsed and built
+    QStringList m_sceneFiles; ///< of OpenSG
+    kavoSavedCameras::List m_cameras;
     std::vector<std::shared_ptr<kavoImportedScene>> m_imported;
     kavoSceneImporter *m_importer;
     std::unique_ptr<kavoSceneBuilder> m_builder;

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "kavoContainerRef.h"
+
+#include <OpenSG/OSGAttachment.h>
+#include <OpenSG/OSGCamera.h>
+#include <OpenSG/OSGNode.h>
+
+#include <vector>
+
+/// Cameras on their way through a scene file. No node holds a camera, so in files they hang on the
+/// root, as the containers of an FCPtrAttributeMap.
+class kavoSavedCameras
+{
+public:
+    using List = std::vector<kavoContainerRef<osg::CameraPtr>>;
+
+    /// Hangs the cameras of the open scene on a root, for as long as this lives.
+    explicit kavoSavedCameras(const osg::NodePtr &root);
+    ~kavoSavedCameras();
+    kavoSavedCameras(const kavoSavedCameras &) = delete;
+    kavoSavedCameras &operator=(const kavoSavedCameras &) = delete;
+
+    /// Takes from a root what was hung on it.
+    static List take(const osg::NodePtr &root);
+
+private:
+    osg::NodePtr m_root;
+};

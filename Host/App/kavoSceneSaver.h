@@ -1,0 +1,20 @@
+#pragma once
+
+#include <OpenSG/OSGNodePtr.h>
+
+#include <QString>
+
+/// Saves scenes in OpenSG's ASCII format, with what is in them and the cameras of the open scene.
+/// GUI thread.
+class kavoSceneSaver
+{
+public:
+    /// The suffix of files that can be saved, without the dot.
+    static QString suffix();
+    static bool canSave(const QString &file);
+
+    /// The file is there as a whole or as it was before. What the format cannot express is in the
+    /// log.
+    /// \throws kavoTaskError
+    static void save(const osg::NodePtr &root, const QString &file);
+};
