@@ -8,6 +8,7 @@ namespace {
 
 const QString selectOption = QStringLiteral("select");
 const QString pluginsOption = QStringLiteral("plugins");
+const QString saveOption = QStringLiteral("save");
 const QString screenshotOption = QStringLiteral("screenshot");
 const QString printWindowOption = QStringLiteral("print-window");
 const QString printFieldOption = QStringLiteral("print-field");
@@ -24,6 +25,8 @@ QList<QCommandLineOption> options()
             tr("NAME-or-ID") },
         { pluginsOption, tr("Load the plug-ins of this folder too. May be given several times."),
             tr("DIR") },
+        { saveOption, tr("Save the scene in this file, whose name ends in .osg, then exit."),
+            tr("FILE") },
         { screenshotOption, tr("Write a picture of the main window to this file, then exit."),
             tr("FILE") },
         { printWindowOption,
@@ -60,8 +63,8 @@ QString kavoCommandLine::error() const
 
 QString kavoCommandLine::missingValue() const
 {
-    for (const QString &option :
-        { selectOption, pluginsOption, screenshotOption, printWindowOption, printFieldOption }) {
+    for (const QString &option : { selectOption, pluginsOption, saveOption, screenshotOption,
+             printWindowOption, printFieldOption }) {
         if (m_parser.isSet(option) && m_parser.values(option).contains(QString()))
             return tr("The value of --%1 is empty.").arg(option);
     }
@@ -80,8 +83,8 @@ bool kavoCommandLine::wantsVersion() const
 
 bool kavoCommandLine::isJob() const
 {
-    return m_parser.isSet(screenshotOption) || m_parser.isSet(printWindowOption)
-        || exports().areJobs();
+    return m_parser.isSet(saveOption) || m_parser.isSet(screenshotOption)
+        || m_parser.isSet(printWindowOption) || exports().areJobs();
 }
 
 QString kavoCommandLine::helpText() const
@@ -107,6 +110,11 @@ QStringList kavoCommandLine::pluginFolders() const
 QString kavoCommandLine::screenshotFile() const
 {
     return m_parser.value(screenshotOption);
+}
+
+QString kavoCommandLine::fileToSave() const
+{
+    return m_parser.value(saveOption);
 }
 
 QString kavoCommandLine::windowToPrint() const

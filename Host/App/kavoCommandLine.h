@@ -8,7 +8,7 @@ class kavoExportArguments;
 
 /// What the user asked for on the command line.
 ///
-/// A command line with a job (--screenshot, --print-window) runs it and ends; without one the
+/// A command line with a job (--screenshot, --export-table, ...) runs it and ends; without one the
 /// application stays open.
 class kavoCommandLine
 {
@@ -32,6 +32,8 @@ public:
     /// Plug-in folders besides the default one.
     QStringList pluginFolders() const;
     QString screenshotFile() const;
+    /// Where to save the scene.
+    QString fileToSave() const;
     /// Key of the dock window to print.
     QString windowToPrint() const;
     /// Field to print when the application ends, as kavoFieldPrinter takes it.

@@ -1,5 +1,6 @@
 #include "kavoJobs.h"
 
+#include "kavoDocument.h"
 #include "kavoExportArguments.h"
 #include "kavoMainWindow.h"
 #include "kavoTaskError.h"
@@ -54,6 +55,8 @@ void kavoJobs::run()
             throw kavoTaskError(tr("The scene has no node named or numbered '%1'").arg(node));
         settle();
         exportValuePairs();
+        if (!m_commandLine.fileToSave().isEmpty())
+            m_window.document().save(m_commandLine.fileToSave());
         if (!m_commandLine.windowToPrint().isEmpty())
             printWindow(m_commandLine.windowToPrint());
         if (!m_commandLine.screenshotFile().isEmpty())

@@ -1,11 +1,13 @@
 #include "kavoMainWindow.h"
 
 #include "kavoChangeMonitor.h"
+#include "kavoDocument.h"
 #include "kavoExportActions.h"
 #include "kavoLoadProgress.h"
 #include "kavoLogView.h"
 #include "kavoNodeFinder.h"
 #include "kavoRecentFiles.h"
+#include "kavoSaveActions.h"
 #include "kavoSceneLoader.h"
 #include "kavoSceneViews.h"
 
@@ -60,11 +62,12 @@ kavoMainWindow::kavoMainWindow(QWidget *parent)
     , m_docks(new QKAVODockWindowManager(this))
     , m_loader(new kavoSceneLoader(this))
     , m_changes(new kavoChangeMonitor(this))
+    , m_document(new kavoDocument(*m_changes, this))
     , m_views(new kavoSceneViews(*m_changes, this))
 {
     kavoController::setMainWindow(this);
     kavoController::setDockWindowManager(m_docks);
-    setWindowTitle(QApplication::applicationDisplayName());
+    showTitle();
     setAcceptDrops(true);
     resize(1280, 800);
     createFileMenu();
@@ -133,6 +136,10 @@ void kavoMainWindow::reportError(const QString &message)
 
 void kavoMainWindow::closeEvent(QCloseEvent *event)
 {
+    if (!m_saving->mayClose()) {
+        event->ignore();
+        return;
+    }
     if (m_usesSettings)
         saveSettings();
     // Windows that float on their own would keep the application running.
@@ -149,7 +156,7 @@ void kavoMainWindow::dragEnterEvent(QDragEnterEvent *event)
 void kavoMainWindow::dropEvent(QDropEvent *event)
 {
     event->acceptProposedAction();
-    open(localFiles(event->mimeData()));
+    openInstead(localFiles(event->mimeData()));
 }
 
 void kavoMainWindow::createDockWindows()
@@ -167,8 +174,13 @@ void kavoMainWindow::createFileMenu()
         &kavoMainWindow::askForFiles, QKeySequence::Open);
     m_recentFiles = new kavoRecentFiles(this);
     connect(m_recentFiles, &kavoRecentFiles::chosen, this,
-        [this](const QString &file) { open({ file }); });
+        [this](const QString &file) { openInstead({ file }); });
     menu->addMenu(m_recentFiles);
+    menu->addSeparator();
+    m_saving = new kavoSaveActions(*m_document, this, menu);
+    connect(m_saving, &kavoSaveActions::failed, this, &kavoMainWindow::reportError);
+    connect(m_saving, &kavoSaveActions::saved, this, &kavoMainWindow::rememberFile);
+    connect(m_document, &kavoDocument::changed, this, &kavoMainWindow::showTitle);
     menu->addSeparator();
     auto *exports = new kavoExportActions(this, menu);
     connect(exports, &kavoExportActions::failed, this, &kavoMainWindow::reportError);
@@ -253,7 +265,27 @@ void kavoMainWindow::askForFiles()
     if (files.isEmpty())
         return;
     settings.setValue(folderKey, QFileInfo(files.first()).absolutePath());
-    open(files);
+    openInstead(files);
+}
+
+void kavoMainWindow::openInstead(const QStringList &files)
+{
+    if (m_saving->mayClose())
+        open(files);
+}
+
+void kavoMainWindow::rememberFile(const QString &file)
+{
+    if (m_usesSettings)
+        m_recentFiles->add(file);
+}
+
+void kavoMainWindow::showTitle()
+{
+    const QString title = m_document->title();
+    setWindowTitle(
+        (title.isEmpty() ? QApplication::applicationDisplayName() : title) + QStringLiteral("[*]"));
+    setWindowModified(m_document->isModified());
 }
 
 void kavoMainWindow::showScene(const osg::NodePtr &root)
@@ -262,11 +294,9 @@ void kavoMainWindow::showScene(const osg::NodePtr &root)
     closeScene();
     kavoScenegraph::setRoot(root);
     send(kavoMessageIds::sceneLoaded);
-    setWindowTitle(QFileInfo(m_files.join(QStringLiteral(", "))).fileName());
-    if (m_usesSettings) {
-        for (const QString &file : qAsConst(m_files))
-            m_recentFiles->add(file);
-    }
+    m_document->setFiles(m_files);
+    for (const QString &file : qAsConst(m_files))
+        rememberFile(file);
     emit opened();
 }
 

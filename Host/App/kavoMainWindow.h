@@ -11,8 +11,10 @@ class QAction;
 class QKAVODockWindowManager;
 class QMenu;
 class kavoChangeMonitor;
+class kavoDocument;
 class kavoLoadProgress;
 class kavoRecentFiles;
+class kavoSaveActions;
 class kavoSceneLoader;
 class kavoSceneViews;
 
@@ -28,6 +30,7 @@ public:
     explicit kavoMainWindow(QWidget *parent = nullptr);
 
     QKAVODockWindowManager &docks() const { return *m_docks; }
+    kavoDocument &document() const { return *m_document; }
 
     /// Loads the default plug-in folder, if there is one, and the given ones.
     void loadPlugins(const QStringList &extraFolders);
@@ -68,6 +71,9 @@ private:
     void driveModules();
 
     void askForFiles();
+    void openInstead(const QStringList &files);
+    void rememberFile(const QString &file);
+    void showTitle();
     void closeScene();
     void showScene(const osg::NodePtr &root);
     void selectParent();
@@ -79,9 +85,11 @@ private:
     QKAVODockWindowManager *m_docks;
     kavoSceneLoader *m_loader;
     kavoChangeMonitor *m_changes;
+    kavoDocument *m_document;
     kavoSceneViews *m_views;
     kavoLoadProgress *m_progress = nullptr;
     kavoRecentFiles *m_recentFiles = nullptr;
+    kavoSaveActions *m_saving = nullptr;
     QMenu *m_viewMenu = nullptr;
     kavoPluginLoader m_plugins;
     QStringList m_files;

@@ -19,6 +19,7 @@ private slots:
     void theNodeEditorIsPrintedForTheSelectedNode();
     void aNodeCanBeSelectedByItsId();
     void aScreenshotIsWritten();
+    void theSceneIsSavedAndOpensAgain();
     void severalScenesOpenAsOne();
     void badPluginsAreReportedAndSkipped();
     void jobsNeedNoDisplay();
@@ -99,6 +100,10 @@ void tst_kavo::aFailedJobExitsWithOneAndSaysWhy_data()
                              << "The window 'Log' has no rows";
     QTest::newRow("no place for a picture")
         << QStringList { "--screenshot", "/no/such/folder/a.png" } << "/no/such/folder/a.png";
+    QTest::newRow("no place for the scene")
+        << QStringList { truck, "--save", "/no/such/folder/a.osg" } << "/no/such/folder/a.osg";
+    QTest::newRow("nothing to save")
+        << QStringList { "--save", "a.osg" } << "There is no scene to save";
 }
 
 void tst_kavo::aFailedJobExitsWithOneAndSaysWhy()
@@ -143,6 +148,18 @@ void tst_kavo::aScreenshotIsWritten()
     QCOMPARE(run({ truck, "--screenshot", file }).exitCode, 0);
     const QImage picture(file);
     QVERIFY(picture.width() >= 800 && picture.height() >= 600);
+}
+
+void tst_kavo::theSceneIsSavedAndOpensAgain()
+{
+    const QString box = QStringLiteral(KAVO_TEST_MODELS "/glTF/BoxTextured-glTF/BoxTextured.gltf");
+    const QString file = m_folder.filePath("box.osg");
+    const Result saved = run({ box, "--save", file });
+    QVERIFY2(saved.exitCode == 0, qPrintable(saved.errors));
+    const QRegularExpression id("\\t\\d+\\n");
+    const QString scene = run({ box, "--print-window", "Scene" }).output.replace(id, "\n");
+    QVERIFY(!scene.isEmpty());
+    QCOMPARE(run({ file, "--print-window", "Scene" }).output.replace(id, "\n"), scene);
 }
 
 void tst_kavo::severalScenesOpenAsOne()

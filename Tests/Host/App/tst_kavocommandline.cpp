@@ -35,12 +35,13 @@ void tst_kavoCommandLine::nothingAsksForNothing()
 void tst_kavoCommandLine::everyOptionIsRead()
 {
     const kavoCommandLine commandLine(arguments({ "a.gltf", "--select", "Wheel", "--plugins", "p",
-        "--screenshot", "s.png", "--print-window", "Node Editor" }));
+        "--screenshot", "s.png", "--print-window", "Node Editor", "--save", "s.osg" }));
     QVERIFY(commandLine.error().isEmpty());
     QCOMPARE(commandLine.sceneFiles(), QStringList { "a.gltf" });
     QCOMPARE(commandLine.nodeToSelect(), QStringLiteral("Wheel"));
     QCOMPARE(commandLine.pluginFolders(), QStringList { "p" });
     QCOMPARE(commandLine.screenshotFile(), QStringLiteral("s.png"));
+    QCOMPARE(commandLine.fileToSave(), QStringLiteral("s.osg"));
     QCOMPARE(commandLine.windowToPrint(), QStringLiteral("Node Editor"));
 }
 
@@ -55,6 +56,7 @@ void tst_kavoCommandLine::scenesAndFoldersMayBeSeveral()
 void tst_kavoCommandLine::aPictureOrAPrintedWindowIsAJob()
 {
     QVERIFY(kavoCommandLine(arguments({ "--screenshot", "s.png" })).isJob());
+    QVERIFY(kavoCommandLine(arguments({ "--save", "s.osg" })).isJob());
     QVERIFY(kavoCommandLine(arguments({ "--print-window", "Log" })).isJob());
     QVERIFY(!kavoCommandLine(arguments({ "a.gltf", "--select", "Wheel" })).isJob());
 }

@@ -2,6 +2,7 @@
 
 #include <QKAVODockWindowManager.h>
 #include <kavoController.h>
+#include <kavoDocument.h>
 #include <kavoMainWindow.h>
 #include <kavoMessage.h>
 #include <kavoMessageIds.h>
@@ -95,6 +96,7 @@ void tst_kavoMainWindow::init()
 {
     kavoScenegraph::setRoot(kavoTestScene::makeTruck());
     kavoScenegraph::setSelectedNode(osg::NullFC);
+    m_window->document().setFiles({});
 }
 
 QAction *tst_kavoMainWindow::action(const QString &text) const
@@ -166,6 +168,7 @@ void tst_kavoMainWindow::cancelingALoadKeepsTheScene()
 
 void tst_kavoMainWindow::droppedFilesAreOpened()
 {
+    QVERIFY(open(kavoTestLoad::model(truck))); // a scene without changes, so nothing is asked
     QMimeData data;
     data.setUrls({ QUrl::fromLocalFile(kavoTestLoad::model(truck)) });
     QDragEnterEvent enter({ 5, 5 }, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "kavoSceneEdits.h"
+
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+class kavoChangeMonitor;
+
+/// The open scene as a document: the file that it is saved in, and whether it has changed since.
+class kavoDocument : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit kavoDocument(kavoChangeMonitor &changes, QObject *parent = nullptr);
+
+    /// Another scene is open, which came of these files.
+    void setFiles(const QStringList &files);
+
+    /// Where it is saved; empty as long as it is not: files of other formats are never written to.
+    QString file() const { return m_file; }
+    /// What to call it: the names of its files.
+    QString title() const;
+    /// A name for the file to save it in.
+    QString suggestedFile() const;
+    bool isModified() const { return m_isModified; }
+
+    /// \throws kavoTaskError; then everything is as before
+    void save(const QString &file);
+
+signals:
+    /// Title, file or modification.
+    void changed();
+
+private:
+    void setModified(bool isModified);
+
+    kavoChangeMonitor &m_changes;
+    kavoSceneEdits m_edits;
+    QStringList m_files;
+    QString m_file;
+    bool m_isModified = false;
+};

@@ -1,0 +1,186 @@
+#include <kavoDocument.h>
+#include <kavoMainWindow.h>
+#include <kavoScenegraph.h>
+#include <kavoTestHost.h>
+
+#include <OpenSG/OSGSimpleAttachments.h>
+
+#include <QDropEvent>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QtTest>
+
+// Saving by keys and dialogs of the main window.
+class tst_saveactions : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+
+    void theTitleMarksUnsavedChanges();
+    void ctrlSSavesAnOpenedSceneFile();
+    void saveAsAsksForTheFileAndAddsTheSuffix();
+    void quittingWithoutChangesAsksNothing();
+    void quittingAsksAboutUnsavedChanges_data();
+    void quittingAsksAboutUnsavedChanges();
+    void openingAnotherSceneAsksToo();
+    void aSaveThatFailsIsShownAndKeepsTheWindow();
+    void cleanupTestCase();
+
+private:
+    void edit();
+    QByteArray saved() const;
+    void answerNextQuestion(QMessageBox::StandardButton button);
+
+    kavoMainWindow *m_window = nullptr;
+    std::unique_ptr<QTemporaryDir> m_folder;
+    QString m_file, m_question;
+};
+
+void tst_saveactions::initTestCase()
+{
+    static auto *const window = new kavoMainWindow;
+    m_window = window;
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window));
+}
+
+void tst_saveactions::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    m_file = m_folder->filePath("ship.osg");
+    QFile file(m_file);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("DEF Ship Node { }");
+    file.close();
+    QSignalSpy opened(m_window, &kavoMainWindow::opened);
+    m_window->open({ m_file });
+    QVERIFY(opened.wait());
+    m_window->show();
+}
+
+void tst_saveactions::edit()
+{
+    const osg::NodePtr root = kavoScenegraph::getRoot();
+    osg::setName(root, "Boat");
+    QTRY_VERIFY(m_window->isWindowModified());
+}
+
+QByteArray tst_saveactions::saved() const
+{
+    QFile file(m_file);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void tst_saveactions::answerNextQuestion(QMessageBox::StandardButton button)
+{
+    m_question.clear();
+    QTimer::singleShot(200, this, [this, button] {
+        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        QVERIFY(box);
+        m_question = box->text();
+        QTest::mouseClick(static_cast<QWidget *>(box->button(button)), Qt::LeftButton);
+    });
+}
+
+void tst_saveactions::theTitleMarksUnsavedChanges()
+{
+    QTest::qWait(50);
+    QVERIFY(!m_window->isWindowModified());
+    QCOMPARE(m_window->windowTitle(), QStringLiteral("ship.osg[*]"));
+    edit();
+}
+
+void tst_saveactions::ctrlSSavesAnOpenedSceneFile()
+{
+    edit();
+    QTest::keyClick(m_window, Qt::Key_S, Qt::ControlModifier);
+    QVERIFY(!m_window->isWindowModified());
+    QVERIFY(saved().contains("name \"Boat\""));
+}
+
+void tst_saveactions::saveAsAsksForTheFileAndAddsTheSuffix()
+{
+    edit();
+    QTimer::singleShot(300, this, [this] {
+        auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+        QVERIFY(dialog);
+        auto *name = dialog->findChild<QLineEdit *>();
+        name->setText(m_folder->filePath("copy"));
+        QTest::keyClick(name, Qt::Key_Return);
+    });
+    QTest::keyClick(m_window, Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(m_window->document().file(), m_folder->filePath("copy.osg"));
+    QVERIFY(QFile::exists(m_folder->filePath("copy.osg")));
+    QVERIFY(saved().contains("DEF Ship"));
+}
+
+void tst_saveactions::quittingWithoutChangesAsksNothing()
+{
+    QTest::qWait(50);
+    QVERIFY(m_window->close());
+}
+
+void tst_saveactions::quittingAsksAboutUnsavedChanges_data()
+{
+    QTest::addColumn<int>("button");
+    QTest::addColumn<bool>("closes");
+    QTest::addColumn<bool>("saves");
+    QTest::newRow("save") << int(QMessageBox::Save) << true << true;
+    QTest::newRow("discard") << int(QMessageBox::Discard) << true << false;
+    QTest::newRow("cancel") << int(QMessageBox::Cancel) << false << false;
+}
+
+void tst_saveactions::quittingAsksAboutUnsavedChanges()
+{
+    QFETCH(int, button);
+    QFETCH(bool, saves);
+    edit();
+    answerNextQuestion(QMessageBox::StandardButton(button));
+    QTEST(m_window->close(), "closes");
+    QCOMPARE(saved().contains("Boat"), saves);
+}
+
+void tst_saveactions::openingAnotherSceneAsksToo()
+{
+    edit();
+    answerNextQuestion(QMessageBox::Cancel);
+    QMimeData data;
+    data.setUrls({ QUrl::fromLocalFile(m_file) });
+    QDragEnterEvent enter({ 5, 5 }, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(m_window, &enter);
+    QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(m_window, &drop);
+    QCOMPARE(m_question, QStringLiteral("'ship.osg' has changes that are not saved."));
+    QVERIFY(m_window->isWindowModified());
+}
+
+void tst_saveactions::aSaveThatFailsIsShownAndKeepsTheWindow()
+{
+    edit();
+    QVERIFY(m_folder->remove());
+    answerNextQuestion(QMessageBox::Save);
+    QVERIFY(!m_window->close());
+    QVERIFY(m_window->isWindowModified());
+    const auto boxes = m_window->findChildren<QMessageBox *>();
+    QCOMPARE(boxes.size(), 1);
+    QVERIFY(boxes.first()->text().contains(m_file));
+    delete boxes.first();
+}
+
+void tst_saveactions::cleanupTestCase()
+{
+    m_window->shutDown();
+}
+
+KAVO_TEST_MAIN(tst_saveactions)
+#include "tst_saveactions.moc"
