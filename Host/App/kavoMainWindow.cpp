@@ -117,6 +117,7 @@ void kavoMainWindow::shutDown()
     m_loader->cancel();
     m_docks->hideAll();
     hide();
+    m_views->closeViewport();
     closeScene();
 }
 

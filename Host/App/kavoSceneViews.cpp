@@ -33,7 +33,7 @@ kavoSceneViews::kavoSceneViews(kavoChangeMonitor &monitor, QWidget *parent)
     , m_cameras(new kavoCameraView(m_events, monitor, parent))
 {
     connect(&m_index, &kavoSceneIndex::structureChanged, this, announceStructure);
-    if (auto *viewport = qobject_cast<kavoViewport *>(m_viewport))
+    if (auto *viewport = qobject_cast<kavoViewport *>(m_viewport.data()))
         connect(m_cameras, &kavoCameraView::activeCameraChanged, viewport,
             &kavoViewport::lookThroughActiveCamera);
 }
@@ -59,4 +59,9 @@ void kavoSceneViews::dock(QKAVODockWindowManager &docks)
         docks.add(row.key, QStringLiteral("Scene"), row.window,
             QStringLiteral("Hintcard_%1").arg(row.key), kavoIconManager::getIcon(row.icon),
             row.title, Qt::LeftDockWidgetArea, true, nullptr);
+}
+
+void kavoSceneViews::closeViewport()
+{
+    delete m_viewport;
 }

@@ -4,6 +4,7 @@
 #include "kavoSceneIndex.h"
 
 #include <QObject>
+#include <QPointer>
 
 class QKAVODockWindowManager;
 class QWidget;
@@ -28,6 +29,8 @@ public:
     /// "Scene", "Materials", "Lights" and "Cameras". The viewport is in the middle if it comes
     /// before all other windows of the host.
     void dock(QKAVODockWindowManager &docks);
+    /// Deletes the viewport, which must not outlive main() as windows may: Qt's OpenGL does not.
+    void closeViewport();
 
     kavoSceneView *sceneView() const { return m_scene; }
     kavoMaterialView *materialView() const { return m_materials; }
@@ -37,7 +40,7 @@ public:
 private:
     kavoSceneEvents m_events;
     kavoSceneIndex m_index;
-    QWidget *m_viewport;
+    QPointer<QWidget> m_viewport;
     kavoSceneView *m_scene;
     kavoMaterialView *m_materials;
     kavoLightView *m_lights;

@@ -65,8 +65,6 @@ kavoViewport::kavoViewport(kavoSceneEvents &events, kavoChangeMonitor &monitor,
     connect(
         &events, &kavoSceneEvents::materialRenderingRequested, this, qOverload<>(&QWidget::update));
     connect(&monitor, &kavoChangeMonitor::changed, this, &kavoViewport::react);
-    // The main window lives until static objects die, longer than Qt's OpenGL.
-    connect(qApp, &QCoreApplication::aboutToQuit, this, &QObject::deleteLater);
     fit();
 }
 
