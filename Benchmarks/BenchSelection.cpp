@@ -29,6 +29,12 @@ BenchSelection::BenchSelection()
     BenchHost::show(m_floor);
 }
 
+void BenchSelection::setUniformRowHeights(bool uniform)
+{
+    BenchHost::treeOf(m_editor).setUniformRowHeights(uniform);
+    BenchHost::treeOf(m_baseline).setUniformRowHeights(uniform);
+}
+
 BenchSelection::Times BenchSelection::editor(const osg::FieldContainerPtr &container, int rounds)
 {
     m_editor.setFC("node", container);

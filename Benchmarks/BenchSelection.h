@@ -22,6 +22,10 @@ public:
 
     BenchSelection();
 
+    /// Whether the views of editor and baseline take all rows for equally high, as the sources of
+    /// the component that the build uses do. Others measure each row.
+    void setUniformRowHeights(bool uniform);
+
     /// Medians of as many rounds. The rows of the last round are kept for the other two.
     Times editor(const osg::FieldContainerPtr &container, int rounds);
     Times baseline(int rounds);
