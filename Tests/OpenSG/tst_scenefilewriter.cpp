@@ -4,18 +4,15 @@
 #include <OpenSG/OSGChunkMaterial.h>
 #include <OpenSG/OSGDistanceLOD.h>
 #include <OpenSG/OSGGroup.h>
-#include <OpenSG/OSGMaterialChunk.h>
 #include <OpenSG/OSGMaterialGroup.h>
 #include <OpenSG/OSGPointLight.h>
 #include <OpenSG/OSGSHLChunk.h>
 #include <OpenSG/OSGSimpleAttachments.h>
-#include <OpenSG/OSGSimpleMaterial.h>
 #include <OpenSG/OSGStringAttributeMap.h>
 #include <OpenSG/OSGSwitch.h>
 
 #include <QtTest>
 
-#include <limits>
 #include <sstream>
 
 using namespace osg;
@@ -39,14 +36,6 @@ private slots:
     void aCycleEndsInUse();
     void emptyPlacesInAListStay();
 
-    void aQuoteIsProtectedAndReported();
-    void backslashesReadBack_data();
-    void backslashesReadBack();
-    void whiteSpaceInStringsBecomesSingleBlanks();
-    void whiteSpaceInStringsCanBeKept();
-    void longStringsCanBeKeptWhole();
-    void infiniteNumbersReadBack();
-    void whatIsNoNumberIsWrittenAsZeroAndReported();
     void fieldsThatReadersStumbleOverAreWrittenOnlyIfNeeded();
 
     void aSceneTooDeepIsNotWritten();
@@ -55,7 +44,6 @@ private slots:
 
 private:
     NodePtr named(const std::string &name) const;
-    std::string nameReadBack(const std::string &name);
 
     std::unique_ptr<SceneText> m_text;
 };
@@ -124,7 +112,6 @@ void tst_SceneFileWriter::init()
 void tst_SceneFileWriter::cleanup()
 {
     m_text.reset();
-    SceneFileHandler::the().setOptions("osg", "");
 }
 
 NodePtr tst_SceneFileWriter::named(const std::string &name) const
@@ -132,13 +119,6 @@ NodePtr tst_SceneFileWriter::named(const std::string &name) const
     const NodePtr node = makeCoredNode<Group>();
     setName(node, name);
     return node;
-}
-
-std::string tst_SceneFileWriter::nameReadBack(const std::string &name)
-{
-    const NodeRefPtr node(named(name));
-    const NodePtr copy = m_text->readFirst(m_text->write(node.get()));
-    return getName(copy) ? getName(copy) : "no name";
 }
 
 void tst_SceneFileWriter::aSceneHasTheKnownForm()
@@ -246,84 +226,6 @@ void tst_SceneFileWriter::emptyPlacesInAListStay()
     material->getMFChunks()->push_back(NullFC);
     QVERIFY(contains(m_text->writeCore(core),
         "                    chunks [\n                        NULL\n                    ]\n"));
-}
-
-void tst_SceneFileWriter::aQuoteIsProtectedAndReported()
-{
-    const NodeRefPtr node(named("say \"hi\""));
-    const std::string text = m_text->write(node.get());
-    QVERIFY(contains(text, R"(name "say \"hi\"")"));
-    QVERIFY(contains(m_text->takeLog(), "WARNING:  Scene file, field name of Name: a quote"));
-    QCOMPARE(getName(m_text->readFirst(text)), "say \"hi\"");
-}
-
-void tst_SceneFileWriter::backslashesReadBack_data()
-{
-    QTest::addColumn<QByteArray>("name");
-
-    QTest::newRow("path") << QByteArray(R"(C:\new\ship)");
-    QTest::newRow("double") << QByteArray(R"(\\server)");
-    QTest::newRow("at the end") << QByteArray(R"(folder\)");
-    QTest::newRow("before a quote") << QByteArray(R"(a\"b)");
-    QTest::newRow("three") << QByteArray(R"(\\\)");
-}
-
-void tst_SceneFileWriter::backslashesReadBack()
-{
-    QFETCH(QByteArray, name);
-    QCOMPARE(QByteArray(nameReadBack(name.toStdString()).c_str()), name);
-}
-
-void tst_SceneFileWriter::whiteSpaceInStringsBecomesSingleBlanks()
-{
-    QCOMPARE(nameReadBack("two  blanks\tand\nlines"), std::string("two blanks and lines"));
-    QVERIFY(contains(m_text->takeLog(), "white space"));
-}
-
-void tst_SceneFileWriter::whiteSpaceInStringsCanBeKept()
-{
-    QVERIFY(SceneFileHandler::the().setOptions("osg", "whitespace=keep"));
-    QCOMPARE(nameReadBack(" two  blanks\tand\nlines "), std::string(" two  blanks\tand\nlines "));
-    QCOMPARE(m_text->takeLog(), std::string());
-}
-
-void tst_SceneFileWriter::longStringsCanBeKeptWhole()
-{
-    SceneFileHandler::the().setOptions("osg", "whitespace=keep");
-    const std::string longText(70, 'x');
-    const NodeRefPtr node(makeCoredNode<Group>());
-    const StringAttributeMapPtr attributes = StringAttributeMap::create();
-    attributes->setAttribute("first", longText + " and " + longText);
-    attributes->setAttribute("second", "");
-    node->addAttachment(attributes);
-    const NodePtr copy = m_text->readFirst(m_text->write(node.get()));
-    const auto read
-        = StringAttributeMapPtr::dcast(copy->findAttachment(StringAttributeMap::getClassType()));
-    QCOMPARE(read->getAttribute("first"), longText + " and " + longText);
-    QVERIFY(read->hasAttribute("second"));
-}
-
-void tst_SceneFileWriter::infiniteNumbersReadBack()
-{
-    const DistanceLODPtr lod = DistanceLOD::create();
-    const Real32 infinite = std::numeric_limits<Real32>::infinity();
-    lod->getRange().push_back(infinite);
-    lod->getRange().push_back(-infinite);
-    const NodePtr copy = m_text->readFirst(m_text->writeCore(lod));
-    const auto read = DistanceLODPtr::dcast(copy->getCore());
-    QCOMPARE(read->getRange(0), infinite);
-    QCOMPARE(read->getRange(1), -infinite);
-    QCOMPARE(m_text->takeLog(), std::string());
-}
-
-void tst_SceneFileWriter::whatIsNoNumberIsWrittenAsZeroAndReported()
-{
-    const DistanceLODPtr lod = DistanceLOD::create();
-    lod->getRange().push_back(-std::numeric_limits<Real32>::quiet_NaN());
-    const std::string text = m_text->writeCore(lod);
-    QVERIFY(contains(m_text->takeLog(), "field range of DistanceLOD: what is not a number"));
-    const NodePtr copy = m_text->readFirst(text);
-    QCOMPARE(DistanceLODPtr::dcast(copy->getCore())->getRange(0), 0.f);
 }
 
 void tst_SceneFileWriter::fieldsThatReadersStumbleOverAreWrittenOnlyIfNeeded()

@@ -1,0 +1,159 @@
+#include "SceneText.h"
+
+#include <OpenSG/OSGBaseFunctions.h>
+#include <OpenSG/OSGDistanceLOD.h>
+#include <OpenSG/OSGGroup.h>
+#include <OpenSG/OSGSimpleAttachments.h>
+#include <OpenSG/OSGStringAttributeMap.h>
+
+#include <QtTest>
+
+#include <limits>
+
+using namespace osg;
+
+/// Values that the format has no form for, or none that everybody knows.
+class tst_SceneFileValues : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void aQuoteIsProtectedAndReported();
+    void backslashesReadBack_data();
+    void backslashesReadBack();
+    void whiteSpaceInStringsBecomesSingleBlanks();
+    void whiteSpaceInStringsCanBeKept();
+    void longStringsCanBeKeptWhole();
+    void infiniteNumbersReadBack();
+    void whatIsNoNumberIsWrittenAsZeroAndReported();
+
+private:
+    NodePtr named(const std::string &name) const;
+    std::string nameReadBack(const std::string &name);
+
+    std::unique_ptr<SceneText> m_text;
+};
+
+namespace {
+
+bool contains(const std::string &text, const std::string &part)
+{
+    return text.find(part) != std::string::npos;
+}
+
+} // namespace
+
+void tst_SceneFileValues::initTestCase()
+{
+    QVERIFY(osgInit(0, nullptr));
+}
+
+void tst_SceneFileValues::init()
+{
+    m_text = std::make_unique<SceneText>();
+}
+
+void tst_SceneFileValues::cleanup()
+{
+    m_text.reset();
+    SceneFileHandler::the().setOptions("osg", "");
+}
+
+NodePtr tst_SceneFileValues::named(const std::string &name) const
+{
+    const NodePtr node = makeCoredNode<Group>();
+    setName(node, name);
+    return node;
+}
+
+std::string tst_SceneFileValues::nameReadBack(const std::string &name)
+{
+    const NodeRefPtr node(named(name));
+    const NodePtr copy = m_text->readFirst(m_text->write(node.get()));
+    return getName(copy) ? getName(copy) : "no name";
+}
+
+void tst_SceneFileValues::aQuoteIsProtectedAndReported()
+{
+    const NodeRefPtr node(named("say \"hi\""));
+    const std::string text = m_text->write(node.get());
+    QVERIFY(contains(text, R"(name "say \"hi\"")"));
+    QVERIFY(contains(m_text->takeLog(), "WARNING:  Scene file, field name of Name: a quote"));
+    QCOMPARE(getName(m_text->readFirst(text)), "say \"hi\"");
+}
+
+void tst_SceneFileValues::backslashesReadBack_data()
+{
+    QTest::addColumn<QByteArray>("name");
+
+    QTest::newRow("path") << QByteArray(R"(C:\new\ship)");
+    QTest::newRow("double") << QByteArray(R"(\\server)");
+    QTest::newRow("at the end") << QByteArray(R"(folder\)");
+    QTest::newRow("before a quote") << QByteArray(R"(a\"b)");
+    QTest::newRow("three") << QByteArray(R"(\\\)");
+}
+
+void tst_SceneFileValues::backslashesReadBack()
+{
+    QFETCH(QByteArray, name);
+    QCOMPARE(QByteArray(nameReadBack(name.toStdString()).c_str()), name);
+}
+
+void tst_SceneFileValues::whiteSpaceInStringsBecomesSingleBlanks()
+{
+    QCOMPARE(nameReadBack("two  blanks\tand\nlines"), std::string("two blanks and lines"));
+    QVERIFY(contains(m_text->takeLog(), "white space"));
+}
+
+void tst_SceneFileValues::whiteSpaceInStringsCanBeKept()
+{
+    QVERIFY(SceneFileHandler::the().setOptions("osg", "whitespace=keep"));
+    QCOMPARE(nameReadBack(" two  blanks\tand\nlines "), std::string(" two  blanks\tand\nlines "));
+    QCOMPARE(m_text->takeLog(), std::string());
+}
+
+void tst_SceneFileValues::longStringsCanBeKeptWhole()
+{
+    SceneFileHandler::the().setOptions("osg", "whitespace=keep");
+    const std::string longText(70, 'x');
+    const NodeRefPtr node(makeCoredNode<Group>());
+    const StringAttributeMapPtr attributes = StringAttributeMap::create();
+    attributes->setAttribute("first", longText + " and " + longText);
+    attributes->setAttribute("second", "");
+    node->addAttachment(attributes);
+    const NodePtr copy = m_text->readFirst(m_text->write(node.get()));
+    const auto read
+        = StringAttributeMapPtr::dcast(copy->findAttachment(StringAttributeMap::getClassType()));
+    QCOMPARE(read->getAttribute("first"), longText + " and " + longText);
+    QVERIFY(read->hasAttribute("second"));
+}
+
+void tst_SceneFileValues::infiniteNumbersReadBack()
+{
+    const DistanceLODPtr lod = DistanceLOD::create();
+    const Real32 infinite = std::numeric_limits<Real32>::infinity();
+    lod->getRange().push_back(infinite);
+    lod->getRange().push_back(-infinite);
+    const NodePtr copy = m_text->readFirst(m_text->writeCore(lod));
+    const auto read = DistanceLODPtr::dcast(copy->getCore());
+    QCOMPARE(read->getRange(0), infinite);
+    QCOMPARE(read->getRange(1), -infinite);
+    QCOMPARE(m_text->takeLog(), std::string());
+}
+
+void tst_SceneFileValues::whatIsNoNumberIsWrittenAsZeroAndReported()
+{
+    const DistanceLODPtr lod = DistanceLOD::create();
+    lod->getRange().push_back(-std::numeric_limits<Real32>::quiet_NaN());
+    const std::string text = m_text->writeCore(lod);
+    QVERIFY(contains(m_text->takeLog(), "field range of DistanceLOD: what is not a number"));
+    const NodePtr copy = m_text->readFirst(text);
+    QCOMPARE(DistanceLODPtr::dcast(copy->getCore())->getRange(0), 0.f);
+}
+
+QTEST_APPLESS_MAIN(tst_SceneFileValues)
+#include "tst_scenefilevalues.moc"
