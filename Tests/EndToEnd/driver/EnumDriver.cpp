@@ -38,8 +38,9 @@ EnumDriver::EnumDriver()
 
 void EnumDriver::next()
 {
-    static constexpr std::array<Step, 4> steps = { &EnumDriver::openRow, &EnumDriver::openList,
-        &EnumDriver::pickEntry, &EnumDriver::endHost };
+    static constexpr std::array<Step, 6> steps
+        = { &EnumDriver::openRow, &EnumDriver::openList, &EnumDriver::pickEntry,
+              &EnumDriver::closeList, &EnumDriver::saveScene, &EnumDriver::endHost };
     if (m_time.elapsed() > patience)
         return QCoreApplication::exit(failed);
     if ((this->*steps[m_step])() && ++m_step == steps.size())
@@ -85,11 +86,26 @@ bool EnumDriver::pickEntry()
     return true;
 }
 
-bool EnumDriver::endHost()
+bool EnumDriver::closeList()
 {
     auto *choices = tree()->findChild<QComboBox *>();
-    if (choices && choices->view()->isVisible())
-        return false;
+    return !choices || !choices->view()->isVisible();
+}
+
+bool EnumDriver::saveScene()
+{
+    const QWidget *window = kavoController::getMainWindow();
+    if (!window->windowTitle().contains(".osg"))
+        return true;
+    if (!m_isSaving && window->isWindowModified()) {
+        m_isSaving = true;
+        QProcess::execute("xdotool", { "key", "ctrl+s" });
+    }
+    return m_isSaving && !window->isWindowModified();
+}
+
+bool EnumDriver::endHost()
+{
     QCoreApplication::quit();
     return true;
 }

@@ -1,3 +1,4 @@
+#include <QKAVODockWindowManager.h>
 #include <kavoDocument.h>
 #include <kavoMainWindow.h>
 #include <kavoScenegraph.h>
@@ -26,6 +27,7 @@ private slots:
     void init();
 
     void theTitleMarksUnsavedChanges();
+    void lookingAtAModelIsNoChange();
     void ctrlSSavesAnOpenedSceneFile();
     void saveAsAsksForTheFileAndAddsTheSuffix();
     void quittingWithoutChangesAsksNothing();
@@ -98,6 +100,21 @@ void tst_saveactions::theTitleMarksUnsavedChanges()
     QVERIFY(!m_window->isWindowModified());
     QCOMPARE(m_window->windowTitle(), QStringLiteral("ship.osg[*]"));
     edit();
+}
+
+// Views make pictures, volumes and states of it.
+void tst_saveactions::lookingAtAModelIsNoChange()
+{
+    QSignalSpy opened(m_window, &kavoMainWindow::opened);
+    m_window->open({ KAVO_TEST_MODELS "/glTF/BoxTextured-glTF/BoxTextured.gltf" });
+    QVERIFY(opened.wait(20000));
+    for (const QString &key : m_window->docks().keys()) {
+        m_window->docks().show(key);
+        QTest::qWait(50);
+    }
+    QVERIFY(m_window->select("Geometry-mesh002Node"));
+    QTest::qWait(200);
+    QVERIFY(!m_window->isWindowModified());
 }
 
 void tst_saveactions::ctrlSSavesAnOpenedSceneFile()
