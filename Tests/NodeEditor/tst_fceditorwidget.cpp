@@ -13,6 +13,9 @@
 
 #include <QtTest>
 
+#include <memory>
+#include <vector>
+
 using namespace kavoTreeRows;
 
 class TestFCEditorWidget : public QObject
@@ -34,6 +37,7 @@ private slots:
     void everyValueRowIsBound();
     void groupsAndSubRowsAreNotBound();
     void manySelectionsLeaveNoVariantRowsBehind();
+    void anEditorMayTakeThePlaceOfAnother();
 
 private:
     static int invalidPointers(const QList<QtProperty *> &rows);
@@ -262,6 +266,18 @@ void TestFCEditorWidget::manySelectionsLeaveNoVariantRowsBehind()
     for (int i = 0; i < 10; ++i)
         editor.setFC("truck", osg::NodePtr(truck));
     QCOMPARE(manager->properties().size(), rows);
+}
+
+// The component keeps what it knows of a browser by the addresses of browser and managers.
+void TestFCEditorWidget::anEditorMayTakeThePlaceOfAnother()
+{
+    kavoConsoleCapture errors(kavoConsoleCapture::StandardError);
+    std::vector<std::unique_ptr<char[]>> others;
+    for (int i = 0; i < 300; ++i) {
+        const kavoFCEditorWidget editor(nullptr, nullptr);
+        others.push_back(std::make_unique<char[]>(std::size_t(16 + i % 64)));
+    }
+    QCOMPARE(errors.text(), QByteArray());
 }
 
 KAVO_TEST_MAIN(TestFCEditorWidget)

@@ -42,6 +42,10 @@ kavoFCEditorWidget::~kavoFCEditorWidget()
     unsetFactoryForManager(m_enumManager);
     deleteAllRows();
     delete m_variantManager;
+    // The factory of colours cannot be disconnected without a warning, but knows when they go.
+    connect(m_colorManager, &QObject::destroyed, this,
+        [this] { unsetFactoryForManager(m_colorManager); });
+    delete m_colorManager;
 }
 
 void kavoFCEditorWidget::setFC(const QString &name, osg::FieldContainerPtr fc)
