@@ -1,11 +1,10 @@
 #include <kavoController.h>
 
-#include <kavoLog.h>
+#include <kavoGuarded.h>
 #include <kavoMessage.h>
 #include <kavoModuleBase.h>
 
 #include <algorithm>
-#include <exception>
 #include <map>
 #include <string>
 #include <vector>
@@ -39,23 +38,12 @@ bool isRegistered(const std::string &name, kavoController::Callback callback)
     return found != host().callbacks.end() && contains(found->second, callback);
 }
 
-template <class Function> void guarded(const std::string &what, Function function)
-{
-    try {
-        function();
-    } catch (const std::exception &error) {
-        kavoLog::error("%s failed: %s", what.c_str(), error.what());
-    } catch (...) {
-        kavoLog::error("%s failed with an unknown exception", what.c_str());
-    }
-}
-
 template <class Function> void forEachModule(Function function)
 {
     const std::vector<kavoModuleBase *> snapshot = kavoModuleBase::modules();
     for (kavoModuleBase *module : snapshot) {
         if (contains(kavoModuleBase::modules(), module))
-            guarded("Module '" + module->name() + "'", [&] { function(*module); });
+            kavoGuarded("Module '" + module->name() + "'", [&] { function(*module); });
     }
 }
 
@@ -100,7 +88,7 @@ int kavoController::call(const char *name, kavoMessage &message, int)
     for (const Callback callback : snapshot) {
         if (!isRegistered(key, callback))
             continue;
-        guarded("Callback '" + key + "'", [&] { callback(message); });
+        kavoGuarded("Callback '" + key + "'", [&] { callback(message); });
         ++run;
     }
     return run;

@@ -85,6 +85,8 @@ BitVector FieldSampler::maskOf(const char *name)
 
 void FieldSampler::changed(BitVector mask, UInt32 origin)
 {
+    if (accessThrows)
+        throw 1;
     ++changes;
     lastMask = mask;
     listedBeforeChanged = Thread::getCurrentChangeList()->sizeChanged();

@@ -62,7 +62,7 @@ public:
     MFVec3f vectors;
     MFNodePtr nodes;
 
-    /// While set, reaching any of the fields above throws an int.
+    /// While set, reaching any of the fields above throws an int, and so does changed().
     static bool accessThrows;
 
     int changes = 0;

@@ -1,5 +1,7 @@
+#include "OSGFieldSampler.h"
 #include "kavoTreeRows.h"
 
+#include <kavoConsoleCapture.h>
 #include <kavoDragFormats.h>
 #include <kavoTestHost.h>
 #include <kavoTestScene.h>
@@ -49,6 +51,7 @@ private slots:
     void anIncompleteItemIsNoItem_data();
     void anIncompleteItemIsNoItem();
     void bindingsFollowTheDrop();
+    void anExceptionInADropIsLogged();
 
 private:
     static qint32 id(const osg::FieldContainerPtr &container);
@@ -325,6 +328,17 @@ void TestDrop::bindingsFollowTheDrop()
     drop(materials, payload({ id(osg::NodePtr(m_materialNode)), id(m_material) }));
     setValue(*m_editor, "sortKey", 7);
     QCOMPARE(m_material->getSortKey(), 7);
+}
+
+void TestDrop::anExceptionInADropIsLogged()
+{
+    const kavoNodePtr node(kavoTestScene::makeGroup("Root"));
+    osg::NodePtr(node)->addAttachment(osg::FieldSampler::create());
+    kavoConsoleCapture errors(kavoConsoleCapture::StandardError);
+    osg::FieldSampler::accessThrows = true;
+    drop(cameras, payload({ id(osg::NodePtr(node)) }));
+    osg::FieldSampler::accessThrows = false;
+    QVERIFY(errors.text().contains("Showing what was dropped failed with an unknown exception"));
 }
 
 KAVO_TEST_MAIN(TestDrop)

@@ -56,6 +56,7 @@ private slots:
     void aMaterialOfAnotherTypeChangesNothing();
     void aMaterialChangesNothingWhileHidden();
     void anExceptionInTheDispatchIsLoggedAndOver();
+    void anExceptionOnShowingTheWindowIsLoggedAndOver();
     void destructionPrintsItsNameAndLeavesTheHost();
 
 private:
@@ -377,6 +378,20 @@ void TestNodeEditor::anExceptionInTheDispatchIsLoggedAndOver()
     setValue(editor(), "travMask", 5);
     QCOMPARE(osg::NodePtr(node)->getTravMask(), 5u);
     send(0x10);
+}
+
+void TestNodeEditor::anExceptionOnShowingTheWindowIsLoggedAndOver()
+{
+    setVisible(false);
+    const kavoNodePtr node(kavoTestScene::makeGroup("Root"));
+    osg::NodePtr(node)->addAttachment(osg::FieldSampler::create());
+    kavoScenegraph::setSelectedNode(node);
+    kavoConsoleCapture errors(kavoConsoleCapture::StandardError);
+    osg::FieldSampler::accessThrows = true;
+    setVisible(true);
+    osg::FieldSampler::accessThrows = false;
+    QVERIFY(errors.text().contains("Showing the selected node failed with an unknown exception"));
+    kavoScenegraph::setSelectedNode(osg::NullFC);
 }
 
 void TestNodeEditor::destructionPrintsItsNameAndLeavesTheHost()

@@ -66,6 +66,7 @@ private slots:
     void onlyColorEditsAskForMaterialUpdates();
     void anEditOfADeadContainerIsLoggedAndDropped();
     void aColorEditOfADeadContainerStillAsksForMaterialUpdates();
+    void aContainerThatThrowsOnAnEditIsLogged();
     void anUnboundColorStillAsksForMaterialUpdates();
     void anUnboundRowIsIgnored();
     void theFieldOfANestedContainerIsWritten();
@@ -388,6 +389,16 @@ void TestWriteBack::aColorEditOfADeadContainerStillAsksForMaterialUpdates()
     kavoConsoleCapture errors(kavoConsoleCapture::StandardError);
     setColor("color3", { 1, 1, 1, 1 });
     QCOMPARE(errors.text().count("kavoFCEditorWidget::valueChanged: invalid pointer!"), 1);
+    QCOMPARE(materialUpdates, 1);
+}
+
+void TestWriteBack::aContainerThatThrowsOnAnEditIsLogged()
+{
+    kavoConsoleCapture errors(kavoConsoleCapture::StandardError);
+    osg::FieldSampler::accessThrows = true;
+    setColor("color3", { 1, 1, 1, 1 });
+    osg::FieldSampler::accessThrows = false;
+    QCOMPARE(errors.text().count("Writing a field failed with an unknown exception"), 1);
     QCOMPARE(materialUpdates, 1);
 }
 

@@ -11,6 +11,7 @@
 #include <map>
 #include <optional>
 
+class QMimeData;
 class QtGLenumEditorFactory;
 class QtGLenumPropertyManager;
 
@@ -101,6 +102,7 @@ private:
     static bool writeText(osg::Field &field, const QString &text);
     void writeBack(QtProperty *property, const QString &value);
 
+    void showDropped(const QMimeData &data);
     void dropMaterial(const QByteArray &payload);
     void dropLight(const QByteArray &payload);
     void dropCamera(const QByteArray &payload);

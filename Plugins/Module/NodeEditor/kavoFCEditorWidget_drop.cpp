@@ -1,6 +1,7 @@
 #include "kavoFCEditorWidget.h"
 
 #include <kavoDragFormats.h>
+#include <kavoGuarded.h>
 #include <kavoNodeUtils.h>
 
 #include <OpenSG/OSGFieldContainerFactory.h>
@@ -59,13 +60,17 @@ void kavoFCEditorWidget::dragEnterEvent(QDragEnterEvent *event)
 // Deliberate: a drop that carries several formats runs through all handlers, the last one wins.
 void kavoFCEditorWidget::dropEvent(QDropEvent *event)
 {
-    const QMimeData *data = event->mimeData();
-    if (data->hasFormat(kavoDragFormats::materials))
-        dropMaterial(data->data(kavoDragFormats::materials));
-    if (data->hasFormat(kavoDragFormats::lights))
-        dropLight(data->data(kavoDragFormats::lights));
-    if (data->hasFormat(kavoDragFormats::cameras))
-        dropCamera(data->data(kavoDragFormats::cameras));
+    kavoGuarded("Showing what was dropped", [&] { showDropped(*event->mimeData()); });
+}
+
+void kavoFCEditorWidget::showDropped(const QMimeData &data)
+{
+    if (data.hasFormat(kavoDragFormats::materials))
+        dropMaterial(data.data(kavoDragFormats::materials));
+    if (data.hasFormat(kavoDragFormats::lights))
+        dropLight(data.data(kavoDragFormats::lights));
+    if (data.hasFormat(kavoDragFormats::cameras))
+        dropCamera(data.data(kavoDragFormats::cameras));
 }
 
 // Shows nothing for several materials. A group without a material empties the editor.

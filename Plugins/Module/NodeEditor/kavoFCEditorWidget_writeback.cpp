@@ -2,6 +2,7 @@
 
 #include <kavoCallNames.h>
 #include <kavoController.h>
+#include <kavoGuarded.h>
 #include <kavoLog.h>
 #include <kavoMessage.h>
 #include <kavoOpenSGCompat.h>
@@ -91,8 +92,10 @@ void kavoFCEditorWidget::writeBack(QtProperty *property, const QString &value)
         kavoLog::error("kavoFCEditorWidget::valueChanged: invalid pointer!");
         return;
     }
-    if (writeText(*binding.field, value))
-        endEdit(container, binding.fieldMask);
+    kavoGuarded("Writing a field", [&] {
+        if (writeText(*binding.field, value))
+            endEdit(container, binding.fieldMask);
+    });
 }
 
 void kavoFCEditorWidget::valueChanged(QtProperty *property, const QVariant &value)

@@ -6,6 +6,7 @@
 #include <QKAVODockWindowManager.h>
 #include <kavoCallNames.h>
 #include <kavoController.h>
+#include <kavoGuarded.h>
 #include <kavoIconManager.h>
 #include <kavoLog.h>
 #include <kavoMessageIds.h>
@@ -141,7 +142,8 @@ void kavoNodeEditor::setNode(osg::NodePtr node)
 void kavoNodeEditor::show()
 {
     m_window->raise();
-    setNode(kavoScenegraph::getSelectedNode());
+    kavoGuarded(
+        "Showing the selected node", [this] { setNode(kavoScenegraph::getSelectedNode()); });
 }
 
 void kavoNodeEditor::editedField()
