@@ -1,24 +1,25 @@
-#include "OSGFieldSampler.h"
+#include "kavoSampledEditor.h"
 #include "kavoTreeRows.h"
 
 #include <kavoTestHost.h>
 
-#include <QDoubleSpinBox>
-#include <QTreeWidget>
+#include <QAbstractSpinBox>
 #include <QtTest>
 
 #include <cfloat>
 #include <climits>
-#include <cmath>
+#include <map>
+#include <memory>
 
 using namespace kavoTreeRows;
 
+// What rows show of numbers and what comes back from them, with a decimal point and with a comma.
 class TestNumbers : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase();
+    void initTestCase_data();
     void init();
     void cleanup();
     void aRowShowsTheFieldsNumber_data();
@@ -27,105 +28,88 @@ private slots:
     void anEditWithoutChangeWritesNothing();
     void whatIsTypedIsReadBack_data();
     void whatIsTypedIsReadBack();
-    void aCommaLocaleShowsAndReadsCommas();
     void numbersOutOfRangeAreNotTaken_data();
     void numbersOutOfRangeAreNotTaken();
     void rangesEndWithTheFieldType_data();
     void rangesEndWithTheFieldType();
-    void theStepFitsTheMagnitude_data();
-    void theStepFitsTheMagnitude();
-    void stepsLeaveNoRoundingNoise();
     void numbersThatAreNotFiniteAreText_data();
     void numbersThatAreNotFiniteAreText();
-    void lettersAreNotTaken();
-    void pointAndCommaAreTheDecimalPoint_data();
-    void pointAndCommaAreTheDecimalPoint();
     void boxesShowTheirNumbersToTheLastDigit();
-    void anOpenEditorFollowsItsRow();
 
 private:
     static void addNumbers();
-    osg::Field &field(const QString &name);
-    QByteArray textOf(const QString &name);
-    void show();
-    void finish(QWidget *spinBox);
+    static QString inLocale(QString number);
+    double valueOf(const QString &name);
 
-    kavoFCEditorWidget *m_editor = nullptr;
-    osg::FieldSamplerPtr m_sampler;
+    std::unique_ptr<kavoSampledEditor> m_rows;
 };
 
-void TestNumbers::initTestCase()
+void TestNumbers::initTestCase_data()
 {
-    QLocale::setDefault(QLocale::c());
+    QTest::addColumn<QLocale>("locale");
+    QTest::newRow("decimal point") << QLocale::c();
+    QTest::newRow("decimal comma") << QLocale(QLocale::German, QLocale::Germany);
 }
 
 void TestNumbers::init()
 {
-    m_editor = new kavoFCEditorWidget(nullptr, nullptr);
-    m_sampler = osg::FieldSampler::create();
-    osg::addRefCP(m_sampler);
+    QFETCH_GLOBAL(QLocale, locale);
+    QLocale::setDefault(locale);
+    m_rows = std::make_unique<kavoSampledEditor>();
 }
 
 void TestNumbers::cleanup()
 {
-    delete m_editor;
-    osg::subRefCP(m_sampler);
+    m_rows.reset();
     QLocale::setDefault(QLocale::c());
 }
 
-// Opens an editor, so that the rows are on the screen.
-void TestNumbers::show()
+QString TestNumbers::inLocale(QString number)
 {
-    m_editor->setFC("sampler", m_sampler);
-    m_editor->resize(400, 600);
-    m_editor->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_editor));
+    return number.replace('.', QLocale().decimalPoint());
 }
 
-osg::Field &TestNumbers::field(const QString &name)
+double TestNumbers::valueOf(const QString &name)
 {
-    osg::FieldContainer &container = *m_sampler;
-    return *container.getField(name.toUtf8().constData());
+    const osg::FieldSampler &sampler = m_rows->sampler();
+    const std::map<QString, double> values {
+        { "real32", sampler.real32.getValue() },
+        { "real64", sampler.real64.getValue() },
+        { "int32", sampler.int32.getValue() },
+        { "uint32", sampler.uint32.getValue() },
+        { "uint8", sampler.uint8.getValue() },
+    };
+    return values.at(name);
 }
 
-QByteArray TestNumbers::textOf(const QString &name)
-{
-    std::string text;
-    field(name).getValueByStr(text);
-    return QByteArray::fromStdString(text);
-}
-
-void TestNumbers::finish(QWidget *spinBox)
-{
-    QTest::keyClick(spinBox, Qt::Key_Return);
-    QCoreApplication::processEvents();
-}
-
-// Field, its value as text, and what the row shows.
+// Field, its value as text, and what the row shows where the point is the decimal point.
 void TestNumbers::addNumbers()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QByteArray>("value");
     QTest::addColumn<QString>("shown");
-    QTest::newRow("thousandth") << "real32" << QByteArray("0.001") << "0.001";
-    QTest::newRow("tiny") << "real32" << QByteArray("1e-7") << "1e-07";
-    QTest::newRow("tinier than 13 decimals") << "real32" << QByteArray("1.25e-20") << "1.25e-20";
-    QTest::newRow("huge") << "real32" << QByteArray("3.4e38") << "3.4e+38";
-    QTest::newRow("lowest") << "real32" << QByteArray("-3.40282e38") << "-3.40282e+38";
-    QTest::newRow("third") << "real32" << QByteArray("0.333333333") << "0.3333333";
-    QTest::newRow("one") << "real32" << QByteArray("1") << "1";
-    QTest::newRow("thousands") << "real32" << QByteArray("12345.5") << "12345.5";
-    QTest::newRow("zero") << "real32" << QByteArray("0") << "0";
-    QTest::newRow("double") << "real64" << QByteArray("1e300") << "1e+300";
-    QTest::newRow("tiny double") << "real64" << QByteArray("-1e-300") << "-1e-300";
-    QTest::newRow("past int") << "real64" << QByteArray("2147483648") << "2147484000";
-    QTest::newRow("time") << "time" << QByteArray("1.5") << "1.5";
-    QTest::newRow("past int, unsigned") << "uint32" << QByteArray("2147483648") << "-2147483648";
-    QTest::newRow("all bits") << "uint32" << QByteArray("4294967295") << "-1";
-    QTest::newRow("lowest int") << "int32" << QByteArray("-2147483648") << "-2147483648";
-    QTest::newRow("highest int") << "int32" << QByteArray("2147483647") << "2147483647";
-    QTest::newRow("lowest byte") << "int8" << QByteArray("-128") << "-128";
-    QTest::newRow("highest short") << "uint16" << QByteArray("65535") << "65535";
+    const auto add = [](const char *row, const char *name, const char *value, const char *shown) {
+        QTest::newRow(row) << name << QByteArray(value) << shown;
+    };
+    add("thousandth", "real32", "0.001", "0.001");
+    add("tiny", "real32", "1e-7", "1e-07");
+    add("tinier than 13 decimals", "real32", "1.25e-20", "1.25e-20");
+    add("huge", "real32", "3.4e38", "3.4e+38");
+    add("lowest", "real32", "-3.40282e38", "-3.40282e+38");
+    add("third", "real32", "0.333333333", "0.3333333");
+    add("one", "real32", "1", "1");
+    add("thousands", "real32", "12345.5", "12345.5");
+    add("zero", "real32", "0", "0");
+    add("double", "real64", "1e300", "1e+300");
+    add("tiny double", "real64", "-1e-300", "-1e-300");
+    add("past int", "real64", "2147483648", "2147484000");
+    add("time", "time", "1.5", "1.5");
+    add("past int, unsigned", "uint32", "2147483648", "-2147483648");
+    add("all bits", "uint32", "4294967295", "-1");
+    add("lowest int", "int32", "-2147483648", "-2147483648");
+    add("highest int", "int32", "2147483647", "2147483647");
+    add("lowest byte", "int8", "-128", "-128");
+    add("highest short", "uint16", "65535", "65535");
 }
 
 void TestNumbers::aRowShowsTheFieldsNumber_data()
@@ -137,9 +121,10 @@ void TestNumbers::aRowShowsTheFieldsNumber()
 {
     QFETCH(QString, name);
     QFETCH(QByteArray, value);
-    field(name).pushValueByStr(value.constData());
-    m_editor->setFC("sampler", m_sampler);
-    QTEST(text(*m_editor, name), "shown");
+    QFETCH(QString, shown);
+    m_rows->field(name).pushValueByStr(value.constData());
+    m_rows->show();
+    QCOMPARE(text(m_rows->editor(), name), inLocale(shown));
 }
 
 void TestNumbers::anEditWithoutChangeWritesNothing_data()
@@ -152,99 +137,79 @@ void TestNumbers::anEditWithoutChangeWritesNothing()
     QFETCH(QString, name);
     QFETCH(QByteArray, value);
     QFETCH(QString, shown);
-    field(name).pushValueByStr(value.constData());
-    const QByteArray before = textOf(name);
-    show();
-    auto *spinBox = qobject_cast<QAbstractSpinBox *>(edit(*m_editor, name));
+    m_rows->field(name).pushValueByStr(value.constData());
+    const QByteArray before = m_rows->textOf(name);
+    m_rows->show();
+    auto *spinBox = qobject_cast<QAbstractSpinBox *>(m_rows->open(name));
     QVERIFY(spinBox);
-    QCOMPARE(spinBox->text(), shown);
-    finish(spinBox);
-    QCOMPARE(m_sampler->changes, 0);
-    QCOMPARE(textOf(name), before);
-    QCOMPARE(text(*m_editor, name), shown);
+    QCOMPARE(spinBox->text(), inLocale(shown));
+    m_rows->press(spinBox);
+    QCOMPARE(m_rows->sampler().changes, 0);
+    QCOMPARE(m_rows->textOf(name), before);
+    QCOMPARE(text(m_rows->editor(), name), inLocale(shown));
 }
 
 void TestNumbers::whatIsTypedIsReadBack_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("typed");
-    QTest::addColumn<QByteArray>("written");
-    QTest::newRow("thousandth") << "real32"
-                                << "0.001" << QByteArray("1.000000e-03");
-    QTest::newRow("tiny") << "real32"
-                          << "1e-7" << QByteArray("1.000000e-07");
-    QTest::newRow("tinier") << "real32"
-                            << "1.25e-20" << QByteArray("1.250000e-20");
-    QTest::newRow("huge") << "real32"
-                          << "3.4e38" << QByteArray("3.400000e+38");
-    QTest::newRow("double") << "real64"
-                            << "-1e300" << QByteArray("-1.000000e+300");
-    QTest::newRow("past int") << "real64"
-                              << "2147483648" << QByteArray("2.147484e+09");
-    QTest::newRow("minus one, unsigned") << "uint32"
-                                         << "-1" << QByteArray("4294967295");
-    QTest::newRow("lowest int, unsigned") << "uint32"
-                                          << "-2147483648" << QByteArray("2147483648");
-    QTest::newRow("lowest int") << "int32"
-                                << "-2147483648" << QByteArray("-2147483648");
+    QTest::addColumn<double>("value");
+    QTest::addColumn<QString>("shown");
+    const auto add
+        = [](const char *row, const char *name, const char *typed, double value,
+              const char *shown) { QTest::newRow(row) << name << typed << value << shown; };
+    add("thousandth", "real32", "0.001", 0.001f, "0.001");
+    add("tiny", "real32", "1e-7", 1e-7f, "1e-07");
+    add("tinier", "real32", "1.25e-20", 1.25e-20f, "1.25e-20");
+    add("huge", "real32", "3.4e38", 3.4e38f, "3.4e+38");
+    add("double", "real64", "-1e300", -1e300, "-1e+300");
+    add("all digits", "real64", "0.12345678901234566", 0.12345678901234566, "0.1234568");
+    add("past int", "real64", "2147483648", 2147483648., "2147484000");
+    add("minus one, unsigned", "uint32", "-1", 4294967295., "-1");
+    add("all bits, unsigned", "uint32", "4294967295", 4294967295., "-1");
+    add("lowest int, unsigned", "uint32", "-2147483648", 2147483648., "-2147483648");
+    add("past int, unsigned", "uint32", "2147483648", 2147483648., "-2147483648");
+    add("lowest int", "int32", "-2147483648", -2147483648., "-2147483648");
 }
 
+// The library's text has seven digits: a row made from it shows no more.
 void TestNumbers::whatIsTypedIsReadBack()
 {
     QFETCH(QString, name);
     QFETCH(QString, typed);
-    show();
-    QWidget *spinBox = edit(*m_editor, name);
-    QVERIFY(spinBox);
-    QTest::keyClick(spinBox, Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClicks(spinBox, typed);
-    finish(spinBox);
-    QTEST(textOf(name), "written");
-    m_editor->setFC("sampler", m_sampler);
-    QCOMPARE(m_sampler->changes, 1);
-}
-
-void TestNumbers::aCommaLocaleShowsAndReadsCommas()
-{
-    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
-    delete m_editor;
-    m_editor = new kavoFCEditorWidget(nullptr, nullptr);
-    m_sampler->real32.setValue(1234.5f);
-    m_sampler->real64.setValue(1e-7);
-    show();
-    QCOMPARE(text(*m_editor, "real32"), QString("1234,5"));
-    QCOMPARE(text(*m_editor, "real64"), QString("1e-07"));
-    QWidget *spinBox = edit(*m_editor, "real32");
-    QTest::keyClick(spinBox, Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClicks(spinBox, "0,001");
-    finish(spinBox);
-    QCOMPARE(m_sampler->real32.getValue(), 0.001f);
-    QCOMPARE(text(*m_editor, "real32"), QString("0,001"));
+    m_rows->show();
+    m_rows->press(m_rows->type(name, inLocale(typed)));
+    QTEST(valueOf(name), "value");
+    QCOMPARE(m_rows->sampler().changes, 1);
+    QFETCH(QString, shown);
+    m_rows->show();
+    QCOMPARE(text(m_rows->editor(), name), inLocale(shown));
 }
 
 void TestNumbers::numbersOutOfRangeAreNotTaken_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("typed");
-    QTest::newRow("past Real32") << "real32"
-                                 << "1e39";
-    QTest::newRow("past Real64") << "real64"
-                                 << "1e400";
-    QTest::newRow("unfinished") << "real32"
-                                << "2e";
+    const auto add = [](const char *row, const char *name, const char *typed) {
+        QTest::newRow(row) << name << typed;
+    };
+    add("past Real32", "real32", "1e39");
+    add("past Real64", "real64", "1e400");
+    add("unfinished", "real32", "2e");
+    add("past UInt8", "uint8", "300");
+    add("past Int32", "int32", "2147483648");
+    add("past UInt32", "uint32", "4294967296");
+    add("below Int32", "uint32", "-2147483649");
 }
 
 void TestNumbers::numbersOutOfRangeAreNotTaken()
 {
     QFETCH(QString, name);
     QFETCH(QString, typed);
-    show();
-    QWidget *spinBox = edit(*m_editor, name);
-    QTest::keyClick(spinBox, Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClicks(spinBox, typed);
-    finish(spinBox);
-    QCOMPARE(m_sampler->changes, 0);
-    QCOMPARE(text(*m_editor, name), QString("0"));
+    m_rows->show();
+    m_rows->press(m_rows->type(name, typed));
+    QCOMPARE(m_rows->sampler().changes, 0);
+    QCOMPARE(text(m_rows->editor(), name), QString("0"));
 }
 
 void TestNumbers::rangesEndWithTheFieldType_data()
@@ -266,42 +231,9 @@ void TestNumbers::rangesEndWithTheFieldType_data()
 void TestNumbers::rangesEndWithTheFieldType()
 {
     QFETCH(QString, name);
-    m_editor->setFC("sampler", m_sampler);
-    const auto &variant = dynamic_cast<QtVariantProperty &>(*row(*m_editor, name));
+    const auto &variant = dynamic_cast<QtVariantProperty &>(*row(m_rows->editor(), name));
     QTEST(variant.attributeValue("minimum").toDouble(), "minimum");
     QTEST(variant.attributeValue("maximum").toDouble(), "maximum");
-}
-
-void TestNumbers::theStepFitsTheMagnitude_data()
-{
-    QTest::addColumn<double>("value");
-    QTest::addColumn<double>("stepped");
-    QTest::newRow("zero") << 0. << 0.1;
-    QTest::newRow("one") << 1. << 1.1;
-    QTest::newRow("thousandth") << 0.001 << 0.0011;
-    QTest::newRow("negative") << -20. << -19.;
-    QTest::newRow("huge") << 1e30 << 1.1e30;
-}
-
-void TestNumbers::theStepFitsTheMagnitude()
-{
-    QFETCH(double, value);
-    m_sampler->real64.setValue(value);
-    show();
-    QTest::keyClick(edit(*m_editor, "real64"), Qt::Key_Up);
-    QTEST(m_sampler->real64.getValue(), "stepped");
-}
-
-void TestNumbers::stepsLeaveNoRoundingNoise()
-{
-    show();
-    QWidget *spinBox = edit(*m_editor, "real64");
-    for (int i = 0; i < 3; ++i)
-        QTest::keyClick(spinBox, Qt::Key_Up);
-    QCOMPARE(text(*m_editor, "real64"), QString("0.3"));
-    for (int i = 0; i < 3; ++i)
-        QTest::keyClick(spinBox, Qt::Key_Down);
-    QCOMPARE(text(*m_editor, "real64"), QString("0"));
 }
 
 void TestNumbers::numbersThatAreNotFiniteAreText_data()
@@ -314,68 +246,25 @@ void TestNumbers::numbersThatAreNotFiniteAreText_data()
 void TestNumbers::numbersThatAreNotFiniteAreText()
 {
     QFETCH(QByteArray, value);
-    field("real32").pushValueByStr(value.constData());
-    show();
-    QCOMPARE(text(*m_editor, "real32").toUtf8(), QByteArray(textOf("real32")));
-    finish(edit(*m_editor, "real32"));
-    QCOMPARE(m_sampler->changes, 0);
-    setValue(*m_editor, "real32", "2.5");
-    QCOMPARE(m_sampler->real32.getValue(), 2.5f);
-}
-
-void TestNumbers::lettersAreNotTaken()
-{
-    show();
-    auto *spinBox = qobject_cast<QDoubleSpinBox *>(edit(*m_editor, "real32"));
-    QTest::keyClick(spinBox, Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClicks(spinBox, "x1y.z5");
-    QCOMPARE(spinBox->text(), QString("1.5"));
-}
-
-void TestNumbers::pointAndCommaAreTheDecimalPoint_data()
-{
-    QTest::addColumn<QLocale>("locale");
-    QTest::addColumn<QString>("typed");
-    const QLocale german(QLocale::German, QLocale::Germany);
-    QTest::newRow("point, English") << QLocale::c() << "0.5";
-    QTest::newRow("comma, English") << QLocale::c() << "0,5";
-    QTest::newRow("point, German") << german << "0.5";
-    QTest::newRow("comma, German") << german << "0,5";
-}
-
-void TestNumbers::pointAndCommaAreTheDecimalPoint()
-{
-    QFETCH(QLocale, locale);
-    QFETCH(QString, typed);
-    show();
-    QWidget *spinBox = edit(*m_editor, "real32");
-    spinBox->setLocale(locale);
-    QTest::keyClick(spinBox, Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClicks(spinBox, typed);
-    finish(spinBox);
-    QCOMPARE(m_sampler->real32.getValue(), 0.5f);
+    m_rows->field("real32").pushValueByStr(value.constData());
+    m_rows->show();
+    QCOMPARE(text(m_rows->editor(), "real32").toUtf8(), m_rows->textOf("real32"));
+    m_rows->press(m_rows->open("real32"));
+    QCOMPARE(m_rows->sampler().changes, 0);
+    setValue(m_rows->editor(), "real32", "2.5");
+    QCOMPARE(m_rows->sampler().real32.getValue(), 2.5f);
 }
 
 void TestNumbers::boxesShowTheirNumbersToTheLastDigit()
 {
-    const QtProperty *box = m_editor->createPropertyItem(
+    const QtProperty *box = m_rows->editor().createPropertyItem(
         "bounds", "SFBoxVolume", "1.000000e-07 -3.400000e+38 0.1 nan 16777216 -1.234567e-20");
     QStringList texts;
     for (const QtProperty *sub : box->subProperties())
         texts.append(sub->valueText());
-    QCOMPARE(
-        texts, QStringList({ "1e-07", "-3.4e+38", "0.1", "nan", "16777216", "-1.234567e-20" }));
-}
-
-void TestNumbers::anOpenEditorFollowsItsRow()
-{
-    show();
-    auto *spinBox = qobject_cast<QDoubleSpinBox *>(edit(*m_editor, "real32"));
-    setValue(*m_editor, "real32", 1e-7);
-    QCOMPARE(spinBox->value(), 1e-7);
-    setValue(*m_editor, "real64", 5.0);
-    QCOMPARE(spinBox->value(), 1e-7);
-    QCOMPARE(m_sampler->changes, 2);
+    QCOMPARE(texts,
+        QStringList({ "1e-07", inLocale("-3.4e+38"), inLocale("0.1"), "nan", "16777216",
+            inLocale("-1.234567e-20") }));
 }
 
 KAVO_TEST_MAIN(TestNumbers)

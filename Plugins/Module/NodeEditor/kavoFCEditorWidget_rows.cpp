@@ -1,6 +1,7 @@
 #include "kavoFCEditorWidget.h"
 
 #include "kavoCustomPropertyGLenum.h"
+#include "kavoRealSpinBox.h"
 
 #include <QHash>
 #include <QSet>
@@ -9,6 +10,7 @@
 #include <cfloat>
 #include <climits>
 #include <cmath>
+#include <locale>
 #include <sstream>
 
 namespace {
@@ -58,10 +60,12 @@ struct RowSource
     const QString &valueText;
 };
 
-// A tenth of the value's magnitude.
-double stepFor(double value)
+// The streams' numbers are those of the library's text, whatever the language of the program.
+std::istringstream numbersOf(const RowSource &source)
 {
-    return value == 0 ? 0.1 : std::pow(10, std::floor(std::log10(std::abs(value))) - 1);
+    std::istringstream numbers(source.valueText.toStdString());
+    numbers.imbue(std::locale::classic());
+    return numbers;
 }
 
 // Lets a row hold every value of its type, where the manager's defaults clamp and round.
@@ -71,7 +75,7 @@ void setRange(QtVariantProperty *row, const RowType &type, double value)
     row->setAttribute("maximum", type.maximum);
     if (type.kind == RowKind::Real) {
         row->setAttribute("decimals", maxDecimals);
-        row->setAttribute("singleStep", stepFor(value));
+        row->setAttribute("singleStep", kavoRealSpinBox::stepFor(value));
     }
 }
 
@@ -114,7 +118,7 @@ QtProperty *makeNumberRow(
 QtProperty *makeEnumRow(QtGLenumPropertyManager &manager, const RowSource &source)
 {
     unsigned int value = 0;
-    std::istringstream(source.valueText.toStdString()) >> value;
+    numbersOf(source) >> value;
     QtProperty *row = manager.addProperty(source.name);
     manager.setValue(row, value);
     row->setToolTip(source.typeName);
@@ -126,10 +130,10 @@ QtProperty *makeColorRow(QtKavoColorPropertyManager &manager, const RowSource &s
 {
     QtProperty *row = manager.addProperty(source.name);
     colorVal color { 0, 0, 0, 1 };
-    std::istringstream text(source.valueText.toStdString());
-    text >> color.r >> color.g >> color.b;
+    std::istringstream numbers = numbersOf(source);
+    numbers >> color.r >> color.g >> color.b;
     if (source.typeName == "SFColor4f")
-        text >> color.a;
+        numbers >> color.a;
     manager.setValue(row, color);
     row->setToolTip(source.typeName);
     return row;

@@ -4,11 +4,12 @@
 
 #include <QDoubleValidator>
 
-#include <limits>
+#include <cmath>
 
 namespace {
 
-// QDoubleSpinBox rounds to its decimals. With as many as a double may need it rounds nothing away.
+// QDoubleSpinBox rounds to its decimals. With as many as a normal double may need it rounds nothing
+// away.
 constexpr int allDecimals
     = std::numeric_limits<double>::max_exponent10 + std::numeric_limits<double>::digits10;
 
@@ -21,15 +22,25 @@ double withoutRoundingNoise(double value)
 }
 
 kavoRealSpinBox::kavoRealSpinBox(QWidget *parent)
-    : QDoubleSpinBox(parent)
+    : kavoRowSpinBox(parent)
 {
     setDecimals(allDecimals);
-    setKeyboardTracking(false);
 }
 
+double kavoRealSpinBox::stepFor(double value)
+{
+    return value == 0 ? 0.1 : std::pow(10, std::floor(std::log10(std::abs(value))) - 1);
+}
+
+// Steps from what is typed. A run of steps keeps the size of its first one: down from 1 it goes in
+// tenths to 0 and beyond.
 void kavoRealSpinBox::stepBy(int steps)
 {
-    setValue(withoutRoundingNoise(value() + steps * singleStep()));
+    const double from = hasAcceptableInput() ? locale().toDouble(text()) : value();
+    if (from != m_reached)
+        setSingleStep(stepFor(from));
+    setValue(withoutRoundingNoise(from + steps * singleStep()));
+    m_reached = locale().toDouble(text());
     selectAll();
 }
 

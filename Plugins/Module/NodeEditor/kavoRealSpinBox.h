@@ -1,19 +1,29 @@
 #pragma once
 
+#include "kavoRowSpinBox.h"
+
 #include <QDoubleSpinBox>
 
-/// Spin box for real numbers of any magnitude: holds a value to its last bit, shows it by its
-/// shortest text (kavoRealText), takes exponents, takes point and comma for the decimal point, and
-/// tells of a change when the typing is done.
-class kavoRealSpinBox : public QDoubleSpinBox
+#include <limits>
+
+/// Spin box for real numbers of any magnitude: holds every normal double to its last bit, shows it
+/// by its shortest text (kavoRealText), takes exponents, takes point and comma for the decimal
+/// point.
+class kavoRealSpinBox : public kavoRowSpinBox<QDoubleSpinBox>
 {
     Q_OBJECT
 
 public:
     explicit kavoRealSpinBox(QWidget *parent = nullptr);
 
+    /// A tenth of the value's magnitude.
+    static double stepFor(double value);
+
     void stepBy(int steps) override;
     QString textFromValue(double value) const override;
     double valueFromText(const QString &text) const override;
     QValidator::State validate(QString &text, int &position) const override;
+
+private:
+    double m_reached = std::numeric_limits<double>::quiet_NaN();
 };

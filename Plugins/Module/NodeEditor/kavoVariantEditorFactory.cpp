@@ -1,29 +1,66 @@
 #include "kavoVariantEditorFactory.h"
 
+#include "kavoIntSpinBox.h"
 #include "kavoRealSpinBox.h"
 
+#include <QLineEdit>
 #include <QSignalBlocker>
+
+#include <limits>
+
+namespace {
+
+// The property may die before the editor; the manager ignores properties that it does not hold.
+template <class Number, class SpinBox>
+QWidget *bindToRow(SpinBox *editor, QtVariantPropertyManager *manager, QtProperty *property)
+{
+    editor->setRange(manager->attributeValue(property, "minimum").value<Number>(),
+        manager->attributeValue(property, "maximum").value<Number>());
+    editor->setValue(manager->value(property).value<Number>());
+    QObject::connect(editor, qOverload<Number>(&SpinBox::valueChanged), manager,
+        [manager, property](Number value) { manager->setValue(property, value); });
+    QObject::connect(manager, &QtVariantPropertyManager::valueChanged, editor,
+        [editor, property](QtProperty *changed, const QVariant &value) {
+            const QSignalBlocker silent(editor);
+            if (changed == property)
+                editor->setValue(value.value<Number>());
+        });
+    return editor;
+}
+
+// The row of a 32-bit unsigned number holds its bits as a signed one.
+QWidget *createIntEditor(QtVariantPropertyManager *manager, QtProperty *property, QWidget *parent)
+{
+    auto *editor = new kavoIntSpinBox(parent);
+    if (property->toolTip() == QLatin1String("SFUInt32"))
+        editor->takeUnsigned();
+    return bindToRow<int>(editor, manager, property);
+}
+
+}
 
 QWidget *kavoVariantEditorFactory::createEditor(
     QtVariantPropertyManager *manager, QtProperty *property, QWidget *parent)
 {
-    if (manager->propertyType(property) != QVariant::Double)
+    switch (manager->propertyType(property)) {
+    case QVariant::Int:
+        return createIntEditor(manager, property, parent);
+    case QVariant::Double:
+        return bindToRow<double>(new kavoRealSpinBox(parent), manager, property);
+    case QVariant::String:
+        return createTextEditor(manager, property, parent);
+    default:
         return QtVariantEditorFactory::createEditor(manager, property, parent);
+    }
+}
 
-    auto *editor = new kavoRealSpinBox(parent);
-    editor->setRange(manager->attributeValue(property, "minimum").toDouble(),
-        manager->attributeValue(property, "maximum").toDouble());
-    editor->setSingleStep(manager->attributeValue(property, "singleStep").toDouble());
-    editor->setValue(manager->value(property).toDouble());
-
-    // The property may die before the editor; the manager ignores properties that it does not hold.
-    connect(editor, qOverload<double>(&QDoubleSpinBox::valueChanged), manager,
-        [manager, property](double value) { manager->setValue(property, value); });
-    connect(manager, &QtVariantPropertyManager::valueChanged, editor,
-        [editor, property](QtProperty *changed, const QVariant &value) {
-            const QSignalBlocker silent(editor);
-            if (changed == property)
-                editor->setValue(value.toDouble());
-        });
+QWidget *kavoVariantEditorFactory::createTextEditor(
+    QtVariantPropertyManager *manager, QtProperty *property, QWidget *parent)
+{
+    QWidget *editor = QtVariantEditorFactory::createEditor(manager, property, parent);
+    if (auto *line = qobject_cast<QLineEdit *>(editor)) {
+        line->setMaxLength(std::numeric_limits<int>::max());
+        line->setText(manager->value(property).toString());
+    }
     return editor;
 }

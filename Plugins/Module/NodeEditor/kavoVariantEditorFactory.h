@@ -2,8 +2,8 @@
 
 #include <qtvariantproperty.h>
 
-/// The variant factory with a kavoRealSpinBox for real numbers: the stock spin box rounds to the
-/// manager's decimals, 13 at most.
+/// The variant factory with editors that take and keep every value of a row: the stock ones round
+/// real numbers, cut whole numbers off at the digit that leaves the range, and cut long texts.
 class kavoVariantEditorFactory : public QtVariantEditorFactory
 {
     Q_OBJECT
@@ -14,4 +14,8 @@ public:
 protected:
     QWidget *createEditor(
         QtVariantPropertyManager *manager, QtProperty *property, QWidget *parent) override;
+
+private:
+    QWidget *createTextEditor(
+        QtVariantPropertyManager *manager, QtProperty *property, QWidget *parent);
 };

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr int longestText = 32767; // of a line edit
+constexpr int longestText = 32767; // that a line edit shows unless told otherwise
 
 bool isShownAsBlank(QChar c)
 {
