@@ -29,6 +29,7 @@ private slots:
     void aNullContainerEmptiesAFilledTree();
     void theCurrentRowGoesWithItsTree();
     void anOpenRowEditorGoesWithItsTree();
+    void anEditorTakesUnfinishedTypingWithIt();
     void rowsLeftFromAnEarlierContainerAreBoundNoMore();
     void showingTheSameContainerAgainMakesNewRows();
     void showingAnotherContainerReplacesTheRows();
@@ -140,6 +141,20 @@ void TestFCEditorWidget::anOpenRowEditorGoesWithItsTree()
     editor.setFC("sampler", sampler);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY(!open);
+    osg::subRefCP(sampler);
+}
+
+void TestFCEditorWidget::anEditorTakesUnfinishedTypingWithIt()
+{
+    const osg::FieldSamplerPtr sampler = osg::FieldSampler::create();
+    osg::addRefCP(sampler);
+    auto editor = std::make_unique<kavoFCEditorWidget>(nullptr, nullptr);
+    editor->show();
+    QVERIFY(QTest::qWaitForWindowActive(editor.get()));
+    editor->setFC("sampler", sampler);
+    QTest::keyClicks(edit(*editor, "real64"), "12.5");
+    editor.reset();
+    QCOMPARE(sampler->changes, 0);
     osg::subRefCP(sampler);
 }
 

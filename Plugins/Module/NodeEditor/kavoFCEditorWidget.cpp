@@ -50,7 +50,6 @@ kavoFCEditorWidget::~kavoFCEditorWidget()
 
 void kavoFCEditorWidget::setFC(const QString &name, osg::FieldContainerPtr fc)
 {
-    m_bindings.clear();
     deleteAllRows();
     clear();
     m_variantManager->clear();
@@ -59,10 +58,12 @@ void kavoFCEditorWidget::setFC(const QString &name, osg::FieldContainerPtr fc)
     setFC(nullptr, fc, name, false);
 }
 
+// What was typed and not finished arrives when its editor closes: nothing is bound any more then.
 // For each row that goes, the view's model looks at all rows that the view remembers as open or as
 // spanning both columns: it forgets them first.
 void kavoFCEditorWidget::deleteAllRows()
 {
+    m_bindings.clear();
     setCurrentItem(nullptr);
     findChild<QTreeWidget *>()->reset();
     deleteRows(properties());
