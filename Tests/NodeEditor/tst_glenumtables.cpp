@@ -93,7 +93,7 @@ std::map<QString, unsigned int> headerConstants(const QString &path)
 
 }
 
-class tst_GLenumTables : public QObject
+class TestGLenumTables : public QObject
 {
     Q_OBJECT
 private slots:
@@ -102,6 +102,8 @@ private slots:
     void theValueTableHas514Values();
     void firstNamesOfAValueStay_data();
     void firstNamesOfAValueStay();
+    void namesUnknownToTheSystemsHeadersHaveTheirValues_data();
+    void namesUnknownToTheSystemsHeadersHaveTheirValues();
     void valueOneHasNoName();
     void allAttribBitsHidesZeroUntilItBecomesNone();
     void droppedNamesLoseToTheKeptOnes_data();
@@ -125,7 +127,7 @@ private slots:
     void valuesAgreeWithTheSystemsHeaders();
 };
 
-void tst_GLenumTables::theRowsHaveTheKnownCounts()
+void TestGLenumTables::theRowsHaveTheKnownCounts()
 {
     QCOMPARE(allRows().size(), std::size_t(693));
     QCOMPARE(allNames().size(), std::size_t(545));
@@ -133,7 +135,7 @@ void tst_GLenumTables::theRowsHaveTheKnownCounts()
     QCOMPARE(droppedNames().size(), std::size_t(31));
 }
 
-void tst_GLenumTables::suffixesOfTheExtensionsAreCounted()
+void TestGLenumTables::suffixesOfTheExtensionsAreCounted()
 {
     const std::set<QString> names = allNames();
     const auto endsIn = [](const char *suffix) {
@@ -146,13 +148,13 @@ void tst_GLenumTables::suffixesOfTheExtensionsAreCounted()
         22);
 }
 
-void tst_GLenumTables::theValueTableHas514Values()
+void TestGLenumTables::theValueTableHas514Values()
 {
     QCOMPARE(data.enumToName.size(), std::size_t(514));
     QCOMPARE(data.enumToName.rbegin()->first, 0x80ECu);
 }
 
-void tst_GLenumTables::firstNamesOfAValueStay_data()
+void TestGLenumTables::firstNamesOfAValueStay_data()
 {
     QTest::addColumn<unsigned int>("value");
     QTest::addColumn<QString>("name");
@@ -165,18 +167,42 @@ void tst_GLenumTables::firstNamesOfAValueStay_data()
     QTest::newRow("largest") << 0x80ECu << "GL_FOG_SPECULAR_TEXTURE_WIN";
 }
 
-void tst_GLenumTables::firstNamesOfAValueStay()
+void TestGLenumTables::firstNamesOfAValueStay()
 {
     QFETCH(unsigned int, value);
     QTEST(data.enumToName.at(value), "name");
 }
 
-void tst_GLenumTables::valueOneHasNoName()
+void TestGLenumTables::namesUnknownToTheSystemsHeadersHaveTheirValues_data()
+{
+    QTest::addColumn<unsigned int>("value");
+    QTest::newRow("GL_COLOR_TABLE_FORMAT_EXT") << 0x80D8u;
+    QTest::newRow("GL_COLOR_TABLE_WIDTH_EXT") << 0x80D9u;
+    QTest::newRow("GL_COLOR_TABLE_RED_SIZE_EXT") << 0x80DAu;
+    QTest::newRow("GL_COLOR_TABLE_GREEN_SIZE_EXT") << 0x80DBu;
+    QTest::newRow("GL_COLOR_TABLE_BLUE_SIZE_EXT") << 0x80DCu;
+    QTest::newRow("GL_COLOR_TABLE_ALPHA_SIZE_EXT") << 0x80DDu;
+    QTest::newRow("GL_COLOR_TABLE_LUMINANCE_SIZE_EXT") << 0x80DEu;
+    QTest::newRow("GL_COLOR_TABLE_INTENSITY_SIZE_EXT") << 0x80DFu;
+    QTest::newRow("GL_MAX_ELEMENTS_VERTICES_WIN") << 0x80E8u;
+    QTest::newRow("GL_MAX_ELEMENTS_INDICES_WIN") << 0x80E9u;
+    QTest::newRow("GL_PHONG_WIN") << 0x80EAu;
+    QTest::newRow("GL_PHONG_HINT_WIN") << 0x80EBu;
+    QTest::newRow("GL_FOG_SPECULAR_TEXTURE_WIN") << 0x80ECu;
+}
+
+void TestGLenumTables::namesUnknownToTheSystemsHeadersHaveTheirValues()
+{
+    QFETCH(unsigned int, value);
+    QCOMPARE(data.enumToName.at(value), QString(QTest::currentDataTag()));
+}
+
+void TestGLenumTables::valueOneHasNoName()
 {
     QCOMPARE(data.enumToName.count(1), std::size_t(0));
 }
 
-void tst_GLenumTables::allAttribBitsHidesZeroUntilItBecomesNone()
+void TestGLenumTables::allAttribBitsHidesZeroUntilItBecomesNone()
 {
     std::map<unsigned int, QString> names;
     std::vector<std::set<unsigned int>> groups;
@@ -185,7 +211,7 @@ void tst_GLenumTables::allAttribBitsHidesZeroUntilItBecomesNone()
     QCOMPARE(groups.at(2), std::set<unsigned int> { 0 });
 }
 
-void tst_GLenumTables::droppedNamesLoseToTheKeptOnes_data()
+void TestGLenumTables::droppedNamesLoseToTheKeptOnes_data()
 {
     QTest::addColumn<QString>("dropped");
     QTest::addColumn<QString>("kept");
@@ -201,13 +227,13 @@ void tst_GLenumTables::droppedNamesLoseToTheKeptOnes_data()
                            << "GL_COLOR_BUFFER_BIT";
 }
 
-void tst_GLenumTables::droppedNamesLoseToTheKeptOnes()
+void TestGLenumTables::droppedNamesLoseToTheKeptOnes()
 {
     QFETCH(QString, dropped);
     QTEST(droppedNames().at(dropped), "kept");
 }
 
-void tst_GLenumTables::vertexArrayExtensionNamesLoseToTheCoreNames()
+void TestGLenumTables::vertexArrayExtensionNamesLoseToTheCoreNames()
 {
     std::map<QString, QString> expected;
     for (const QString &name : namesOf(kavoGLenumRows::groups.begin()[45])) {
@@ -219,7 +245,7 @@ void tst_GLenumTables::vertexArrayExtensionNamesLoseToTheCoreNames()
     QVERIFY(std::includes(dropped.begin(), dropped.end(), expected.begin(), expected.end()));
 }
 
-void tst_GLenumTables::groupsHaveTheirSizesAndEnds_data()
+void TestGLenumTables::groupsHaveTheirSizesAndEnds_data()
 {
     QTest::addColumn<int>("index");
     QTest::addColumn<int>("size");
@@ -287,7 +313,7 @@ void tst_GLenumTables::groupsHaveTheirSizesAndEnds_data()
         QTest::addRow("group %d", i) << i << groups[i].size << groups[i].first << groups[i].last;
 }
 
-void tst_GLenumTables::groupsHaveTheirSizesAndEnds()
+void TestGLenumTables::groupsHaveTheirSizesAndEnds()
 {
     QFETCH(int, index);
     const QStringList names = namesOf(kavoGLenumRows::groups.begin()[index]);
@@ -297,7 +323,7 @@ void tst_GLenumTables::groupsHaveTheirSizesAndEnds()
     QTEST(names.last(), "last");
 }
 
-void tst_GLenumTables::tellingGroupsHaveTheseNames_data()
+void TestGLenumTables::tellingGroupsHaveTheseNames_data()
 {
     QTest::addColumn<int>("index");
     QTest::addColumn<QString>("names");
@@ -323,13 +349,13 @@ void tst_GLenumTables::tellingGroupsHaveTheseNames_data()
         << 32 << "GL_SHORT GL_INT GL_FLOAT GL_DOUBLE GL_MODULATE GL_DECAL GL_BLEND GL_REPLACE";
 }
 
-void tst_GLenumTables::tellingGroupsHaveTheseNames()
+void TestGLenumTables::tellingGroupsHaveTheseNames()
 {
     QFETCH(int, index);
     QTEST(namesOf(kavoGLenumRows::groups.begin()[index]).join(' '), "names");
 }
 
-void tst_GLenumTables::groupSetsAreTheRowsInAscendingOrder()
+void TestGLenumTables::groupSetsAreTheRowsInAscendingOrder()
 {
     auto rows = kavoGLenumRows::groups.begin();
     for (const std::set<unsigned int> &group : data.groups) {
@@ -341,7 +367,7 @@ void tst_GLenumTables::groupSetsAreTheRowsInAscendingOrder()
     QCOMPARE(data.groups.at(37), (std::set<unsigned int> { 0x2600, 0x2601 }));
 }
 
-void tst_GLenumTables::exactlySeventeenFieldsAreKnown()
+void TestGLenumTables::exactlySeventeenFieldsAreKnown()
 {
     QStringList fields;
     for (const auto &entry : data.nameToEnums)
@@ -352,7 +378,7 @@ void tst_GLenumTables::exactlySeventeenFieldsAreKnown()
                        "srcFactor wrapR wrapS wrapT"));
 }
 
-void tst_GLenumTables::fieldsAllowTheseNames_data()
+void TestGLenumTables::fieldsAllowTheseNames_data()
 {
     QTest::addColumn<QString>("names");
     const char *materialColors = "NONE AMBIENT DIFFUSE SPECULAR EMISSION AMBIENT_AND_DIFFUSE";
@@ -387,12 +413,12 @@ void tst_GLenumTables::fieldsAllowTheseNames_data()
         QTest::newRow(field) << genFuncs;
 }
 
-void tst_GLenumTables::fieldsAllowTheseNames()
+void TestGLenumTables::fieldsAllowTheseNames()
 {
     QTEST(shownNames(QTest::currentDataTag()), "names");
 }
 
-void tst_GLenumTables::fieldsAllowTheseUnnamedValues_data()
+void TestGLenumTables::fieldsAllowTheseUnnamedValues_data()
 {
     QTest::addColumn<std::set<unsigned int>>("values");
     using Values = std::set<unsigned int>;
@@ -408,7 +434,7 @@ void tst_GLenumTables::fieldsAllowTheseUnnamedValues_data()
     QTest::newRow("internalFormat") << formats;
 }
 
-void tst_GLenumTables::fieldsAllowTheseUnnamedValues()
+void TestGLenumTables::fieldsAllowTheseUnnamedValues()
 {
     std::set<unsigned int> unnamed;
     for (unsigned int value : data.nameToEnums.at(QTest::currentDataTag())) {
@@ -419,7 +445,7 @@ void tst_GLenumTables::fieldsAllowTheseUnnamedValues()
     QCOMPARE(unnamed, values);
 }
 
-void tst_GLenumTables::internalFormatsAre55OfWhich16HaveNoName()
+void TestGLenumTables::internalFormatsAre55OfWhich16HaveNoName()
 {
     const std::set<unsigned int> &formats = data.nameToEnums.at("internalFormat");
     QCOMPARE(formats.size(), std::size_t(55));
@@ -428,20 +454,20 @@ void tst_GLenumTables::internalFormatsAre55OfWhich16HaveNoName()
         16);
 }
 
-void tst_GLenumTables::destinationFactorsLackSourceAlphaSaturate()
+void TestGLenumTables::destinationFactorsLackSourceAlphaSaturate()
 {
     std::set<unsigned int> source = data.nameToEnums.at("srcFactor");
     QCOMPARE(source.erase(0x0308), std::size_t(1));
     QCOMPARE(data.nameToEnums.at("destFactor"), source);
 }
 
-void tst_GLenumTables::otherNamesAreNotFound()
+void TestGLenumTables::otherNamesAreNotFound()
 {
     for (const char *name : { "", "MinFilter", "minFilter ", "rescale", "cullFace" })
         QCOMPARE(data.nameToEnums.count(name), std::size_t(0));
 }
 
-void tst_GLenumTables::setupKeepsWhatTheTablesHold()
+void TestGLenumTables::setupKeepsWhatTheTablesHold()
 {
     std::map<unsigned int, QString> names { { 0x0100, "mine" } };
     std::vector<std::set<unsigned int>> groups(1);
@@ -450,14 +476,14 @@ void tst_GLenumTables::setupKeepsWhatTheTablesHold()
     QCOMPARE(groups.size(), std::size_t(52));
 }
 
-void tst_GLenumTables::membersStandInOrder()
+void TestGLenumTables::membersStandInOrder()
 {
     QVERIFY(static_cast<const void *>(&data) == &data.nameToEnums);
     QVERIFY(static_cast<const void *>(&data.nameToEnums) < &data.enumToName);
     QVERIFY(static_cast<const void *>(&data.enumToName) < &data.groups);
 }
 
-void tst_GLenumTables::valuesAgreeWithTheSystemsHeaders()
+void TestGLenumTables::valuesAgreeWithTheSystemsHeaders()
 {
     std::map<QString, unsigned int> header = headerConstants(GL_HEADER_DIR "/gl.h");
     header.merge(headerConstants(GL_HEADER_DIR "/glext.h"));
@@ -472,5 +498,5 @@ void tst_GLenumTables::valuesAgreeWithTheSystemsHeaders()
     QVERIFY2(compared > 650, qPrintable(QString::number(compared)));
 }
 
-QTEST_APPLESS_MAIN(tst_GLenumTables)
+QTEST_APPLESS_MAIN(TestGLenumTables)
 #include "tst_glenumtables.moc"
