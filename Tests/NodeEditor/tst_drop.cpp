@@ -309,7 +309,7 @@ void TestDrop::anIncompleteItemIsNoItem_data()
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<bool>("shows");
     QTest::newRow("one id") << payload({ node }) << false;
-    QTest::newRow("one id and a half") << payload({ node }) + "\0\0" << false;
+    QTest::newRow("one id and a half") << payload({ node }) + QByteArray(2, '\0') << false;
     QTest::newRow("three ids") << payload({ node, 0, node }) << true;
     QTest::newRow("two ids and a byte") << payload({ node, 0 }) + "x" << true;
 }

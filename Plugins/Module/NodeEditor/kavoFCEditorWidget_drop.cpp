@@ -29,7 +29,8 @@ std::vector<qint32> readItems(const QByteArray &payload, int idsPerItem)
     return firstIds;
 }
 
-// Null for an id of nothing, of a dead container and of a container that is no node.
+// Null for an id of nothing, of a dead container and of a container that is no node. A bare handle:
+// a kavoNodePtr that drops the only reference to a node would destroy it.
 osg::NodePtr nodeOf(qint32 id)
 {
     const auto *factory = osg::FieldContainerFactory::the();
