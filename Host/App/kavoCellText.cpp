@@ -1,10 +1,9 @@
 #include "kavoCellText.h"
 
-#include <QString>
+#include "kavoUtf8.h"
 
 #include <algorithm>
 #include <cctype>
-#include <cstring>
 
 namespace {
 
@@ -59,18 +58,36 @@ std::string kavoCellText::encode(const std::string &text) const
 {
     if (isNumber(text, '.'))
         return replaced(text, '.', m_decimalSeparator);
-    if (m_guardsFormulas && needsGuard(text))
-        return guard + validUtf8(text);
-    return validUtf8(text);
+    return guarded(kavoUtf8::valid(text));
 }
 
 std::string kavoCellText::decode(const std::string &cell) const
 {
-    if (m_guardsFormulas && !cell.empty() && cell.front() == guard)
+    if (isGuarded(cell))
         return cell.substr(1);
     if (isNumber(cell, m_decimalSeparator))
         return replaced(cell, m_decimalSeparator, '.');
     return cell;
+}
+
+std::string kavoCellText::encodeKey(const std::string &key) const
+{
+    return guarded(kavoUtf8::escaped(key));
+}
+
+std::string kavoCellText::decodeKey(const std::string &cell) const
+{
+    return kavoUtf8::unescaped(isGuarded(cell) ? cell.substr(1) : cell);
+}
+
+std::string kavoCellText::guarded(const std::string &text) const
+{
+    return m_guardsFormulas && needsGuard(text) ? guard + text : text;
+}
+
+bool kavoCellText::isGuarded(const std::string &cell) const
+{
+    return m_guardsFormulas && !cell.empty() && cell.front() == guard;
 }
 
 // An apostrophe of the text's own needs one as well, to be told from a guard.
@@ -80,12 +97,4 @@ bool kavoCellText::needsGuard(const std::string &text) const
     if (text.empty())
         return false;
     return starters.find(text.front()) != std::string::npos || isNumber(text, m_decimalSeparator);
-}
-
-std::string kavoCellText::validUtf8(const std::string &text)
-{
-    const auto isAscii = [](char letter) { return static_cast<unsigned char>(letter) < 0x80; };
-    if (std::all_of(text.begin(), text.end(), isAscii))
-        return text;
-    return QString::fromStdString(text).toStdString();
 }

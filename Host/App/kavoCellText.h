@@ -11,16 +11,20 @@ public:
     /// number that it is not, gets an apostrophe before it
     explicit kavoCellText(char decimalSeparator = '.', bool guardsFormulas = false);
 
-    /// Valid UTF-8. Numbers get the decimal separator.
+    /// UTF-8, with U+FFFD for bytes that are none. Numbers get the decimal separator.
     std::string encode(const std::string &text) const;
     /// The text that encode() makes this cell of. Unguarded, a text that has the form of a number
     /// with a decimal comma is taken for one.
     std::string decode(const std::string &cell) const;
 
-    /// The text, with U+FFFD for bytes that are no UTF-8.
-    static std::string validUtf8(const std::string &text);
+    /// The same for keys, at which columns are known again: the bytes of any key come back, and
+    /// none is taken for a number. kavoUtf8::escaped() tells how.
+    std::string encodeKey(const std::string &key) const;
+    std::string decodeKey(const std::string &cell) const;
 
 private:
+    std::string guarded(const std::string &text) const;
+    bool isGuarded(const std::string &cell) const;
     bool needsGuard(const std::string &text) const;
 
     char m_decimalSeparator;

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <string_view>
+#include <unordered_map>
 
 namespace {
 
@@ -41,9 +42,9 @@ std::vector<kavoTable::Column> columnsOf(const Cells &header, const kavoCellText
     if (header.size() < fixed.size() || !std::equal(fixed.begin(), fixed.end(), header.begin()))
         fail(1, tr("the columns id, path, name and type are not the first"));
     std::vector<kavoTable::Column> columns;
-    std::map<std::string, int> count;
+    std::unordered_map<std::string, int> count;
     for (std::size_t i = fixed.size(); i < header.size(); ++i) {
-        const std::string key = cellText.decode(header[i]);
+        const std::string key = cellText.decodeKey(header[i]);
         columns.emplace_back(key, count[key]++);
     }
     return columns;
@@ -65,7 +66,7 @@ kavoTable::Row rowOf(const Cells &cells, int line, const kavoTable &table)
     kavoTable::Row row { line, parseId(cells[0], line), table.cellText.decode(cells[1]), {} };
     for (std::size_t i = fixed; i < cells.size(); ++i) {
         if (!cells[i].empty())
-            row.cells.emplace(table.columns[i - fixed], cells[i]);
+            row.cells.push_back({ i - fixed, cells[i] });
     }
     return row;
 }
@@ -75,6 +76,7 @@ kavoTable::Row rowOf(const Cells &cells, int line, const kavoTable &table)
 kavoTable kavoCsvReader::read(const std::string &text, const kavoTableOptions &options)
 {
     kavoTable table;
+    table.missingCellsAreEmpty = true;
     table.cellText = kavoCellText(options.decimalSeparator, options.guardsFormulas);
     kavoCsvParser parser(text, findDelimiter(text));
     Cells cells;

@@ -23,7 +23,7 @@ void kavoCsvWriter::writeHeader(const std::vector<std::string> &keys)
     for (const std::string &column : fixedColumns())
         append(column);
     for (const std::string &key : keys)
-        append(key);
+        appendCell(m_cellText.encodeKey(key));
     endLine();
 }
 
@@ -41,7 +41,11 @@ void kavoCsvWriter::writeRow(const Node &node, const Cells &cells)
 
 void kavoCsvWriter::append(const std::string &text)
 {
-    const std::string cell = m_cellText.encode(text);
+    appendCell(m_cellText.encode(text));
+}
+
+void kavoCsvWriter::appendCell(const std::string &cell)
+{
     if (cell.find_first_of(m_quotable) == std::string::npos) {
         m_line += cell;
     } else {

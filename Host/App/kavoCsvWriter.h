@@ -17,6 +17,7 @@ public:
 
 private:
     void append(const std::string &text);
+    void appendCell(const std::string &cell);
     void endLine();
 
     std::ostream &m_out;

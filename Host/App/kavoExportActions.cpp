@@ -65,9 +65,12 @@ void kavoExportActions::importTable()
     kavoTableImportDialog dialog(m_window);
     if (dialog.exec() != QDialog::Accepted)
         return;
-    run(dialog.windowTitle(), [&](const kavoMonitor &) {
-        show(kavoTableImport::run(kavoScenegraph::getRoot(), file, dialog.options(file)));
-        return true;
+    run(dialog.windowTitle(), [&](const kavoMonitor &monitor) {
+        const auto report = kavoTableImport::run(
+            kavoScenegraph::getRoot(), file, dialog.options(file), monitor);
+        if (report)
+            show(*report);
+        return report.has_value();
     });
 }
 

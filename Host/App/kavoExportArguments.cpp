@@ -128,7 +128,7 @@ void kavoExportArguments::run(const osg::NodePtr &scene, const osg::NodePtr &par
 int kavoExportArguments::importTable(const osg::NodePtr &scene) const
 {
     const kavoTableImport::Report report
-        = kavoTableImport::run(scene, m_importFile, optionsFor(m_importFile));
+        = kavoTableImport::run(scene, m_importFile, optionsFor(m_importFile)).value();
     for (const QString &row : report.unplacedRows)
         std::fprintf(stderr, "kavo: %s\n", qUtf8Printable(row));
     std::printf("%s\n", qUtf8Printable(report.summary()));

@@ -1,6 +1,7 @@
 #include "kavoJsonLinesReader.h"
 
 #include "kavoTaskError.h"
+#include "kavoUtf8.h"
 
 #include <QCoreApplication>
 #include <QJsonArray>
@@ -8,6 +9,8 @@
 #include <QJsonObject>
 
 #include <limits>
+#include <map>
+#include <utility>
 
 namespace {
 
@@ -31,42 +34,56 @@ osg::UInt32 idOf(const QJsonObject &object)
     return osg::UInt32(id);
 }
 
-kavoTable::Row rowOf(const QByteArray &line)
+// A byte order mark that begins a text gets lost in the parser unless it is escaped.
+QJsonObject objectOf(QByteArray line)
 {
     QJsonParseError error;
-    const QJsonDocument document = QJsonDocument::fromJson(line, &error);
+    const QJsonDocument document
+        = QJsonDocument::fromJson(line.replace("\xEF\xBB\xBF", "\\ufeff"), &error);
     if (error.error != QJsonParseError::NoError)
         throw kavoTaskError(error.errorString());
-    const QJsonObject object = document.object();
-    if (!object.value(QLatin1String("values")).isObject())
-        throw kavoTaskError(tr("no values"));
-    kavoTable::Row row { 0, idOf(object), textOf(object.value(QLatin1String("path"))), {} };
-    const QJsonObject values = object.value(QLatin1String("values")).toObject();
-    for (auto member = values.begin(); member != values.end(); ++member) {
-        const QJsonValue value = member.value();
-        const QJsonArray list = value.isArray() ? value.toArray() : QJsonArray { value };
-        for (int i = 0; i < list.size(); ++i)
-            row.cells[{ member.key().toStdString(), i }] = textOf(list[i]);
-    }
-    return row;
+    return document.object();
 }
 
 }
 
 kavoTable kavoJsonLinesReader::read(const std::string &text)
 {
-    kavoTable table;
+    kavoJsonLinesReader reader;
     int number = 0;
     for (const QByteArray &line : QByteArray::fromStdString(text).split('\n')) {
         ++number;
         if (line.trimmed().isEmpty())
             continue;
         try {
-            table.rows.push_back(rowOf(line));
-            table.rows.back().line = number;
+            reader.addRow(objectOf(line), number);
         } catch (const kavoTaskError &error) {
             throw kavoTaskError(tr("line %1: %2").arg(number).arg(error.message()));
         }
     }
-    return table;
+    return std::move(reader.m_table);
+}
+
+void kavoJsonLinesReader::addRow(const QJsonObject &object, int line)
+{
+    if (!object.value(QLatin1String("values")).isObject())
+        throw kavoTaskError(tr("no values"));
+    kavoTable::Row row { line, idOf(object), textOf(object.value(QLatin1String("path"))), {} };
+    const QJsonObject values = object.value(QLatin1String("values")).toObject();
+    for (auto member = values.begin(); member != values.end(); ++member) {
+        const std::string key = kavoUtf8::unescaped(member.key().toStdString());
+        const QJsonValue value = member.value();
+        const QJsonArray list = value.isArray() ? value.toArray() : QJsonArray { value };
+        for (int i = 0; i < list.size(); ++i)
+            row.cells.push_back({ columnOf(key, i), textOf(list[i]) });
+    }
+    m_table.rows.push_back(std::move(row));
+}
+
+std::size_t kavoJsonLinesReader::columnOf(const std::string &key, int occurrence)
+{
+    const auto [place, isNew] = m_columns.try_emplace({ key, occurrence }, m_table.columns.size());
+    if (isNew)
+        m_table.columns.push_back(place->first);
+    return place->second;
 }

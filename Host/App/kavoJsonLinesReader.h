@@ -2,7 +2,10 @@
 
 #include "kavoTable.h"
 
+#include <map>
 #include <string>
+
+class QJsonObject;
 
 /// Reads what kavoJsonLinesWriter writes. Of the members only id, path and values count.
 class kavoJsonLinesReader
@@ -10,4 +13,11 @@ class kavoJsonLinesReader
 public:
     /// \throws kavoTaskError if the text is malformed
     static kavoTable read(const std::string &text);
+
+private:
+    void addRow(const QJsonObject &object, int line);
+    std::size_t columnOf(const std::string &key, int occurrence);
+
+    kavoTable m_table;
+    std::map<kavoTable::Column, std::size_t> m_columns;
 };

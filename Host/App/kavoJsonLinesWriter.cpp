@@ -1,5 +1,7 @@
 #include "kavoJsonLinesWriter.h"
 
+#include "kavoUtf8.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -27,7 +29,9 @@ kavoJsonLinesWriter::kavoJsonLinesWriter(std::ostream &out)
 
 void kavoJsonLinesWriter::writeHeader(const std::vector<std::string> &keys)
 {
-    m_keys = keys;
+    m_keys.clear();
+    for (const std::string &key : keys)
+        m_keys.push_back(kavoUtf8::toString(kavoUtf8::escaped(key)));
 }
 
 void kavoJsonLinesWriter::writeRow(const Node &node, const Cells &cells)
@@ -35,12 +39,12 @@ void kavoJsonLinesWriter::writeRow(const Node &node, const Cells &cells)
     QJsonObject values;
     for (std::size_t i = 0; i < cells.size(); ++i) {
         if (cells[i])
-            addValue(values, QString::fromStdString(m_keys[i]), QString::fromStdString(*cells[i]));
+            addValue(values, m_keys[i], kavoUtf8::toString(*cells[i]));
     }
     const QJsonObject row { { QStringLiteral("id"), qint64(node.id) },
-        { QStringLiteral("path"), QString::fromStdString(node.path) },
-        { QStringLiteral("name"), QString::fromStdString(node.name) },
-        { QStringLiteral("type"), QString::fromStdString(node.type) },
+        { QStringLiteral("path"), kavoUtf8::toString(node.path) },
+        { QStringLiteral("name"), kavoUtf8::toString(node.name) },
+        { QStringLiteral("type"), kavoUtf8::toString(node.type) },
         { QStringLiteral("values"), values } };
     const QByteArray line = QJsonDocument(row).toJson(QJsonDocument::Compact) + '\n';
     m_out.write(line.constData(), line.size());

@@ -2,6 +2,8 @@
 
 #include "kavoTableWriter.h"
 
+#include <QString>
+
 /// Writes JSON Lines, an object for each row: the members id, path, name, type and values, which is
 /// an object with a text for each key, or a list of texts where the node has the key repeatedly.
 class kavoJsonLinesWriter : public kavoTableWriter
@@ -14,5 +16,5 @@ public:
 
 private:
     std::ostream &m_out;
-    std::vector<std::string> m_keys;
+    std::vector<QString> m_keys; ///< as they are written
 };

@@ -1,5 +1,7 @@
 #include "kavoPathWalk.h"
 
+#include "kavoUtf8.h"
+
 #include <kavoNodeUtils.h>
 
 #include <algorithm>
@@ -13,17 +15,15 @@ const char *nameOf(const osg::NodePtr &node)
     return name ? name : "";
 }
 
-void appendEscaped(std::string &path, const char *name)
+void appendEscaped(std::string &path, const std::string &name)
 {
-    static const char digits[] = "0123456789ABCDEF";
-    for (; *name; ++name) {
-        if (std::strchr("/%[]", *name)) {
-            path += '%';
-            path += digits[*name >> 4];
-            path += digits[*name & 15];
-        } else {
-            path += *name;
-        }
+    for (std::size_t place = 0; place < name.size();) {
+        const std::size_t length = kavoUtf8::lengthAt(name, place);
+        if (length == 0 || std::strchr("/%[]", name[place]))
+            kavoUtf8::appendEscape(path, name[place]);
+        else
+            path.append(name, place, length);
+        place += std::max<std::size_t>(length, 1);
     }
 }
 

@@ -10,7 +10,8 @@
 ///
 /// A path is made of the names from the scene's root down, each after a slash: "/Car/Wheel[2]". The
 /// second and further siblings of one name have their number among these; the letters / % [ ] of a
-/// name are written as % and two hexadecimal digits. So no two nodes of a scene have the same path.
+/// name, and bytes that are no UTF-8, are written as % and two hexadecimal digits. So paths are
+/// UTF-8, and no two nodes of a scene have the same.
 class kavoPathWalk
 {
 public:

@@ -1,5 +1,7 @@
 #include "kavoPatterns.h"
 
+#include "kavoUtf8.h"
+
 #include <algorithm>
 
 kavoPatterns::kavoPatterns(const QString &patterns)
@@ -12,7 +14,7 @@ bool kavoPatterns::matches(const std::string &text) const
 {
     if (m_patterns.isEmpty())
         return true;
-    const QString string = QString::fromStdString(text);
+    const QString string = kavoUtf8::toString(text);
     return std::any_of(m_patterns.begin(), m_patterns.end(),
         [&](const QRegExp &pattern) { return pattern.exactMatch(string); });
 }

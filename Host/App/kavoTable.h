@@ -4,7 +4,6 @@
 
 #include <OpenSG/OSGBaseTypes.h>
 
-#include <map>
 #include <string>
 #include <utility>
 #include <vector>
@@ -15,17 +14,24 @@ struct kavoTable
     /// A key, and which of several of that key in a node, counted from 0.
     using Column = std::pair<std::string, int>;
 
+    struct Cell
+    {
+        std::size_t column; ///< index in columns
+        std::string text; ///< as it stands in the file, to be decoded
+    };
+
     struct Row
     {
         int line; ///< in the file, counted from 1
         osg::UInt32 id;
         std::string path;
-        std::map<Column, std::string> cells; ///< as they stand in the file, to be decoded
+        std::vector<Cell> cells; ///< at most one for each column
     };
 
-    /// Columns whose values are empty in rows that have no cell for them. Of all others a row tells
-    /// nothing if it has no cell.
-    std::vector<Column> columns;
+    std::vector<Column> columns; ///< each once, those of a key in the order of occurrence
+    /// Whether a row says of a column for which it has no cell that the value is empty. Else it
+    /// says nothing of it.
+    bool missingCellsAreEmpty = false;
     kavoCellText cellText;
     std::vector<Row> rows;
 };

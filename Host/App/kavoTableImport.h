@@ -1,12 +1,14 @@
 #pragma once
 
-#include "kavoTable.h"
 #include "kavoTableOptions.h"
+#include "kavoTaskProgress.h"
 
 #include <OpenSG/OSGNode.h>
 
 #include <QString>
 #include <QStringList>
+
+#include <optional>
 
 /// Writes the values of an edited table back to the nodes of a scene.
 ///
@@ -19,16 +21,16 @@ public:
     {
         int changedValues = 0;
         int changedNodes = 0;
-        QStringList unplacedRows; ///< one line of text for each
+        /// Those that kavoRowPlacer has no place for, one line of text for each. Nothing of them
+        /// was written.
+        QStringList unplacedRows;
 
         QString summary() const;
     };
 
     /// \param options format, decimal separator and guard as at the export
+    /// \returns nothing if the monitor canceled it; nothing is changed then
     /// \throws kavoTaskError if the file cannot be read or is malformed; nothing is changed then
-    static Report run(
-        const osg::NodePtr &root, const QString &fileName, const kavoTableOptions &options);
-
-private:
-    static int apply(const kavoTable &table, const kavoTable::Row &row, const osg::NodePtr &node);
+    static std::optional<Report> run(const osg::NodePtr &root, const QString &fileName,
+        const kavoTableOptions &options, const kavoMonitor &monitor = {});
 };

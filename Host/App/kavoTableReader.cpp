@@ -3,10 +3,10 @@
 #include "kavoCsvReader.h"
 #include "kavoJsonLinesReader.h"
 #include "kavoTaskError.h"
+#include "kavoUtf8.h"
 
 #include <QCoreApplication>
 #include <QFile>
-#include <QTextCodec>
 
 namespace {
 
@@ -15,24 +15,17 @@ QString tr(const char *text)
     return QCoreApplication::translate("kavoTableReader", text);
 }
 
-void checkUtf8(const QByteArray &text)
-{
-    QTextCodec::ConverterState state;
-    QTextCodec::codecForName("UTF-8")->toUnicode(text.constData(), text.size(), &state);
-    if (state.invalidChars > 0 || state.remainingChars > 0)
-        throw kavoTaskError(tr("the text is not UTF-8"));
-}
-
 std::string readText(const QString &fileName)
 {
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly))
         throw kavoTaskError(file.errorString());
-    QByteArray text = file.readAll();
-    checkUtf8(text);
-    if (text.startsWith("\xEF\xBB\xBF"))
-        text.remove(0, 3);
-    return text.toStdString();
+    std::string text = file.readAll().toStdString();
+    if (!kavoUtf8::isValid(text))
+        throw kavoTaskError(tr("the text is not UTF-8"));
+    if (text.compare(0, 3, "\xEF\xBB\xBF") == 0)
+        text.erase(0, 3);
+    return text;
 }
 
 }
@@ -41,8 +34,9 @@ kavoTable kavoTableReader::read(const QString &fileName, const kavoTableOptions 
 {
     try {
         const std::string text = readText(fileName);
-        return options.format == kavoTableOptions::JsonLines ? kavoJsonLinesReader::read(text)
-                                                             : kavoCsvReader::read(text, options);
+        const bool isJson
+            = options.format == kavoTableOptions::JsonLines || text.compare(0, 1, "{") == 0;
+        return isJson ? kavoJsonLinesReader::read(text) : kavoCsvReader::read(text, options);
     } catch (const kavoTaskError &error) {
         throw kavoTaskError(tr("Cannot import '%1': %2").arg(fileName, error.message()));
     }

@@ -9,8 +9,8 @@
 class kavoTableReader
 {
 public:
-    /// \param options format, decimal separator and guard as at the export; the delimiter of CSV is
-    /// found out
+    /// \param options decimal separator and guard as at the export. The delimiter of CSV is found
+    /// out, and that a table is JSON Lines, too; of an empty one the format tells
     /// \throws kavoTaskError if the file cannot be read or is not such a table; it names the line
     static kavoTable read(const QString &fileName, const kavoTableOptions &options);
 };

@@ -34,7 +34,7 @@ struct kavoTableFixture
         file.open(QIODevice::WriteOnly);
         file.write(text);
         file.close();
-        return kavoTableImport::run(root, path(), options);
+        return kavoTableImport::run(root, path(), options).value();
     }
 
     /// The part of the line with that number (from 0) that stands behind the fixed columns.

@@ -35,7 +35,6 @@ private slots:
     void formulasAreGuarded();
     void theGuardCanBeLeftOut();
     void aByteOrderMarkIsWrittenOnRequest();
-    void bytesThatAreNoUtf8AreReplaced();
     void aRepeatedKeyGetsColumnsOfOneName();
     void missingValuesAreEmpty();
     void columnsAreChosenByPattern();
@@ -44,7 +43,6 @@ private slots:
     void jsonLinesTellTheSame();
     void theEndingOfTheNameTellsTheFormat();
     void siblingsOfOneNameHaveNumbers();
-    void lettersWithAMeaningInPathsAreEscaped();
     void aTableThatCannotBeWrittenIsExplained();
     void cancelingLeavesNothing();
 
@@ -199,12 +197,6 @@ void tst_ValuePairTable::aByteOrderMarkIsWrittenOnRequest()
     QVERIFY(m_table->exported().startsWith("\xEF\xBB\xBFid"));
 }
 
-void tst_ValuePairTable::bytesThatAreNoUtf8AreReplaced()
-{
-    addNode(m_table->root, "Mast", { { "k", "a\xE4z" } });
-    QCOMPARE(m_table->cells(1), QByteArray("a\xEF\xBF\xBDz"));
-}
-
 void tst_ValuePairTable::aRepeatedKeyGetsColumnsOfOneName()
 {
     addNode(m_table->root, "Mast", { { "k", "1" }, { "l", "2" }, { "k", "3" } });
@@ -303,12 +295,6 @@ void tst_ValuePairTable::siblingsOfOneNameHaveNumbers()
     while (walk.next())
         paths += QByteArray::fromStdString(walk.path()) + ' ';
     QCOMPARE(paths, QByteArray("/Hull /Hull/Oar /Hull/Mast /Hull/Oar[2] /Hull/Oar[3] "));
-}
-
-void tst_ValuePairTable::lettersWithAMeaningInPathsAreEscaped()
-{
-    addNode(m_table->root, "a/b[2]%", { { "k", "1" } });
-    QVERIFY(m_table->exported().contains(",/Hull/a%2Fb%5B2%5D%25,a/b[2]%,"));
 }
 
 void tst_ValuePairTable::aTableThatCannotBeWrittenIsExplained()
