@@ -1,3 +1,4 @@
+#include "SceneGrammar.h"
 #include "SceneText.h"
 
 #include <OpenSG/OSGAction.h>
@@ -7,6 +8,7 @@
 #include <QtTest>
 
 #include <random>
+#include <sstream>
 
 using namespace osg;
 
@@ -27,6 +29,8 @@ private slots:
     void tokensInAnyOrder();
     void bytesInAnyOrder();
     void nestedBrackets();
+    void containersUsedAnywhere_data();
+    void containersUsedAnywhere();
 
 private:
     typedef std::mt19937 Random;
@@ -47,6 +51,11 @@ const std::vector<std::string> words { "Node", "Group", "Name", "name", "childre
     "Geometry", "positions", "GeoPositions3f", "MultiPassMaterial", "materials", "DEF", "USE",
     "NULL", "A", "B", "C", "{", "}", "[", "]", "1", "-2.5e3", "0x1f", "TRUE", "\"text\"", "\"", "#",
     "\n", "'", "\xff" };
+
+Action::ResultE findCore(NodePtr &node)
+{
+    return node->getCore() ? Action::Continue : Action::Quit;
+}
 
 } // namespace
 
@@ -71,9 +80,8 @@ std::string tst_SceneFileFuzz::sample(const QString &name)
 void tst_SceneFileFuzz::survive(const std::string &text)
 {
     if (const NodePtr root = m_text.read(text)) {
-        const auto visit
-            = [](NodePtr &node) { return node->getCore() ? Action::Continue : Action::Quit; };
-        QCOMPARE(traverse(root, TraverseEnterFunctor(visit)), Action::Continue);
+        const auto visit = osgTypedFunctionFunctor1CPtrRef<Action::ResultE, NodePtr>(findCore);
+        QCOMPARE(traverse(root, visit), Action::Continue);
         root->updateVolume();
         const std::string written = m_text.write(root);
         m_text.takeLog();
@@ -173,6 +181,26 @@ void tst_SceneFileFuzz::nestedBrackets()
         }
         m_text.read(text);
         QVERIFY(m_text.takeLog().find("parse error") != std::string::npos);
+    }
+}
+
+void tst_SceneFileFuzz::containersUsedAnywhere_data()
+{
+    QTest::addColumn<bool>("areShared");
+
+    QTest::newRow("as in the file") << false;
+    QTest::newRow("with the default sequence") << true;
+}
+
+void tst_SceneFileFuzz::containersUsedAnywhere()
+{
+    QFETCH(bool, areShared);
+    GraphOpSeq *operations = areShared ? SceneFileHandler::the().getDefaultGraphOp() : nullptr;
+    for (unsigned seed = 0; seed < 1000; ++seed) {
+        std::istringstream text(SceneGrammar(seed).scene());
+        const NodeRefPtr root(SceneFileHandler::the().read(text, "osg", operations));
+        survive(m_text.write(root.get()));
+        const NodeRefPtr copy(cloneTree(root.get()));
     }
 }
 

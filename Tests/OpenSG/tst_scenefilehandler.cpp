@@ -34,6 +34,7 @@ private slots:
     void aFileThatCannotBeMadeFails();
     void anEmptyFileGivesNull();
     void nullIsNotWritten();
+    void nullLeavesAFileAsItIs();
     void callbacksOfARead();
     void callbacksOfAWrite();
     void topNodesAreTheContainersThemselves();
@@ -204,6 +205,13 @@ void tst_SceneFileHandler::nullIsNotWritten()
     std::ostringstream out;
     QVERIFY(!SceneFileHandler::the().write(NullFC, out, "osg"));
     QCOMPARE(out.str(), std::string());
+}
+
+void tst_SceneFileHandler::nullLeavesAFileAsItIs()
+{
+    aFileIsWrittenAndRead();
+    QVERIFY(!SceneFileHandler::the().write(NullFC, file("a.osg").c_str()));
+    QVERIFY(QFileInfo(m_folder.filePath("a.osg")).size() > 0);
 }
 
 void tst_SceneFileHandler::callbacksOfARead()

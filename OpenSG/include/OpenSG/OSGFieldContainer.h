@@ -87,6 +87,7 @@ protected:
     void executeSyncImpl(FieldContainer *pOther, const BitVector &whichField);
 
 private:
+    friend class ContainerKeeper;
     friend class FieldContainerPtrBase;
     friend void addRefCP(const FieldContainerPtrBase &handle);
     friend void subRefCP(const FieldContainerPtrBase &handle);

@@ -25,8 +25,9 @@ public:
     static SceneFileHandler &the();
     virtual ~SceneFileHandler() = default;
 
-    /// A new root with a Group core; all that stands at the top of the file is below it. Null, and
-    /// a line in the log, if there is no such file, format or scene.
+    /// A new root with a Group core; the nodes and cores that stand at the top of the file are
+    /// below it. Null, and a line in the log, if there is no such file or format, or no node or
+    /// core in the file.
     ///
     /// The operations of `graphOpSeq` are applied to the scene. Those of the default sequence
     /// merge equal materials and state chunks; NULL gives the scene as it is in the file.
@@ -34,16 +35,16 @@ public:
     virtual NodePtr read(
         std::istream &is, const Char8 *ext, GraphOpSeq *graphOpSeq = _defaultgraphOpSeq);
 
-    /// The containers at the top of the file themselves; empty where read() gives null. The
-    /// operations are applied to those that are nodes.
+    /// The containers of all types at the top of the file themselves. Empty, and a line in the log,
+    /// if there are none. The operations are applied to those that are nodes.
     virtual FCPtrStore readTopNodes(
         const Char8 *fileName, GraphOpSeq *graphOpSeq = _defaultgraphOpSeq);
     virtual FCPtrStore readTopNodes(
         std::istream &is, const Char8 *ext, GraphOpSeq *graphOpSeq = _defaultgraphOpSeq);
 
-    /// Writes a scene and all that it refers to. False, and a line in the log, if that failed; what
-    /// is in the file then is incomplete. `compress` is for formats that can; the ASCII format
-    /// cannot.
+    /// Writes a scene and all that it refers to. False for null, which leaves the file alone.
+    /// False, and a line in the log, if that failed; what is in the file then is incomplete.
+    /// `compress` is for formats that can; the ASCII format cannot.
     virtual bool write(const NodePtr &node, const Char8 *fileName, bool compress = false);
     virtual bool write(
         const NodePtr &node, std::ostream &os, const Char8 *ext, bool compress = false);
@@ -82,6 +83,7 @@ protected:
 private:
     const SceneFileType *findType(const Char8 *fileNameOrExtension, UInt32 flag);
     const SceneFileType *open(const Char8 *fileName, std::ifstream &file);
+    NodePtr readScene(const SceneFileType &type, std::istream &is, const Char8 *name);
     FCPtrStore readContainers(const SceneFileType &type, std::istream &is, const Char8 *name);
 
     std::vector<std::unique_ptr<SceneFileType>> _types;

@@ -10,6 +10,7 @@
 #include <OpenSG/OSGSimpleAttachments.h>
 
 #include <algorithm>
+#include <unordered_set>
 
 OSG_BEGIN_NAMESPACE
 
@@ -72,13 +73,14 @@ AsciiReader::AsciiReader(std::string_view text, SceneFileType::Progress progress
 FCPtrStore AsciiReader::read()
 {
     FCPtrStore containers;
+    std::unordered_set<UInt32> ids;
     while (!at(SceneToken::End)) {
         const FieldContainerPtr container = readTop();
-        if (container
-            && std::find(containers.begin(), containers.end(), container) == containers.end()) {
+        if (container && ids.insert(container.getFieldContainerId()).second) {
             containers.push_back(container);
         }
     }
+    _keeper.release(containers);
     return containers;
 }
 
@@ -132,6 +134,7 @@ FieldContainerPtr AsciiReader::create(const std::string &name, const PointerFiel
     }
     _progress(_scanner.position(), _size);
     const FieldContainerPtr container = type->createFieldContainer();
+    _keeper.keep(container);
     if (!name.empty()) {
         define(name, container);
     }
@@ -140,7 +143,7 @@ FieldContainerPtr AsciiReader::create(const std::string &name, const PointerFiel
 
 void AsciiReader::define(const std::string &name, const FieldContainerPtr &container)
 {
-    _ids.emplace(name, container.getFieldContainerId());
+    _definitions.emplace(name, container);
     if (const auto named = AttachmentContainerPtr::dcast(container)) {
         setName(named, name);
     }
@@ -153,10 +156,9 @@ FieldContainerPtr AsciiReader::readUse(const PointerField *target)
         fail();
         return NullFC;
     }
-    const auto found = _ids.find(std::string(_scanner.token().text));
-    const FieldContainerPtr container = found != _ids.end()
-        ? FieldContainerFactory::the()->getContainer(found->second)
-        : FieldContainerPtr();
+    const auto found = _definitions.find(std::string(_scanner.token().text));
+    const FieldContainerPtr container
+        = found != _definitions.end() ? found->second : FieldContainerPtr();
     if (!container) {
         SLOG << "No FieldContainer found with name " << _scanner.token().text << endLog;
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "OSGContainerKeeper.h"
 #include "OSGPointerField.h"
 #include "OSGSceneValueReader.h"
 
@@ -59,8 +60,9 @@ private:
     SceneValueReader _value;
     SceneFileType::Progress _progress;
     std::size_t _size;
-    /// Ids, since containers may go while the file is read: a second name replaces the first.
-    std::unordered_map<std::string, UInt32> _ids;
+    ContainerKeeper _keeper;
+    /// By name; where several containers have the same, the first.
+    std::unordered_map<std::string, FieldContainerPtr> _definitions;
     /// The containers whose bodies are being read, outermost first.
     std::vector<FieldContainerPtr> _open;
     std::size_t _reportedPosition = 0;

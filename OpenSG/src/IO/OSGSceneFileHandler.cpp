@@ -1,6 +1,7 @@
 #include <OpenSG/OSGSceneFileHandler.h>
 
 #include "OSGAsciiFileType.h"
+#include "OSGContainerKeeper.h"
 
 #include <OpenSG/OSGGroup.h>
 #include <OpenSG/OSGLog.h>
@@ -8,6 +9,7 @@
 #include <algorithm>
 #include <chrono>
 #include <fstream>
+#include <iterator>
 #include <strings.h>
 
 OSG_BEGIN_NAMESPACE
@@ -52,13 +54,14 @@ void tell(SceneFileHandler::filenamecbfp callback, const Char8 *fileName)
     }
 }
 
-// The new root of all; null if there is nothing. A node that the file uses again further down has
-// found its place already.
-NodePtr gather(const FCPtrStore &containers)
+bool hasPlaceInScene(const FieldContainerPtr &container)
 {
-    if (containers.empty()) {
-        return NullFC;
-    }
+    return NodePtr::dcast(container) || NodeCorePtr::dcast(container);
+}
+
+// The new root of all. A node that the file uses again further down has found its place already.
+NodePtr makeRoot(const FCPtrStore &containers)
+{
     const NodePtr root = makeCoredNode<Group>();
     beginEditCP(root, Node::ChildrenFieldMask);
     for (const FieldContainerPtr &container : containers) {
@@ -73,6 +76,19 @@ NodePtr gather(const FCPtrStore &containers)
     return root;
 }
 
+// What has no place in a scene goes, with all that belongs to nothing else. Null if that is all.
+NodePtr gather(const FCPtrStore &containers)
+{
+    FCPtrStore strangers;
+    std::remove_copy_if(
+        containers.begin(), containers.end(), std::back_inserter(strangers), hasPlaceInScene);
+    ContainerKeeper keeper;
+    keeper.keepAllFrom(strangers);
+    const NodePtr root = strangers.size() < containers.size() ? makeRoot(containers) : NodePtr();
+    keeper.release({ root });
+    return root;
+}
+
 NodePtr withOperations(NodePtr root, GraphOpSeq *operations)
 {
     if (root && operations) {
@@ -83,10 +99,19 @@ NodePtr withOperations(NodePtr root, GraphOpSeq *operations)
 
 FCPtrStore withOperations(const FCPtrStore &containers, GraphOpSeq *operations)
 {
+    ContainerKeeper keeper;
+    std::for_each(containers.begin(), containers.end(),
+        [&](const FieldContainerPtr &container) { keeper.keep(container); });
     for (const FieldContainerPtr &container : containers) {
         withOperations(NodePtr::dcast(container), operations);
     }
+    keeper.release(containers);
     return containers;
+}
+
+void reportNoScene(const Char8 *name)
+{
+    SWARNING << "There is no scene in " << name << endLog;
 }
 
 } // namespace
@@ -112,7 +137,7 @@ NodePtr SceneFileHandler::read(const Char8 *fileName, GraphOpSeq *graphOpSeq)
         return NullFC;
     }
     tell(_readBegin, fileName);
-    const NodePtr root = withOperations(gather(readContainers(*type, file, fileName)), graphOpSeq);
+    const NodePtr root = withOperations(readScene(*type, file, fileName), graphOpSeq);
     tell(_readEnd, fileName);
     return root;
 }
@@ -120,7 +145,7 @@ NodePtr SceneFileHandler::read(const Char8 *fileName, GraphOpSeq *graphOpSeq)
 NodePtr SceneFileHandler::read(std::istream &is, const Char8 *ext, GraphOpSeq *graphOpSeq)
 {
     const SceneFileType *type = findType(ext, SceneFileType::OSG_READ_SUPPORTED);
-    return type ? withOperations(gather(readContainers(*type, is, ext)), graphOpSeq) : NodePtr();
+    return type ? withOperations(readScene(*type, is, ext), graphOpSeq) : NodePtr();
 }
 
 FCPtrStore SceneFileHandler::readTopNodes(const Char8 *fileName, GraphOpSeq *graphOpSeq)
@@ -145,7 +170,7 @@ FCPtrStore SceneFileHandler::readTopNodes(
 
 bool SceneFileHandler::write(const NodePtr &node, const Char8 *fileName, bool compress)
 {
-    if (!findType(fileName, SceneFileType::OSG_WRITE_SUPPORTED)) {
+    if (!findType(fileName, SceneFileType::OSG_WRITE_SUPPORTED) || !node) {
         return false;
     }
     std::ofstream file(fileName, std::ios::binary);
@@ -236,12 +261,21 @@ const SceneFileType *SceneFileHandler::open(const Char8 *fileName, std::ifstream
     return type;
 }
 
+NodePtr SceneFileHandler::readScene(const SceneFileType &type, std::istream &is, const Char8 *name)
+{
+    const NodePtr root = gather(type.readTopNodes(is, ThrottledProgress(_readProgress)));
+    if (!root) {
+        reportNoScene(name);
+    }
+    return root;
+}
+
 FCPtrStore SceneFileHandler::readContainers(
     const SceneFileType &type, std::istream &is, const Char8 *name)
 {
     const FCPtrStore containers = type.readTopNodes(is, ThrottledProgress(_readProgress));
     if (containers.empty()) {
-        SWARNING << "There is no scene in " << name << endLog;
+        reportNoScene(name);
     }
     return containers;
 }

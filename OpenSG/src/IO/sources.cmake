@@ -4,6 +4,7 @@ set(io_sources
     src/IO/OSGAsciiReader.cpp
     src/IO/OSGAsciiValues.cpp
     src/IO/OSGAsciiWriter.cpp
+    src/IO/OSGContainerKeeper.cpp
     src/IO/OSGFieldSyntax.cpp
     src/IO/OSGGraphOpSeq.cpp
     src/IO/OSGPathHandler.cpp

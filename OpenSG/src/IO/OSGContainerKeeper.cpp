@@ -1,0 +1,108 @@
+#include "OSGContainerKeeper.h"
+
+#include "../Containers/OSGFieldContainerHeader.h"
+#include "OSGSharedContainers.h"
+
+#include <OpenSG/OSGAttachmentContainer.h>
+
+#include <algorithm>
+#include <unordered_set>
+
+OSG_BEGIN_NAMESPACE
+
+namespace {
+
+typedef std::vector<FieldContainerPtr> Containers;
+
+/// Internal attachments belong to their containers like all others.
+void forEachReachedDirectly(const FieldContainerPtr &container, const TargetFunction &function)
+{
+    forEachTarget(container, function);
+    if (const auto owner = AttachmentContainerPtr::dcast(container)) {
+        for (const auto &[key, attachment] : owner->getSFAttachments()->getValue()) {
+            function(attachment);
+        }
+    }
+}
+
+/// The starts among them; each once.
+Containers reachedFrom(const Containers &starts, std::unordered_set<UInt32> &ids)
+{
+    Containers reached;
+    const auto reach = [&](const FieldContainerPtr &container) {
+        if (container && ids.insert(container.getFieldContainerId()).second) {
+            reached.push_back(container);
+        }
+    };
+    std::for_each(starts.begin(), starts.end(), reach);
+    for (std::size_t i = 0; i < reached.size(); ++i) {
+        const FieldContainerPtr container = reached[i];
+        forEachReachedDirectly(container, reach);
+    }
+    return reached;
+}
+
+void removeAttachments(const FieldContainerPtr &container)
+{
+    if (const auto owner = AttachmentContainerPtr::dcast(container)) {
+        const AttachmentMap attachments = owner->getSFAttachments()->getValue();
+        for (const auto &[key, attachment] : attachments) {
+            owner->subAttachment(attachment, static_cast<UInt16>(key));
+        }
+    }
+}
+
+} // namespace
+
+Int32 &ContainerKeeper::refCount(const FieldContainerPtr &container)
+{
+    return container->header().refCount;
+}
+
+void ContainerKeeper::keep(const FieldContainerPtr &container)
+{
+    if (container) {
+        ++refCount(container);
+        _kept.push_back(container);
+    }
+}
+
+void ContainerKeeper::keepAllFrom(const Containers &starts)
+{
+    std::unordered_set<UInt32> ids;
+    for (const FieldContainerPtr &container : reachedFrom(starts, ids)) {
+        keep(container);
+    }
+}
+
+// Mostly every container has an owner by now, or is a result, which another reference of ours
+// marks: then there is no need to look at what leads where.
+void ContainerKeeper::release(const Containers &results)
+{
+    std::for_each(results.begin(), results.end(), [this](const auto &result) { keep(result); });
+    const bool areAllOwned = std::all_of(
+        _kept.begin(), _kept.end(), [](const auto &container) { return refCount(container) > 1; });
+    if (!areAllOwned) {
+        destroyAllButReachedFrom(results);
+    }
+    for (const FieldContainerPtr &container : _kept) {
+        --refCount(container);
+    }
+    _kept.clear();
+}
+
+// Containers that refer to each other in a circle do so by attachments somewhere.
+void ContainerKeeper::destroyAllButReachedFrom(const Containers &results)
+{
+    std::unordered_set<UInt32> ids;
+    reachedFrom(results, ids);
+    const auto lost = std::stable_partition(
+        _kept.begin(), _kept.end(), [&](const FieldContainerPtr &container) {
+            return ids.count(container.getFieldContainerId()) > 0;
+        });
+    std::for_each(lost, _kept.end(), removeAttachments);
+    std::for_each(lost, _kept.end(), [](const FieldContainerPtr &c) { subRefCP(c); });
+    _kept.erase(lost, _kept.end());
+}
+
+OSG_END_NAMESPACE

@@ -1,0 +1,184 @@
+#include "SceneText.h"
+
+#include <OpenSG/OSGBaseFunctions.h>
+#include <OpenSG/OSGFieldContainerFactory.h>
+#include <OpenSG/OSGGroup.h>
+#include <OpenSG/OSGMaterialGroup.h>
+#include <OpenSG/OSGPointLight.h>
+#include <OpenSG/OSGSimpleMaterial.h>
+#include <OpenSG/OSGSwitch.h>
+
+#include <QtTest>
+
+#include <algorithm>
+#include <sstream>
+
+using namespace osg;
+
+/// Who holds the containers of a file, while it is read and afterwards.
+class tst_SceneFileOwnership : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void aContainerOutlivesThePlaceItWasIn_data();
+    void aContainerOutlivesThePlaceItWasIn();
+    void whatTheSceneDoesNotLeadToIsDestroyed_data();
+    void whatTheSceneDoesNotLeadToIsDestroyed();
+    void whatIsOnlyPointedToStays();
+    void aContainerThatWasReplacedCanBeUsed();
+    void theSecondValueOfAPointerReplacesTheFirst();
+    void aMaterialAtTheTopCanBeUsedFurtherDown();
+    void topNodesSurviveTheOperations();
+    void containersWithoutPlaceAreNoScene();
+
+private:
+    static std::size_t livingContainers();
+
+    std::unique_ptr<SceneText> m_text;
+};
+
+void tst_SceneFileOwnership::initTestCase()
+{
+    QVERIFY(osgInit(0, nullptr));
+}
+
+void tst_SceneFileOwnership::init()
+{
+    m_text = std::make_unique<SceneText>();
+}
+
+void tst_SceneFileOwnership::cleanup()
+{
+    m_text.reset();
+}
+
+std::size_t tst_SceneFileOwnership::livingContainers()
+{
+    const auto &store = *FieldContainerFactory::the()->getFieldContainerStore();
+    return store.size() - std::size_t(std::count(store.begin(), store.end(), NullFC));
+}
+
+void tst_SceneFileOwnership::aContainerOutlivesThePlaceItWasIn_data()
+{
+    QTest::addColumn<QByteArray>("text");
+
+    QTest::newRow("core at the top")
+        << QByteArray("DEF c Group { } Node { core USE c core Group { } }");
+    QTest::newRow("attachment at the top")
+        << QByteArray("DEF a StringAttributeMap { } "
+                      "Node { attachments [ USE a StringAttributeMap { } ] }");
+    QTest::newRow("material at the top")
+        << QByteArray("DEF M ChunkMaterial { } "
+                      "Node { core MaterialGroup { material USE M material SimpleMaterial { } } }");
+    QTest::newRow("attachment around")
+        << QByteArray("Node { attachments [ DEF t FCPtrAttributeMap { values [ Node { attachments "
+                      "[ USE t FCPtrAttributeMap { } ] } ] keys [ \"x\" ] } ] }");
+    QTest::newRow("core around") << QByteArray(
+        "Node { core DEF c ClipPlane { "
+        "beacon Node { core USE c core Group { } } on TRUE } }");
+    QTest::newRow("value of an attachment")
+        << QByteArray("Node { attachments [ FCPtrAttributeMap { keys [ \"k\" ] "
+                      "values [ DEF m SimpleMaterial { } ] } ] "
+                      "core MaterialGroup { material USE m material NULL } }");
+    QTest::newRow("child of a node that goes")
+        << QByteArray("DEF A Node { } Node { core PointLight { "
+                      "beacon Node { children [ USE A ] } } core Group { } }");
+}
+
+void tst_SceneFileOwnership::aContainerOutlivesThePlaceItWasIn()
+{
+    QFETCH(QByteArray, text);
+    const std::string written = m_text->write(m_text->read(text.toStdString()));
+    QVERIFY(!written.empty());
+    QVERIFY(m_text->read(written) != NullFC);
+    QCOMPARE(m_text->takeLog(), std::string());
+}
+
+void tst_SceneFileOwnership::whatTheSceneDoesNotLeadToIsDestroyed_data()
+{
+    QTest::addColumn<QByteArray>("text");
+
+    QTest::newRow("material at the top") << QByteArray("SimpleMaterial { } Node { }");
+    QTest::newRow("all in a camera at the top")
+        << QByteArray("PerspectiveCamera { beacon Node { children [ Node { } ] } } Node { }");
+    QTest::newRow("core that was replaced")
+        << QByteArray("Node { core DEF c PointLight { beacon Node { } } core Group { } }");
+    QTest::newRow("circle") << QByteArray(
+        "Node { core PointLight { beacon Node { attachments [ DEF t TextureChunk { "
+        "image Image { attachments [ USE t ] } } ] } } core Group { } }");
+    QTest::newRow("containers without place")
+        << QByteArray("SimpleMaterial { } Image { } State { }");
+}
+
+void tst_SceneFileOwnership::whatTheSceneDoesNotLeadToIsDestroyed()
+{
+    QFETCH(QByteArray, text);
+    const std::size_t before = livingContainers();
+    m_text->read(text.toStdString());
+    m_text = std::make_unique<SceneText>();
+    QCOMPARE(livingContainers(), before);
+}
+
+void tst_SceneFileOwnership::whatIsOnlyPointedToStays()
+{
+    const NodePtr node
+        = m_text->readFirst("Node { core PointLight { beacon Node { core Switch { } } } }");
+    const NodePtr beacon = PointLightPtr::dcast(node->getCore())->getBeacon();
+    QVERIFY(SwitchPtr::dcast(beacon->getCore()));
+    QCOMPARE(beacon.getRefCount(), 0);
+    subRefCP(beacon);
+}
+
+void tst_SceneFileOwnership::aContainerThatWasReplacedCanBeUsed()
+{
+    const NodePtr root = m_text->read(
+        "Node { core DEF c Switch { choice 4 } core Group { } } Node { core USE c }");
+    QCOMPARE(SwitchPtr::dcast(root->getChild(1)->getCore())->getChoice(), 4);
+    QCOMPARE(m_text->takeLog(), std::string());
+}
+
+void tst_SceneFileOwnership::theSecondValueOfAPointerReplacesTheFirst()
+{
+    const NodePtr node = m_text->readFirst(nodeWithCore("MaterialGroup",
+        "material SimpleMaterial { shininess 3 } material SimpleMaterial { shininess 4 }"));
+    const MaterialPtr material = MaterialGroupPtr::dcast(node->getCore())->getMaterial();
+    QCOMPARE(SimpleMaterialPtr::dcast(material)->getShininess(), 4.f);
+    QCOMPARE(material.getRefCount(), 1);
+}
+
+void tst_SceneFileOwnership::aMaterialAtTheTopCanBeUsedFurtherDown()
+{
+    const NodePtr root
+        = m_text->read("DEF M SimpleMaterial { } Node { core MaterialGroup { material USE M } }");
+    QCOMPARE(root->getNChildren(), 1u);
+    const auto group = MaterialGroupPtr::dcast(root->getChild(0)->getCore());
+    QCOMPARE(group->getMaterial().getRefCount(), 1);
+}
+
+void tst_SceneFileOwnership::topNodesSurviveTheOperations()
+{
+    std::istringstream text("DEF M SimpleMaterial { } Node { children [ "
+                            "Node { core MaterialGroup { material SimpleMaterial { "
+                            "attachments Name { name \"M\" } } } } "
+                            "Node { core MaterialGroup { material USE M } } ] }");
+    const FCPtrStore top = SceneFileHandler::the().readTopNodes(text, "osg");
+    QCOMPARE(top.size(), std::size_t(2));
+    QVERIFY(SimpleMaterialPtr::dcast(top[0]));
+    QCOMPARE(top[0].getRefCount(), 0);
+    subRefCP(top[0]);
+    subRefCP(top[1]);
+}
+
+void tst_SceneFileOwnership::containersWithoutPlaceAreNoScene()
+{
+    QVERIFY(m_text->read("SimpleMaterial { } Image { }") == NullFC);
+    QCOMPARE(m_text->takeLog(), std::string("WARNING:  There is no scene in osg\n"));
+}
+
+QTEST_APPLESS_MAIN(tst_SceneFileOwnership)
+#include "tst_scenefileownership.moc"
