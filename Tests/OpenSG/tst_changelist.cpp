@@ -1,4 +1,5 @@
 #include "LogCapture.h"
+#include "NotInStock.h"
 
 #include <OpenSG/OSGBaseFunctions.h>
 #include <OpenSG/OSGChangeList.h>
@@ -89,7 +90,6 @@ private slots:
     void endEditNotChangedOnlyEntersTheChange();
     void changedOnlyLetsTheContainerFollow();
     void theListIsFilledBeforeTheContainerFollows();
-    void theIgnoreSwitchKeepsContainersFromFollowing();
     void theEditorEditsForTheLifeOfAScope();
     void destructionIsEntered();
     void onlySurvivedReleasesAreEntered();
@@ -134,6 +134,7 @@ typedef FCPtr<GroupPtr, Follower> FollowerPtr;
 
 void tst_ChangeList::beforeTheStartThereIsNone()
 {
+    NOT_IN_STOCK("stock 1.8 crashes where a thread has no change list");
     QVERIFY(!Thread::getCurrentChangeList());
     QVERIFY(!Thread::getCurrent());
     QCOMPARE(Thread::getAspect(), 0u);
@@ -158,6 +159,7 @@ void tst_ChangeList::listsAreReadOnlyUnlessToldBeforeTheStart()
 
 void tst_ChangeList::otherThreadsHaveNone()
 {
+    NOT_IN_STOCK("stock 1.8 crashes on threads of others");
     ChangeList *found = &current();
     std::thread([&] { found = Thread::getCurrentChangeList(); }).join();
     QVERIFY(!found);
@@ -259,19 +261,6 @@ void tst_ChangeList::theListIsFilledBeforeTheContainerFollows()
     QCOMPARE(follower->origins, Ids { ChangedOrigin::External });
 }
 
-void tst_ChangeList::theIgnoreSwitchKeepsContainersFromFollowing()
-{
-    const RefPtr<FollowerPtr> follower(Follower::make());
-    current().clearAll();
-    QVERIFY(!FieldContainerPtr::isIgnoreChanged());
-    FieldContainerPtr::setIgnoreChanged(true);
-    endEditCP(follower.get(), 4);
-    changedCP(follower.get(), 4);
-    FieldContainerPtr::setIgnoreChanged(false);
-    QVERIFY(follower->masks.isEmpty());
-    QCOMPARE(current().sizeChanged(), std::size_t(1));
-}
-
 void tst_ChangeList::theEditorEditsForTheLifeOfAScope()
 {
     const RefPtr<FollowerPtr> holder(Follower::make());
@@ -333,6 +322,7 @@ void tst_ChangeList::mergeAppendsAndSwapExchanges()
 
 void tst_ChangeList::afterTheEndThereIsNone()
 {
+    NOT_IN_STOCK("stock 1.8 crashes where a thread has no change list");
     const NodePtr node = Node::create();
     QVERIFY(osgExit());
     QVERIFY(!Thread::getCurrentChangeList());

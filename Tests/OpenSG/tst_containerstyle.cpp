@@ -398,7 +398,6 @@ private slots:
     void defaultsComeFromTheConstructor();
     void heldContainersGoWithTheirHolder();
     void aCopyHoldsTheSameContainers();
-    void pointerFieldsTellTheirTargets();
 };
 
 void tst_ContainerStyle::initTestCase()
@@ -532,17 +531,6 @@ void tst_ContainerStyle::aCopyHoldsTheSameContainers()
     const RefPtr<TrainPtr> copy(TrainPtr::dcast(train->shallowCopy()));
     QVERIFY(copy->getWagons()[0] == wagon);
     QCOMPARE(wagon.getRefCount(), 2);
-}
-
-void tst_ContainerStyle::pointerFieldsTellTheirTargets()
-{
-    const RefPtr<TrainPtr> train(Train::create());
-    const WagonPtr wagon = Wagon::create();
-    train->addWagon(wagon);
-    const Field *field = train->getField("wagons");
-    QVERIFY(field->getFieldContainer(0) == wagon);
-    QVERIFY(field->getFieldContainer(1) == NullFC);
-    QVERIFY(wagon->getField("load")->getFieldContainer() == NullFC);
 }
 
 QTEST_APPLESS_MAIN(tst_ContainerStyle)

@@ -1,3 +1,5 @@
+#include "NotInStock.h"
+
 #include <OpenSG/OSGBaseFunctions.h>
 #include <OpenSG/OSGGraphOpFactory.h>
 #include <OpenSG/OSGGroup.h>
@@ -48,19 +50,6 @@ private:
     const std::string &getName() { return GraphOp::getName(); }
 };
 
-class ConstNotingOp : public TestOp<GraphOp>
-{
-public:
-    GraphOp *create() override { return new ConstNotingOp; }
-
-protected:
-    Action::ResultE traverseEnter(const NodePtr &node) override
-    {
-        seen.append(osg::getName(node));
-        return Action::Continue;
-    }
-};
-
 class ByValueOp : public TestOp<TransformOp>
 {
 public:
@@ -76,41 +65,6 @@ protected:
     {
         seen.append(QString("-") + osg::getName(node));
         return false;
-    }
-};
-
-class ByReferenceOp : public TestOp<TransformOp>
-{
-public:
-    GraphOp *create() override { return new ByReferenceOp; }
-
-protected:
-    bool travNodeEnter(const NodePtr &node) override
-    {
-        seen.append(QString("+") + osg::getName(node));
-        return true;
-    }
-    bool travNodeLeave(const NodePtr &node) override
-    {
-        seen.append(QString("-") + osg::getName(node));
-        return true;
-    }
-};
-
-class BothFormsOp : public TestOp<TransformOp>
-{
-public:
-    GraphOp *create() override { return new BothFormsOp; }
-
-protected:
-    bool travNodeEnter(NodePtr node) override { return visit(node); }
-    bool travNodeEnter(const NodePtr &node) override { return visit(node); }
-
-private:
-    bool visit(const NodePtr &node)
-    {
-        seen.append(QString("+") + osg::getName(node));
-        return true;
     }
 };
 
@@ -139,11 +93,8 @@ private slots:
 
     void anOperationSeesEveryNode();
     void quittingMakesTheTraversalFalse();
-    void callbacksMayTakeReferencesToConst();
     void aNullRootIsAnEmptyTree();
     void singleTypeCallbacksTakeNodesByValue();
-    void singleTypeCallbacksTakeNodesByReferenceToConst();
-    void bothFormsAreCalledOnce();
     void nodesWithoutCoreArePassedOver();
     void derivedCoresCount();
     void excludedNodesAreRemembered();
@@ -185,15 +136,9 @@ void tst_GraphOp::quittingMakesTheTraversalFalse()
     QVERIFY(op.traverse(m_root));
 }
 
-void tst_GraphOp::callbacksMayTakeReferencesToConst()
-{
-    ConstNotingOp op;
-    QVERIFY(op.traverse(m_root));
-    QCOMPARE(op.seen.join(' '), QString("r outer inner bare"));
-}
-
 void tst_GraphOp::aNullRootIsAnEmptyTree()
 {
+    NOT_IN_STOCK("stock 1.8 crashes at a null root");
     NodePtr null;
     NotingOp op;
     ByValueOp single;
@@ -209,22 +154,9 @@ void tst_GraphOp::singleTypeCallbacksTakeNodesByValue()
     QCOMPARE(op.seen.join(' '), QString("+outer +inner -inner -outer"));
 }
 
-void tst_GraphOp::singleTypeCallbacksTakeNodesByReferenceToConst()
-{
-    ByReferenceOp op;
-    QVERIFY(op.traverse(m_root));
-    QCOMPARE(op.seen.join(' '), QString("+outer +inner -inner -outer"));
-}
-
-void tst_GraphOp::bothFormsAreCalledOnce()
-{
-    BothFormsOp op;
-    QVERIFY(op.traverse(m_root));
-    QCOMPARE(op.seen.join(' '), QString("+outer +inner"));
-}
-
 void tst_GraphOp::nodesWithoutCoreArePassedOver()
 {
+    NOT_IN_STOCK("stock 1.8 crashes at a node without core");
     ByValueOp op;
     NodePtr bare = m_root->getChild(1);
     QVERIFY(op.traverse(bare));
@@ -241,6 +173,7 @@ void tst_GraphOp::derivedCoresCount()
             seen.append(osg::getName(node));
             return true;
         }
+        bool travNodeLeave(NodePtr) override { return true; }
     } op;
     op.traverse(m_root);
     QCOMPARE(op.seen.join(' '), QString("r outer inner"));
@@ -281,6 +214,7 @@ void tst_GraphOp::parametersAreKeysAndFlags()
 
 void tst_GraphOp::parametersSurviveStrayBlanks()
 {
+    NOT_IN_STOCK("two blanks in a row may keep stock 1.8 busy for ever");
     Parameters::ParamSet params("  a=1   b  ");
     bool b = false;
     std::string a;
@@ -312,12 +246,12 @@ void tst_GraphOp::theFactoryMakesOperationsByName()
 void tst_GraphOp::aSecondRegistrationReplacesTheFirst()
 {
     NotingOp first("Op");
-    ConstNotingOp second;
+    ByValueOp second;
     second.setName("Op");
     GraphOpFactory::the().registerOp(&first);
     GraphOpFactory::the().registerOp(&second);
     const std::unique_ptr<GraphOp> made(GraphOpFactory::the().create("Op"));
-    QVERIFY(dynamic_cast<ConstNotingOp *>(made.get()));
+    QVERIFY(dynamic_cast<ByValueOp *>(made.get()));
     GraphOpFactory::the().unRegisterOp("Op");
 }
 

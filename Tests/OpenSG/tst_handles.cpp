@@ -1,3 +1,5 @@
+#include "NotInStock.h"
+
 #include <OpenSG/OSGBaseFunctions.h>
 #include <OpenSG/OSGCNodePtr.h>
 #include <OpenSG/OSGChunkMaterial.h>
@@ -126,6 +128,7 @@ void tst_Handles::nullHandlesOfAllTypesAreEqual()
 
 void tst_Handles::nullHandlesAnswerWithZero()
 {
+    NOT_IN_STOCK("stock 1.8 crashes when a null handle is asked for its id");
     const NodePtr null;
     QCOMPARE(null.getRefCount(), 0);
     QCOMPARE(null.getFieldContainerId(), 0u);

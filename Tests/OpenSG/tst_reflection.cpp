@@ -1,3 +1,5 @@
+#include "NotInStock.h"
+
 #include <OpenSG/OSGBaseFunctions.h>
 #include <OpenSG/OSGField.h>
 #include <OpenSG/OSGFieldContainerFactory.h>
@@ -128,6 +130,7 @@ void tst_Reflection::typesThatAreLeftOutAreUnknown_data()
 
 void tst_Reflection::typesThatAreLeftOutAreUnknown()
 {
+    NOT_IN_STOCK("stock 1.8 has all types");
     QFETCH(QString, name);
     QVERIFY(!osg::FieldContainerFactory::the()->findType(qPrintable(name)));
 }
@@ -207,6 +210,7 @@ void tst_Reflection::fieldNamesAreUnique()
 
 void tst_Reflection::everyTypeOfTheLibraryIsDescribed()
 {
+    NOT_IN_STOCK("stock 1.8 has all types");
     osg::FieldContainerFactory *factory = osg::FieldContainerFactory::the();
     QCOMPARE(int(factory->getNumTypes()), m_types.size() - leftOut.size());
 }

@@ -1,3 +1,4 @@
+#include "NotInStock.h"
 #include "SceneText.h"
 
 #include <OpenSG/OSGBaseFunctions.h>
@@ -131,6 +132,11 @@ FCPtrAttributeMapPtr mapOf(const NodePtr &node)
     return FCPtrAttributeMapPtr::dcast(node->findAttachment(FCPtrAttributeMap::getClassType()));
 }
 
+MFFieldContainerPtr &valuesOf(const FCPtrAttributeMapPtr &map)
+{
+    return dynamic_cast<MFFieldContainerPtr &>(*map->getField("values"));
+}
+
 } // namespace
 
 void tst_SceneFileRoundTrip::initTestCase()
@@ -206,18 +212,19 @@ void tst_SceneFileRoundTrip::everyContainerKeepsItsValues_data()
 
 void tst_SceneFileRoundTrip::everyContainerKeepsItsValues()
 {
+    NOT_IN_STOCK("stock 1.8 writes field types that it cannot read");
     QFETCH(QByteArray, type);
     const NodeRefPtr node(makeCoredNode<Group>());
     const FCPtrAttributeMapPtr map = FCPtrAttributeMap::create();
     const RefPtr<FieldContainerPtr> container(
         FieldContainerFactory::the()->createFieldContainer(type));
     fill(container.get());
-    map->getField("values")->pushFieldContainer(container.get());
+    valuesOf(map).push_back(container.get());
     node->addAttachment(map);
     const NodePtr copy = m_text->readFirst(m_text->write(node.get()));
     QCOMPARE(m_text->takeLog(), std::string());
     QVERIFY(mapOf(copy));
-    const FieldContainerPtr read = mapOf(copy)->getField("values")->getFieldContainer(0);
+    const FieldContainerPtr read = valuesOf(mapOf(copy))[0];
     QCOMPARE(QByteArray(read->getTypeName()), type);
     QCOMPARE(texts(read), texts(container.get()));
 }

@@ -1,3 +1,5 @@
+#include "NotInStock.h"
+
 #include <OpenSG/OSGAction.h>
 #include <OpenSG/OSGBaseFunctions.h>
 #include <OpenSG/OSGGroup.h>
@@ -25,8 +27,6 @@ private slots:
     void listsAreVisitedInOrder();
     void nullNodesArePassedOver();
     void coreLessNodesAreVisited();
-    void callbacksMayTakeNodesInAnyForm_data();
-    void callbacksMayTakeNodesInAnyForm();
     void aCallbackMayTakeAChildAway();
 
 private:
@@ -50,52 +50,33 @@ NodePtr named(const char *name)
 
 QStringList visited;
 
-Action::ResultE note(const NodePtr &node)
+Action::ResultE note(NodePtr &node)
 {
     visited.append(getName(node));
     return Action::Continue;
 }
 
-Action::ResultE enterByValue(NodePtr node)
+Action::ResultE quitBehindA(NodePtr &node, Action::ResultE)
 {
-    return note(node);
-}
-Action::ResultE enterByReference(NodePtr &node)
-{
-    return note(node);
-}
-Action::ResultE enterByConstReference(const NodePtr &node)
-{
-    return note(node);
-}
-Action::ResultE leaveByValue(NodePtr, Action::ResultE result)
-{
-    return result;
-}
-Action::ResultE leaveByReference(NodePtr &, Action::ResultE result)
-{
-    return result;
-}
-Action::ResultE leaveByConstReference(const NodePtr &, Action::ResultE result)
-{
-    return result;
+    return qstrcmp(getName(node), "a") == 0 ? Action::Quit : Action::Continue;
 }
 
-struct Functors
+Action::ResultE takeFirstChildOfA(NodePtr &node)
 {
-    TraverseEnterFunctor enter;
-    TraverseLeaveFunctor leave;
-};
+    if (qstrcmp(getName(node), "a") == 0) {
+        node->subChild(0u);
+    }
+    return note(node);
+}
 
 TraverseEnterFunctor noting()
 {
     visited.clear();
-    return osgTypedFunctionFunctor1CPtrRef<Action::ResultE, NodePtr>(enterByReference);
+    return osgTypedFunctionFunctor1CPtrRef<Action::ResultE, NodePtr>(note);
 }
 
 } // namespace
 
-Q_DECLARE_METATYPE(Functors)
 Q_DECLARE_METATYPE(osg::Action::ResultE)
 
 void tst_Traversal::init()
@@ -154,10 +135,8 @@ void tst_Traversal::tracesAreAsExpected()
 
 void tst_Traversal::leavingDecides()
 {
-    const auto result
-        = traverse(m_root, noting(), TraverseLeaveFunctor([](NodePtr &node, Action::ResultE) {
-              return qstrcmp(getName(node), "a") == 0 ? Action::Quit : Action::Continue;
-          }));
+    const auto result = traverse(m_root, noting(),
+        osgTypedFunctionFunctor2CPtrRef<Action::ResultE, NodePtr, Action::ResultE>(quitBehindA));
     QCOMPARE(visited.join(' '), QString("r a aa ab"));
     QCOMPARE(result, Action::Continue);
 }
@@ -177,6 +156,7 @@ void tst_Traversal::listsAreVisitedInOrder()
 
 void tst_Traversal::nullNodesArePassedOver()
 {
+    NOT_IN_STOCK("stock 1.8 crashes at a null node");
     std::vector<NodePtr> list { NodePtr(), m_root->getChild(1) };
     QCOMPARE(traverse(list, noting()), Action::Continue);
     QCOMPARE(visited.join(' '), QString("b"));
@@ -190,38 +170,10 @@ void tst_Traversal::coreLessNodesAreVisited()
     QCOMPARE(visited.join(' '), QString("r a aa ab b"));
 }
 
-void tst_Traversal::callbacksMayTakeNodesInAnyForm_data()
-{
-    typedef Action::ResultE Result;
-    QTest::addColumn<Functors>("functors");
-    QTest::newRow("by value") << Functors { osgTypedFunctionFunctor1CPtrRef<Result, NodePtr>(
-                                                enterByValue),
-        osgTypedFunctionFunctor2CPtrRef<Result, NodePtr, Result>(leaveByValue) };
-    QTest::newRow("by reference") << Functors { osgTypedFunctionFunctor1CPtrRef<Result, NodePtr>(
-                                                    enterByReference),
-        osgTypedFunctionFunctor2CPtrRef<Result, NodePtr, Result>(leaveByReference) };
-    QTest::newRow("by reference to const")
-        << Functors { osgTypedFunctionFunctor1CPtrRef<Result, NodePtr>(enterByConstReference),
-               osgTypedFunctionFunctor2CPtrRef<Result, NodePtr, Result>(leaveByConstReference) };
-}
-
-void tst_Traversal::callbacksMayTakeNodesInAnyForm()
-{
-    QFETCH(Functors, functors);
-    visited.clear();
-    traverse(m_root, functors.enter, functors.leave);
-    QCOMPARE(visited.join(' '), QString("r a aa ab b"));
-}
-
 void tst_Traversal::aCallbackMayTakeAChildAway()
 {
     visited.clear();
-    traverse(m_root, TraverseEnterFunctor([](NodePtr &node) {
-        if (qstrcmp(getName(node), "a") == 0) {
-            node->subChild(0u);
-        }
-        return note(node);
-    }));
+    traverse(m_root, osgTypedFunctionFunctor1CPtrRef<Action::ResultE, NodePtr>(takeFirstChildOfA));
     QCOMPARE(visited.join(' '), QString("r a ab b"));
 }
 
