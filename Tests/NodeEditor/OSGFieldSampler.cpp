@@ -89,7 +89,8 @@ void FieldSampler::changed(BitVector mask, UInt32 origin)
         throw 1;
     ++changes;
     lastMask = mask;
-    listedBeforeChanged = Thread::getCurrentChangeList()->sizeChanged();
+    const ChangeList *list = Thread::getCurrentChangeList();
+    listedBeforeChanged = list ? list->sizeChanged() : 0;
     Inherited::changed(mask, origin);
 }
 

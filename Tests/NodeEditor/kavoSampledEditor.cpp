@@ -9,13 +9,25 @@ kavoSampledEditor::kavoSampledEditor()
     , m_sampler(osg::FieldSampler::create())
 {
     osg::addRefCP(m_sampler);
-    m_editor->setFC("sampler", m_sampler);
+    refresh();
 }
 
 kavoSampledEditor::~kavoSampledEditor()
 {
     m_editor.reset();
-    osg::subRefCP(m_sampler);
+    destroySampler();
+}
+
+void kavoSampledEditor::refresh()
+{
+    m_editor->setFC("sampler", m_sampler);
+}
+
+void kavoSampledEditor::destroySampler()
+{
+    if (m_sampler != osg::NullFC)
+        osg::subRefCP(m_sampler);
+    m_sampler = osg::NullFC;
 }
 
 osg::Field &kavoSampledEditor::field(const QString &name)
@@ -33,7 +45,7 @@ QByteArray kavoSampledEditor::textOf(const QString &name)
 
 void kavoSampledEditor::show()
 {
-    m_editor->setFC("sampler", m_sampler);
+    refresh();
     m_editor->resize(400, 600);
     m_editor->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_editor.get()));

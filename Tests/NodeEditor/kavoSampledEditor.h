@@ -17,12 +17,17 @@ public:
     kavoSampledEditor &operator=(const kavoSampledEditor &) = delete;
 
     kavoFCEditorWidget &editor() { return *m_editor; }
-    osg::FieldSampler &sampler() { return *m_sampler; }
+    const osg::FieldSamplerPtr &sampler() const { return m_sampler; }
     osg::Field &field(const QString &name);
     /// The field's value as the library writes it.
     QByteArray textOf(const QString &name);
 
-    /// Shows the values that the fields have now, with the rows on the screen.
+    /// Fills the rows with the values that the fields have now.
+    void refresh();
+    /// Destroys the container and leaves its rows.
+    void destroySampler();
+
+    /// The same, with the rows on the screen.
     void show();
     /// Opens the row's editor by keyboard. \returns it, null if none opened
     QWidget *open(const QString &name);

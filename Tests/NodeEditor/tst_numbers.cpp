@@ -71,7 +71,7 @@ QString TestNumbers::inLocale(QString number)
 
 double TestNumbers::valueOf(const QString &name)
 {
-    const osg::FieldSampler &sampler = m_rows->sampler();
+    const osg::FieldSampler &sampler = *m_rows->sampler();
     const std::map<QString, double> values {
         { "real32", sampler.real32.getValue() },
         { "real64", sampler.real64.getValue() },
@@ -144,7 +144,7 @@ void TestNumbers::anEditWithoutChangeWritesNothing()
     QVERIFY(spinBox);
     QCOMPARE(spinBox->text(), inLocale(shown));
     m_rows->press(spinBox);
-    QCOMPARE(m_rows->sampler().changes, 0);
+    QCOMPARE(m_rows->sampler()->changes, 0);
     QCOMPARE(m_rows->textOf(name), before);
     QCOMPARE(text(m_rows->editor(), name), inLocale(shown));
 }
@@ -172,15 +172,17 @@ void TestNumbers::whatIsTypedIsReadBack_data()
     add("lowest int", "int32", "-2147483648", -2147483648., "-2147483648");
 }
 
-// The library's text has seven digits: a row made from it shows no more.
+// The library's text has seven digits: a row made from it shows no more. QCOMPARE takes all tiny
+// numbers for zero.
 void TestNumbers::whatIsTypedIsReadBack()
 {
     QFETCH(QString, name);
     QFETCH(QString, typed);
     m_rows->show();
     m_rows->press(m_rows->type(name, inLocale(typed)));
-    QTEST(valueOf(name), "value");
-    QCOMPARE(m_rows->sampler().changes, 1);
+    QFETCH(double, value);
+    QVERIFY2(valueOf(name) == value, qPrintable(QString::number(valueOf(name))));
+    QCOMPARE(m_rows->sampler()->changes, 1);
     QFETCH(QString, shown);
     m_rows->show();
     QCOMPARE(text(m_rows->editor(), name), inLocale(shown));
@@ -208,7 +210,7 @@ void TestNumbers::numbersOutOfRangeAreNotTaken()
     QFETCH(QString, typed);
     m_rows->show();
     m_rows->press(m_rows->type(name, typed));
-    QCOMPARE(m_rows->sampler().changes, 0);
+    QCOMPARE(m_rows->sampler()->changes, 0);
     QCOMPARE(text(m_rows->editor(), name), QString("0"));
 }
 
@@ -250,9 +252,9 @@ void TestNumbers::numbersThatAreNotFiniteAreText()
     m_rows->show();
     QCOMPARE(text(m_rows->editor(), "real32").toUtf8(), m_rows->textOf("real32"));
     m_rows->press(m_rows->open("real32"));
-    QCOMPARE(m_rows->sampler().changes, 0);
+    QCOMPARE(m_rows->sampler()->changes, 0);
     setValue(m_rows->editor(), "real32", "2.5");
-    QCOMPARE(m_rows->sampler().real32.getValue(), 2.5f);
+    QCOMPARE(m_rows->sampler()->real32.getValue(), 2.5f);
 }
 
 void TestNumbers::boxesShowTheirNumbersToTheLastDigit()

@@ -86,7 +86,7 @@ void TestSpinBoxes::theStepFitsTheMagnitude()
     QFETCH(double, stepped);
     setValue(m_rows->editor(), "real64", value);
     QTest::keyClick(m_rows->open("real64"), Qt::Key_Up);
-    QCOMPARE(m_rows->sampler().real64.getValue(), stepped);
+    QCOMPARE(m_rows->sampler()->real64.getValue(), stepped);
 }
 
 void TestSpinBoxes::theStepFitsANumberTyped_data()
@@ -102,8 +102,8 @@ void TestSpinBoxes::theStepFitsANumberTyped()
 {
     QFETCH(QString, typed);
     QTest::keyClick(m_rows->type("real64", typed), Qt::Key_Up);
-    QTEST(m_rows->sampler().real64.getValue(), "stepped");
-    QCOMPARE(m_rows->sampler().changes, 1);
+    QTEST(m_rows->sampler()->real64.getValue(), "stepped");
+    QCOMPARE(m_rows->sampler()->changes, 1);
 }
 
 void TestSpinBoxes::theArrowStepsFromANumberTyped_data()
@@ -129,7 +129,7 @@ void TestSpinBoxes::theStepFitsANumberSetFromElsewhere()
     QTest::keyClick(spinBox, Qt::Key_Up);
     setValue(m_rows->editor(), "real64", 1e30);
     QTest::keyClick(spinBox, Qt::Key_Up);
-    QCOMPARE(m_rows->sampler().real64.getValue(), 1.1e30);
+    QCOMPARE(m_rows->sampler()->real64.getValue(), 1.1e30);
 }
 
 void TestSpinBoxes::aRunOfStepsKeepsItsSize()
@@ -157,7 +157,7 @@ void TestSpinBoxes::aStepFromUnfinishedTextGoesFromTheOldNumber()
 {
     setValue(m_rows->editor(), "real64", 5);
     QTest::keyClick(m_rows->type("real64", "2e"), Qt::Key_Up);
-    QCOMPARE(m_rows->sampler().real64.getValue(), 5.1);
+    QCOMPARE(m_rows->sampler()->real64.getValue(), 5.1);
 }
 
 void TestSpinBoxes::escapeTakesBackWhatWasTyped_data()
@@ -174,7 +174,7 @@ void TestSpinBoxes::escapeTakesBackWhatWasTyped()
     m_rows->press(spinBox, Qt::Key_Escape);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY(!spinBox);
-    QCOMPARE(m_rows->sampler().changes, 0);
+    QCOMPARE(m_rows->sampler()->changes, 0);
     QCOMPARE(text(m_rows->editor(), field), QString("0"));
 }
 
@@ -214,7 +214,7 @@ void TestSpinBoxes::pointAndCommaAreTheDecimalPoint()
     QFETCH(QString, typed);
     m_rows->editor().setLocale(locale);
     m_rows->press(m_rows->type("real32", typed));
-    QCOMPARE(m_rows->sampler().real32.getValue(), 0.5f);
+    QCOMPARE(m_rows->sampler()->real32.getValue(), 0.5f);
 }
 
 void TestSpinBoxes::anOpenEditorFollowsItsRow_data()
@@ -235,7 +235,7 @@ void TestSpinBoxes::anOpenEditorFollowsItsRow()
     QTEST(spinBox->text(), "shown");
     setValue(m_rows->editor(), "int16", 5);
     QTEST(spinBox->text(), "shown");
-    QCOMPARE(m_rows->sampler().changes, 2);
+    QCOMPARE(m_rows->sampler()->changes, 2);
 }
 
 KAVO_TEST_MAIN(TestSpinBoxes)

@@ -13,6 +13,7 @@
 #include <OpenSG/OSGThread.h>
 
 #include <cstdio>
+#include <locale>
 #include <memory>
 #include <sstream>
 
@@ -120,6 +121,7 @@ void kavoFCEditorWidget::valueChanged(QtProperty *property, colorVal value)
     if (m_building)
         return;
     std::ostringstream text;
+    text.imbue(std::locale::classic());
     text << value.r << ' ' << value.g << ' ' << value.b << ' ' << value.a;
     writeBack(property, QString::fromStdString(text.str()));
 
