@@ -2,23 +2,23 @@
 #include "kavoTreeRows.h"
 
 #include <QKAVODockWindowManager.h>
-#include <kavoMessageIds.h>
 #include <kavoNodeEditor.h>
+#include <kavoRealInput.h>
 #include <kavoTestHost.h>
-#include <kavoTestScene.h>
 
 #include <OpenSG/OSGTextureChunk.h>
 
 #include <QAbstractItemView>
 #include <QClipboard>
 #include <QComboBox>
+#include <QSettings>
+#include <QTemporaryDir>
 #include <QTreeWidget>
-#include <QWindow>
 #include <QtTest>
 
 using namespace kavoTreeRows;
 
-// Drives the docked editor through its window with the mouse and the keyboard alone.
+// Drives the docked editor with the mouse and the keyboard of the X server alone.
 class TestEditing : public QObject
 {
     Q_OBJECT
@@ -36,27 +36,32 @@ private slots:
     void aNumberListIsTyped();
     void anEnumIsChosenWithTheMouse();
     void anEnumIsChosenWithTheKeyboard();
+    void aColorIsChosenWithTheMouse();
+    void aColorIsTypedIntoThePopup();
     void aColorIsPasted();
     void leavingTheRowKeepsWhatWasTyped();
+    void escapeTakesBackWhatWasTyped();
     void aNewSelectionDropsWhatWasNotFinished();
 
 private:
     kavoFCEditorWidget &editor() const;
     QTreeWidget &view() const;
     QWidget *open(const QString &title);
-    void click(QWidget *widget, const QPoint &position);
-    void click(QWidget *widget) { click(widget, widget->rect().center()); }
-    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
-    void type(const QString &text);
+    void type(const QString &title, const QString &text);
     void replace(const QString &title, const QString &text);
     void show(const osg::FieldContainerPtr &container);
 
+    QTemporaryDir m_settings;
     kavoNodeEditor *m_module = nullptr;
     osg::FieldSamplerPtr m_sampler;
 };
 
 void TestEditing::initTestCase()
 {
+    QCoreApplication::setOrganizationName("kavotest");
+    QCoreApplication::setApplicationName("editing");
+    QSettings::setDefaultFormat(QSettings::IniFormat);
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_settings.path());
     QLocale::setDefault(QLocale::c());
     m_module = new kavoNodeEditor;
     QVERIFY(kavoTestHost::show());
@@ -69,6 +74,8 @@ void TestEditing::init()
 {
     m_sampler = osg::FieldSampler::create();
     osg::addRefCP(m_sampler);
+    m_sampler->color3.setValue(osg::Color3f(1, 0, 0));
+    m_sampler->color4.setValue(osg::Color4f(1, 0, 0, 0.5f));
     show(m_sampler);
 }
 
@@ -94,92 +101,83 @@ void TestEditing::show(const osg::FieldContainerPtr &container)
     QTRY_VERIFY(view().topLevelItemCount() == 1);
 }
 
-void TestEditing::click(QWidget *widget, const QPoint &position)
-{
-    QWindow *window = widget->window()->windowHandle();
-    QTest::mouseClick(window, Qt::LeftButton, {}, widget->mapTo(widget->window(), position));
-}
-
-// Keys go to the window that has the focus, as the window system sends them.
-void TestEditing::press(Qt::Key key, Qt::KeyboardModifiers modifiers)
-{
-    QTest::keyClick(QGuiApplication::focusWindow(), key, modifiers);
-}
-
-void TestEditing::type(const QString &text)
-{
-    for (const QChar character : text)
-        QTest::keyClick(QGuiApplication::focusWindow(), character.toLatin1());
-}
-
 // Clicks into the value column of a row. \returns the editor that opened
 QWidget *TestEditing::open(const QString &title)
 {
     QTreeWidgetItem *item = view().findItems(title, Qt::MatchExactly | Qt::MatchRecursive).value(0);
     view().scrollToItem(item);
-    const QRect row = view().visualItemRect(item);
-    click(view().viewport(), QPoint(view().columnViewportPosition(1) + 30, row.center().y()));
+    const int x = view().columnViewportPosition(1) + 30;
+    const QPoint position(x, view().visualItemRect(item).center().y());
+    QTest::qWait(QApplication::doubleClickInterval());
+    kavoRealInput::click(view().viewport()->mapToGlobal(position));
     return view().itemWidget(item, 1);
+}
+
+// Replaces the text of a row, unfinished.
+void TestEditing::type(const QString &title, const QString &text)
+{
+    QVERIFY(open(title));
+    kavoRealInput::press({ "ctrl+a" });
+    kavoRealInput::type(text);
 }
 
 void TestEditing::replace(const QString &title, const QString &text)
 {
-    QVERIFY(open(title));
-    press(Qt::Key_A, Qt::ControlModifier);
-    type(text);
-    press(Qt::Key_Return);
+    type(title, text);
+    kavoRealInput::press({ "Return" });
 }
 
 void TestEditing::aCheckBoxIsClicked()
 {
     QWidget *box = open("flag");
     QVERIFY(box);
-    click(box, QPoint(8, box->height() / 2));
-    QVERIFY(m_sampler->flag.getValue());
-    click(box, QPoint(8, box->height() / 2));
-    QVERIFY(!m_sampler->flag.getValue());
+    const QPoint mark = box->mapToGlobal(QPoint(8, box->height() / 2));
+    kavoRealInput::click(mark);
+    QTRY_VERIFY(m_sampler->flag.getValue());
+    QTest::qWait(QApplication::doubleClickInterval());
+    kavoRealInput::click(mark);
+    QTRY_VERIFY(!m_sampler->flag.getValue());
 }
 
 void TestEditing::aWholeNumberIsTyped()
 {
     replace("int16", "-1234");
-    QCOMPARE(int(m_sampler->int16.getValue()), -1234);
+    QTRY_COMPARE(int(m_sampler->int16.getValue()), -1234);
     QCOMPARE(m_sampler->changes, 1);
 }
 
 void TestEditing::anArrowKeySteps()
 {
     QVERIFY(open("uint8"));
-    press(Qt::Key_Up);
-    press(Qt::Key_Up);
-    press(Qt::Key_Down);
+    kavoRealInput::press({ "Up", "Up", "Down" });
+    QTRY_COMPARE(m_sampler->changes, 3);
     QCOMPARE(int(m_sampler->uint8.getValue()), 1);
 }
 
 void TestEditing::aRealNumberIsTyped()
 {
     replace("real32", "1.25e-7");
-    QCOMPARE(m_sampler->real32.getValue(), 1.25e-7f);
+    QTRY_VERIFY(m_sampler->real32.getValue() == 1.25e-7f);
     QCOMPARE(m_sampler->changes, 1);
 }
 
 void TestEditing::aVectorIsTyped()
 {
     replace("vector", "1, -2.5, 3e2");
-    QVERIFY(m_sampler->vector.getValue() == osg::Vec3f(1, -2.5f, 300));
+    QTRY_VERIFY(m_sampler->vector.getValue() == osg::Vec3f(1, -2.5f, 300));
 }
 
 void TestEditing::aStringIsTyped()
 {
     replace("text", "a \"b\" c");
-    QCOMPARE(m_sampler->text.getValue(), std::string("a \"b\" c"));
+    QTRY_COMPARE(m_sampler->text.getValue(), std::string("a \"b\" c"));
 }
 
 void TestEditing::aNumberListIsTyped()
 {
     replace("reals", "0.5, 1 2e3");
-    QCOMPARE(int(m_sampler->reals.size()), 3);
-    QCOMPARE(m_sampler->reals[2], 2000.f);
+    QTRY_COMPARE(int(m_sampler->reals.size()), 3);
+    QTRY_COMPARE(m_sampler->reals[2], 2000.f);
 }
 
 void TestEditing::anEnumIsChosenWithTheMouse()
@@ -189,10 +187,12 @@ void TestEditing::anEnumIsChosenWithTheMouse()
     show(chunk);
     auto *box = qobject_cast<QComboBox *>(open("minFilter"));
     QVERIFY(box);
-    click(box);
+    kavoRealInput::click(box);
     QTRY_VERIFY(box->view()->isVisible());
     const QModelIndex linear = box->model()->index(box->findText("GL_LINEAR"), 0);
-    click(box->view()->viewport(), box->view()->visualRect(linear).center());
+    const QPoint item = box->view()->visualRect(linear).center();
+    QTest::qWait(QApplication::doubleClickInterval());
+    kavoRealInput::click(box->view()->viewport()->mapToGlobal(item));
     QTRY_COMPARE(chunk->getMinFilter(), GLenum(9729));
     show(m_sampler);
     osg::subRefCP(chunk);
@@ -203,41 +203,67 @@ void TestEditing::anEnumIsChosenWithTheKeyboard()
     m_sampler->minFilter.setValue(9728);
     show(m_sampler);
     QVERIFY(open("minFilter"));
-    press(Qt::Key_Down);
-    QCOMPARE(m_sampler->minFilter.getValue(), GLenum(9729));
+    kavoRealInput::press({ "Down" });
+    QTRY_COMPARE(m_sampler->minFilter.getValue(), GLenum(9729));
     QCOMPARE(text(editor(), "minFilter"), QString("GL_LINEAR"));
+}
+
+void TestEditing::aColorIsChosenWithTheMouse()
+{
+    QWidget *picker = open("color4");
+    QVERIFY(picker);
+    QTest::qWait(QApplication::doubleClickInterval());
+    kavoRealInput::click(picker);
+    const auto *wheel = picker->findChild<QWidget *>("wheel");
+    QTRY_VERIFY(wheel && wheel->isVisible());
+    kavoRealInput::click(wheel->mapToGlobal(QPoint(5, wheel->height() / 2)));
+    const osg::Color4f &color = m_sampler->color4.getValue();
+    QTRY_VERIFY(color[0] < 0.1f && color[1] > 0.9f && color[2] > 0.9f);
+    QCOMPARE(color[3], 1.f);
+    kavoRealInput::press({ "Return" });
+    QTRY_VERIFY(!wheel->isVisible());
+}
+
+void TestEditing::aColorIsTypedIntoThePopup()
+{
+    QVERIFY(open("color3"));
+    kavoRealInput::press({ "alt+Down" });
+    kavoRealInput::type("#0000ff");
+    kavoRealInput::press({ "Return" });
+    QTRY_VERIFY(m_sampler->color3.getValue() == osg::Color3f(0, 0, 1));
+    QCOMPARE(text(editor(), "color3"), QString("0.00 0.00 1.00 1.00"));
+    QTRY_VERIFY(!QApplication::activePopupWidget());
 }
 
 void TestEditing::aColorIsPasted()
 {
     QGuiApplication::clipboard()->setText("#00ff00");
-    QWidget *picker = open("color4");
-    QVERIFY(picker);
-    press(Qt::Key_V, Qt::ControlModifier);
-    const osg::Color4f &color = m_sampler->color4.getValue();
-    QCOMPARE(color[0], 0.f);
-    QCOMPARE(color[1], 1.f);
-    QCOMPARE(color[3], 1.f);
+    QVERIFY(open("color4"));
+    kavoRealInput::press({ "ctrl+v" });
+    QTRY_VERIFY(m_sampler->color4.getValue() == osg::Color4f(0, 1, 0, 1));
     QCOMPARE(text(editor(), "color4"), QString("0.00 1.00 0.00 1.00"));
-    press(Qt::Key_Escape);
-    QTRY_VERIFY(!QApplication::activePopupWidget());
 }
 
 void TestEditing::leavingTheRowKeepsWhatWasTyped()
 {
-    QVERIFY(open("real64"));
-    press(Qt::Key_A, Qt::ControlModifier);
-    type("12.5");
+    type("real64", "12.5");
     QCOMPARE(m_sampler->real64.getValue(), 0.);
     QVERIFY(open("flag"));
-    QCOMPARE(m_sampler->real64.getValue(), 12.5);
+    QTRY_COMPARE(m_sampler->real64.getValue(), 12.5);
+}
+
+void TestEditing::escapeTakesBackWhatWasTyped()
+{
+    type("real64", "12.5");
+    kavoRealInput::press({ "Escape" });
+    QTRY_VERIFY(view().hasFocus());
+    QCOMPARE(m_sampler->changes, 0);
+    QCOMPARE(text(editor(), "real64"), QString("0"));
 }
 
 void TestEditing::aNewSelectionDropsWhatWasNotFinished()
 {
-    QVERIFY(open("real64"));
-    press(Qt::Key_A, Qt::ControlModifier);
-    type("12.5");
+    type("real64", "12.5");
     m_module->setNode(osg::NullFC);
     QCoreApplication::processEvents();
     QCOMPARE(m_sampler->real64.getValue(), 0.);

@@ -27,7 +27,7 @@ public:
     /// Keys as xdotool names them: "Return", "alt+Down".
     static void press(const QStringList &keys) { run(QStringList("key") + keys); }
 
-    static void type(const QString &text) { run({ "type", text }); }
+    static void type(const QString &text) { run({ "type", "--", text }); }
 
 private:
     static void run(const QStringList &arguments)
