@@ -70,6 +70,8 @@ kavoViewport::kavoViewport(kavoSceneEvents &events, kavoChangeMonitor &monitor,
 
 kavoViewport::~kavoViewport()
 {
+    if (context()) // dies after the viewport, which it must not call any more
+        disconnect(context(), nullptr, this, nullptr);
     dropRenderer();
 }
 
