@@ -1,5 +1,6 @@
+# shellcheck shell=bash
 # Sourced by the scripts: the root of the checkout, and how they speak.
-root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+root=$(CDPATH= cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
 # On standard error, so that what a job of kavo prints can be piped on.
 say() { printf '== %s\n' "$*" >&2; }
@@ -15,7 +16,10 @@ build() {
     say "building (preset $preset)"
     (
         cd "$root"
-        [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset" || fail "configuring failed"
+        local component=${QTPROPERTYBROWSER_SOURCE_DIR:-}
+        [ -f "build/$preset/build.ninja" ] \
+            || cmake --preset "$preset" ${component:+"-DQTPROPERTYBROWSER_SOURCE_DIR=$component"} \
+            || fail "configuring failed"
         cmake --build --preset "$preset" || fail "the build failed"
     ) >&2
 }

@@ -33,7 +33,6 @@ bool hasDisplay(const QStringList &arguments)
 {
     return !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")
         || !qEnvironmentVariableIsEmpty("DISPLAY")
-        || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")
         || arguments.contains(QStringLiteral("-platform"));
 }
 
