@@ -10,6 +10,8 @@
 #include <QProcess>
 #include <QtTest>
 
+#include <dlfcn.h>
+
 class TestPlugin : public QObject
 {
     Q_OBJECT
@@ -17,6 +19,7 @@ class TestPlugin : public QObject
 private slots:
     void initPluginIsTheOnlyFunctionExported();
     void loadingAloneMakesNoModule();
+    void loadingBringsTheValuePairOperationAlong();
     void initPluginMakesTheModule();
     void initPluginTwiceMakesOneModuleAndOneWindow();
     void theTypeOfTheStoredModuleIsTheEditor();
@@ -59,6 +62,13 @@ void TestPlugin::loadingAloneMakesNoModule()
 {
     QVERIFY2(m_library.load(), qPrintable(m_library.errorString()));
     QVERIFY(kavoModuleBase::modules().empty());
+}
+
+void TestPlugin::loadingBringsTheValuePairOperationAlong()
+{
+    void *operation = ::dlopen("libValuePairCSVCreator.so", RTLD_NOW | RTLD_NOLOAD);
+    QVERIFY2(operation, "no such library is loaded");
+    ::dlclose(operation);
 }
 
 void TestPlugin::initPluginMakesTheModule()
