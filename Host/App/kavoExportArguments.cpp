@@ -113,27 +113,30 @@ bool kavoExportArguments::areJobs() const
     return !m_valuePairFile.isEmpty() || !m_exportFile.isEmpty() || !m_importFile.isEmpty();
 }
 
-void kavoExportArguments::run(const osg::NodePtr &scene, const osg::NodePtr &part) const
+bool kavoExportArguments::run(const osg::NodePtr &scene, const osg::NodePtr &part) const
 {
-    const int unplaced = m_importFile.isEmpty() ? 0 : importTable(scene);
+    const bool isImportComplete = m_importFile.isEmpty() || importTable(scene);
     if (!m_valuePairFile.isEmpty())
         kavoValuePairExport::run(part, m_valuePairFile, m_tableOptions.takesAllNodes);
     if (!m_exportFile.isEmpty())
         kavoTableExport(part, optionsFor(m_exportFile)).run(m_exportFile);
-    if (unplaced > 0)
-        throw kavoTaskError(
-            tr("Rows of '%1' without a place in the scene: %2").arg(m_importFile).arg(unplaced));
+    return isImportComplete;
 }
 
-int kavoExportArguments::importTable(const osg::NodePtr &scene) const
+bool kavoExportArguments::importTable(const osg::NodePtr &scene) const
 {
     const kavoTableImport::Report report
         = kavoTableImport::run(scene, m_importFile, optionsFor(m_importFile)).value();
     for (const QString &row : report.unplacedRows)
         std::fprintf(stderr, "kavo: %s\n", qUtf8Printable(row));
+    if (!report.unplacedRows.isEmpty())
+        std::fprintf(stderr, "kavo: %s\n",
+            qUtf8Printable(tr("Rows of '%1' without a place in the scene: %2")
+                               .arg(m_importFile)
+                               .arg(report.unplacedRows.size())));
     std::printf("%s\n", qUtf8Printable(report.summary()));
     std::fflush(stdout);
-    return report.unplacedRows.size();
+    return report.unplacedRows.isEmpty();
 }
 
 kavoTableOptions kavoExportArguments::optionsFor(const QString &fileName) const

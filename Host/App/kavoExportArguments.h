@@ -26,15 +26,16 @@ public:
     /// Imports first, so that what it changes comes out again, then exports.
     /// \param scene the nodes that can be changed
     /// \param part the nodes that are written
-    /// \throws kavoTaskError if one of them fails, after all if rows could not be placed
-    void run(const osg::NodePtr &scene, const osg::NodePtr &part) const;
+    /// \returns false if rows of the table could not be placed; standard error tells which
+    /// \throws kavoTaskError if an import or export fails; the following are not run then
+    bool run(const osg::NodePtr &scene, const osg::NodePtr &part) const;
 
 private:
     void parseTableOptions(const QCommandLineParser &parser);
     QString choose(const QCommandLineParser &parser, const QString &option,
         const QStringList &choices, const QString &preset);
-    /// \returns how many rows could not be placed
-    int importTable(const osg::NodePtr &scene) const;
+    /// \returns whether all rows could be placed
+    bool importTable(const osg::NodePtr &scene) const;
     kavoTableOptions optionsFor(const QString &fileName) const;
 
     QString m_valuePairFile;

@@ -49,12 +49,13 @@ void kavoJobs::start()
 void kavoJobs::run()
 {
     forgetScenes();
+    bool isComplete = true;
     try {
         const QString node = m_commandLine.nodeToSelect();
         if (!node.isEmpty() && !m_window.select(node))
             throw kavoTaskError(tr("The scene has no node named or numbered '%1'").arg(node));
         settle();
-        exportValuePairs();
+        isComplete = exportValuePairs();
         if (!m_commandLine.fileToSave().isEmpty())
             m_window.document().save(m_commandLine.fileToSave());
         if (!m_commandLine.windowToPrint().isEmpty())
@@ -65,7 +66,7 @@ void kavoJobs::run()
         return fail(error.message());
     }
     if (m_commandLine.isJob())
-        QCoreApplication::exit(0);
+        QCoreApplication::exit(isComplete ? 0 : 1);
 }
 
 void kavoJobs::cancel()
@@ -90,11 +91,11 @@ void kavoJobs::fail(const QString &message)
     QCoreApplication::exit(1);
 }
 
-void kavoJobs::exportValuePairs()
+bool kavoJobs::exportValuePairs()
 {
     const osg::NodePtr scene = kavoScenegraph::getRoot();
     const bool isPart = !m_commandLine.nodeToSelect().isEmpty();
-    m_commandLine.exports().run(
+    return m_commandLine.exports().run(
         scene, isPart ? osg::NodePtr(kavoScenegraph::getSelectedNode()) : scene);
 }
 

@@ -16,7 +16,8 @@ public:
 
     /// Opens the scenes and does the rest when they are there. With jobs it ends the event loop
     /// afterwards, with 0, or with 1 after a line on standard error that says what failed; without
-    /// jobs errors are shown in the window.
+    /// jobs errors are shown in the window. Rows of a table that have no place in the scene are a
+    /// failure, too, but no other job is left out for them.
     void start();
 
 private:
@@ -24,7 +25,7 @@ private:
     void cancel();
     void forgetScenes();
     void fail(const QString &message);
-    void exportValuePairs();
+    bool exportValuePairs();
     void printWindow(const QString &key);
     void saveScreenshot(const QString &file);
 

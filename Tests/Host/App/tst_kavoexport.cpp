@@ -13,6 +13,7 @@ private slots:
     void aPartIsWritten();
     void aFileThatCannotBeWrittenExitsWithOne();
     void anEditedTableIsImported();
+    void rowsWithoutAPlaceExitWithOneAfterAllOtherJobs();
     void wrongOptionsExitWithTwo();
 
 private:
@@ -91,6 +92,25 @@ void tst_kavoExport::anEditedTableIsImported()
     QVERIFY2(result.exitCode == 0, result.errors);
     QVERIFY2(result.output.contains("Changed values: 21, nodes: 21\n"), result.output);
     QCOMPARE(written("after.csv"), edited);
+}
+
+void tst_kavoExport::rowsWithoutAPlaceExitWithOneAfterAllOtherJobs()
+{
+    QCOMPARE(run({ spider, "--export-table", "before.csv" }).exitCode, 0);
+    QFile file(m_folder.filePath("edited.csv"));
+    const QByteArray table = written("before.csv").replace(",false,", ",maybe,");
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(table) == table.size());
+    const QByteArray last = table.mid(table.lastIndexOf('\n', -2) + 1);
+    QVERIFY(
+        file.write(QByteArray(last).replace(0, last.indexOf(",/"), "0").replace(",/", ",/No")) > 0);
+    file.close();
+    const Result result = run({ spider, "--import-table", "edited.csv", "--save", "saved.osg",
+        "--screenshot", "window.png" });
+    QCOMPARE(result.exitCode, 1);
+    QVERIFY2(result.errors.contains("kavo: Rows of 'edited.csv' without a place in the scene: 1\n"),
+        result.errors);
+    QVERIFY(written("saved.osg").contains("maybe"));
+    QVERIFY(written("window.png").startsWith("\x89PNG"));
 }
 
 void tst_kavoExport::wrongOptionsExitWithTwo()
