@@ -21,6 +21,16 @@ mode_t permissionsOf(const QString &file)
     return 0666 & ~mask;
 }
 
+// Links stay links, also those to a file that is not there yet.
+QString linkedFile(const QString &file)
+{
+    constexpr int maximum = 40; // as the system allows
+    QFileInfo info(file);
+    for (int links = 0; links < maximum && info.isSymLink(); ++links)
+        info.setFile(info.symLinkTarget());
+    return info.filePath();
+}
+
 }
 
 kavoOutputFile::kavoOutputFile(const QString &target)
@@ -31,17 +41,20 @@ kavoOutputFile::kavoOutputFile(const QString &target)
         fail(EISDIR);
     if (info.exists() && !info.isWritable())
         fail(EACCES);
-    if (info.exists())
-        m_target = info.canonicalFilePath(); // a link stays a link
-    if (info.exists() && !info.isFile())
-        m_path = m_target;
-    else
-        createTemporary();
+    if (info.exists() && !info.isFile()) {
+        m_path = target;
+        return;
+    }
+    m_target = linkedFile(target);
+    if (QFileInfo(m_target).isSymLink())
+        fail(ELOOP);
+    createTemporary();
 }
 
 void kavoOutputFile::createTemporary()
 {
-    m_temporary.setFileTemplate(m_target + QStringLiteral(".XXXXXX"));
+    // The name is a short one: that of the target may be as long as names can be.
+    m_temporary.setFileTemplate(QFileInfo(m_target).path() + QStringLiteral("/.kavo-XXXXXX"));
     if (!m_temporary.open())
         fail(m_temporary.errorString());
     m_path = m_temporary.fileName();

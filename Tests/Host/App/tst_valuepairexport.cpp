@@ -1,3 +1,5 @@
+#include "kavoFileSizeLimit.h"
+
 #include <kavoConsoleCapture.h>
 #include <kavoNodePtr.h>
 #include <kavoTaskError.h>
@@ -11,8 +13,11 @@
 #include <QTest>
 
 #include <algorithm>
+#include <cerrno>
+#include <climits>
 #include <memory>
 #include <sys/stat.h>
+#include <unistd.h>
 
 using kavoTestPairs::addNode;
 
@@ -31,10 +36,16 @@ private slots:
     void theOperationIsCreatedByNameAndDeleted();
     void anExistingFileIsReplacedAndKeepsItsPermissions();
     void aLinkStaysALink();
+    void aLinkToNothingStaysALink();
+    void aLinkToItselfIsExplained();
     void aDeviceIsWrittenToDirectly();
+    void aPipeIsWrittenToDirectly();
+    void aNameMayBeAsLongAsNamesCanBe();
     void aFileThatCannotBeWrittenIsExplained_data();
     void aFileThatCannotBeWrittenIsExplained();
     void aFullDiskIsExplained();
+    void aFailureInTheMiddleLeavesNothing();
+    void aFailureInTheMiddleKeepsTheOldFile();
     void progressGrowsToTheEnd();
     void cancelingLeavesNothing();
     void cancelingKeepsTheOldFile();
@@ -42,6 +53,7 @@ private slots:
 private:
     QString path(const QString &name) const { return m_folder->filePath(name); }
     static QByteArray contentOf(const QString &file);
+    QString reasonOf(const QString &file) const;
 
     std::unique_ptr<kavoConsoleCapture> m_console;
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -67,6 +79,17 @@ QByteArray tst_ValuePairExport::contentOf(const QString &file)
 {
     QFile opened(file);
     return opened.open(QIODevice::ReadOnly) ? opened.readAll() : "no file";
+}
+
+// Why the file cannot be written.
+QString tst_ValuePairExport::reasonOf(const QString &file) const
+{
+    try {
+        kavoValuePairExport::run(m_root, file, false);
+    } catch (const kavoTaskError &error) {
+        return error.message();
+    }
+    return "no error";
 }
 
 void tst_ValuePairExport::theSceneIsWritten()
@@ -130,6 +153,42 @@ void tst_ValuePairExport::aLinkStaysALink()
     QCOMPARE(contentOf(path("a.csv")), QByteArray("nodes\\keys,color,\nMast,blue,\n"));
 }
 
+void tst_ValuePairExport::aLinkToNothingStaysALink()
+{
+    QVERIFY(QFile::link(path("a.csv"), path("link.csv")));
+    QVERIFY(QFile::link(path("link.csv"), path("link to the link.csv")));
+    kavoValuePairExport::run(m_root, path("link to the link.csv"), false);
+    QVERIFY(QFileInfo(path("link to the link.csv")).isSymLink());
+    QVERIFY(QFileInfo(path("link.csv")).isSymLink());
+    QVERIFY(contentOf(path("a.csv")).startsWith("nodes"));
+}
+
+void tst_ValuePairExport::aLinkToItselfIsExplained()
+{
+    QVERIFY(QFile::link(path("a.csv"), path("a.csv")));
+    QCOMPARE(
+        reasonOf(path("a.csv")), "Cannot write '" + path("a.csv") + "': " + qt_error_string(ELOOP));
+    QVERIFY(QFileInfo(path("a.csv")).isSymLink());
+}
+
+void tst_ValuePairExport::aPipeIsWrittenToDirectly()
+{
+    int ends[2];
+    QCOMPARE(::pipe(ends), 0);
+    QVERIFY(kavoValuePairExport::run(m_root, QString("/dev/fd/%1").arg(ends[1]), false));
+    ::close(ends[1]);
+    QFile pipe;
+    QVERIFY(pipe.open(ends[0], QIODevice::ReadOnly, QFile::AutoCloseHandle));
+    QCOMPARE(pipe.readAll(), QByteArray("nodes\\keys,color,\nHull,red,\nMast,blue,\n"));
+}
+
+void tst_ValuePairExport::aNameMayBeAsLongAsNamesCanBe()
+{
+    const QString longest = path(QString(NAME_MAX, 'a'));
+    QVERIFY(kavoValuePairExport::run(m_root, longest, false));
+    QVERIFY(contentOf(longest).startsWith("nodes"));
+}
+
 void tst_ValuePairExport::aDeviceIsWrittenToDirectly()
 {
     QVERIFY(kavoValuePairExport::run(m_root, "/dev/null", false));
@@ -150,23 +209,31 @@ void tst_ValuePairExport::aFileThatCannotBeWrittenIsExplained()
 {
     QFETCH(QString, file);
     QFETCH(QString, reason);
-    try {
-        kavoValuePairExport::run(m_root, file, false);
-        QFAIL("no error");
-    } catch (const kavoTaskError &error) {
-        QCOMPARE(error.message(), QString("Cannot write '%1': %2").arg(file, reason));
-    }
+    QCOMPARE(reasonOf(file), QString("Cannot write '%1': %2").arg(file, reason));
 }
 
 void tst_ValuePairExport::aFullDiskIsExplained()
 {
     QVERIFY(QFile::link("/dev/full", path("full.csv")));
-    try {
-        kavoValuePairExport::run(m_root, path("full.csv"), false);
-        QFAIL("no error");
-    } catch (const kavoTaskError &error) {
-        QVERIFY(error.message().endsWith("No space left on device"));
-    }
+    QVERIFY(reasonOf(path("full.csv")).endsWith("No space left on device"));
+}
+
+void tst_ValuePairExport::aFailureInTheMiddleLeavesNothing()
+{
+    const kavoFileSizeLimit limit(1 << 20);
+    addNode(m_root, "Sail", { { "color", std::string(3 << 20, 'x') } });
+    QVERIFY(reasonOf(path("a.csv")).endsWith(qt_error_string(EFBIG)));
+    QVERIFY(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden).isEmpty());
+}
+
+void tst_ValuePairExport::aFailureInTheMiddleKeepsTheOldFile()
+{
+    kavoValuePairExport::run(m_root, path("a.csv"), false);
+    const QByteArray old = contentOf(path("a.csv"));
+    const kavoFileSizeLimit limit(1 << 20);
+    addNode(m_root, "Sail", { { "color", std::string(3 << 20, 'x') } });
+    QVERIFY(reasonOf(path("a.csv")).endsWith(qt_error_string(EFBIG)));
+    QCOMPARE(contentOf(path("a.csv")), old);
 }
 
 void tst_ValuePairExport::progressGrowsToTheEnd()
@@ -189,7 +256,7 @@ void tst_ValuePairExport::cancelingLeavesNothing()
         addNode(m_root, nullptr);
     const auto cancel = [](int) { return false; };
     QVERIFY(!kavoValuePairExport::run(m_root, path("a.csv"), false, cancel));
-    QVERIFY(QDir(m_folder->path()).isEmpty());
+    QVERIFY(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden).isEmpty());
 }
 
 void tst_ValuePairExport::cancelingKeepsTheOldFile()
