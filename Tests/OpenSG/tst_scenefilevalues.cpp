@@ -28,6 +28,8 @@ private slots:
     void whiteSpaceInStringsBecomesSingleBlanks();
     void whiteSpaceInStringsCanBeKept();
     void longStringsCanBeKeptWhole();
+    void theStringsOfAListStayInTheirPlaces_data();
+    void theStringsOfAListStayInTheirPlaces();
     void infiniteNumbersReadBack();
     void whatIsNoNumberIsWrittenAsZeroAndReported();
 
@@ -130,6 +132,38 @@ void tst_SceneFileValues::longStringsCanBeKeptWhole()
         = StringAttributeMapPtr::dcast(copy->findAttachment(StringAttributeMap::getClassType()));
     QCOMPARE(read->getAttribute("first"), longText + " and " + longText);
     QVERIFY(read->hasAttribute("second"));
+}
+
+void tst_SceneFileValues::theStringsOfAListStayInTheirPlaces_data()
+{
+    QTest::addColumn<QByteArray>("options");
+    QTest::addColumn<QByteArray>("lines");
+
+    QTest::newRow("white space as usual") << QByteArray("") << QByteArray("line1 // c line2");
+    QTest::newRow("white space kept")
+        << QByteArray("whitespace=keep") << QByteArray("line1 // c\nline2");
+}
+
+void tst_SceneFileValues::theStringsOfAListStayInTheirPlaces()
+{
+    QFETCH(QByteArray, options);
+    QFETCH(QByteArray, lines);
+    SceneFileHandler::the().setOptions("osg", options);
+    const NodeRefPtr node(makeCoredNode<Group>());
+    const StringAttributeMapPtr attributes = StringAttributeMap::create();
+    const std::string texts[] = { { 'a', '\0', 'b' }, "line1 // c\nline2", "", "tail\\" };
+    for (const std::string &text : texts) {
+        attributes->setAttribute(text + '.', text);
+    }
+    node->addAttachment(attributes);
+    const NodePtr copy = m_text->readFirst(m_text->write(node.get()));
+    const auto read
+        = StringAttributeMapPtr::dcast(copy->findAttachment(StringAttributeMap::getClassType()));
+    const std::vector<std::string> expected { "ab", lines.toStdString(), "", "tail\\" };
+    QCOMPARE(
+        std::vector<std::string>(read->getValues().begin(), read->getValues().end()), expected);
+    QCOMPARE(read->getAttribute("ab."), std::string("ab"));
+    QVERIFY(contains(m_text->takeLog(), "field values of StringAttributeMap: a null character"));
 }
 
 void tst_SceneFileValues::infiniteNumbersReadBack()

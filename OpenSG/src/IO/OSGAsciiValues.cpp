@@ -90,6 +90,10 @@ std::string AsciiValues::quoted(const Field &field, UInt32 index)
     if (FieldSyntax::of(field.getType()).kind == FieldSyntax::String) {
         text = text.substr(1, text.size() - 2);
     }
+    if (const auto nul = std::remove(text.begin(), text.end(), '\0'); nul != text.end()) {
+        text.erase(nul, text.end());
+        report("a null character in the text is left out");
+    }
     if (text.find('"') != std::string::npos) {
         report("a quote in the text is written with a backslash");
     }
