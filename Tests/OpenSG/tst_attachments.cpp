@@ -23,10 +23,12 @@ private slots:
     void nullAttachmentsAreIgnored();
     void theKeyIsGroupAndBinding();
     void anAttachmentOfTheSameKeyIsReplaced();
+    void anAttachmentReplacesItselfByTheHandleInTheMap();
     void bindingsTellAttachmentsApart();
     void anAttachmentCanHangOnSeveralContainers();
     void aCopyBindsEverythingToZero();
     void destructionUnlinksAttachments();
+    void anAttachmentOfVeryManyContainersIsQuicklyReleased();
     void theInternalFlagIsAField();
     void aNameIsAnAttachment();
     void containersWithoutNameHaveNone();
@@ -91,6 +93,16 @@ void tst_Attachments::anAttachmentOfTheSameKeyIsReplaced()
     QCOMPARE(second.getRefCount(), 1);
 }
 
+void tst_Attachments::anAttachmentReplacesItselfByTheHandleInTheMap()
+{
+    m_node->addAttachment(Name::create());
+    const AttachmentPtr name = m_node->getSFAttachments()->getValue().begin()->second;
+    m_node->addAttachment(m_node->getSFAttachments()->getValue().begin()->second);
+    QCOMPARE(name.getRefCount(), 1);
+    QCOMPARE(name->getParents().size(), 1u);
+    QVERIFY(m_node->findAttachment(Name::getClassType()) == name);
+}
+
 void tst_Attachments::bindingsTellAttachmentsApart()
 {
     const NamePtr first = Name::create();
@@ -132,6 +144,25 @@ void tst_Attachments::destructionUnlinksAttachments()
     m_node->addAttachment(name.get());
     clearRefCP(m_node);
     QCOMPARE(name.get().getRefCount(), 1);
+    QVERIFY(name->getParents().empty());
+}
+
+// From the front every release would walk over all parents that are left: minutes.
+void tst_Attachments::anAttachmentOfVeryManyContainersIsQuicklyReleased()
+{
+    constexpr int count = 100000;
+    const NameRefPtr name(Name::create());
+    std::vector<NodeRefPtr> nodes;
+    for (int i = 0; i < count; ++i) {
+        nodes.emplace_back(Node::create());
+        nodes.back()->addAttachment(name.get());
+    }
+    QElapsedTimer timer;
+    timer.start();
+    while (!nodes.empty()) {
+        nodes.pop_back();
+    }
+    QVERIFY(timer.elapsed() < 2000);
     QVERIFY(name->getParents().empty());
 }
 

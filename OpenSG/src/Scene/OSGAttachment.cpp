@@ -1,5 +1,8 @@
 #include <OpenSG/OSGAttachment.h>
 
+#include <algorithm>
+#include <iterator>
+
 OSG_BEGIN_NAMESPACE
 
 Attachment::Attachment(const Attachment &source)
@@ -13,11 +16,12 @@ void Attachment::addParent(FieldContainerPtr parent)
     _mfParents.push_back(parent);
 }
 
+// From the back: what is taken down goes from there, and an attachment may have very many parents.
 void Attachment::subParent(FieldContainerPtr parent)
 {
-    const auto found = _mfParents.find(parent);
-    if (found != _mfParents.end()) {
-        _mfParents.erase(found);
+    const auto found = std::find(_mfParents.rbegin(), _mfParents.rend(), parent);
+    if (found != _mfParents.rend()) {
+        _mfParents.erase(std::next(found).base());
     }
 }
 

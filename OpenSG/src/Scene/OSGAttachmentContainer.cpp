@@ -29,8 +29,10 @@ AttachmentContainer::~AttachmentContainer()
     }
 }
 
-void AttachmentContainer::addAttachment(const AttachmentPtr &attachment, UInt16 binding)
+// The argument may be the handle in the map that is about to be replaced.
+void AttachmentContainer::addAttachment(const AttachmentPtr &newAttachment, UInt16 binding)
 {
+    const AttachmentPtr attachment = newAttachment;
     if (!attachment) {
         return;
     }
