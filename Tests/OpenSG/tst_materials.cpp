@@ -45,9 +45,6 @@ private slots:
     void otherMaterialsAreDrawnWith();
     void parametersAreSetByNameAndType();
     void parametersAreHeldByTheChunk();
-    void imagesHaveTheirPixels();
-    void imagesWithMipmapsAndFramesHaveRoom();
-    void impossibleImagesAreRefused();
 };
 
 namespace {
@@ -328,42 +325,6 @@ void tst_Materials::parametersAreHeldByTheChunk()
     QVERIFY(chunk->subUniformParameter("place"));
     QVERIFY(!chunk->subUniformParameter("place"));
     QVERIFY(lives(NullFC, id));
-}
-
-void tst_Materials::imagesHaveTheirPixels()
-{
-    const ImageRefPtr image(Image::create());
-    const UInt8 pixels[12] = { 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12 };
-    QVERIFY(!image->isValid());
-    QVERIFY(image->set(Image::OSG_RGB_PF, 2, 2, 1, 1, 1, 0., pixels));
-    QCOMPARE(image->getDimension(), 2);
-    QCOMPARE(image->getBpp(), 3);
-    QCOMPARE(image->getSize(), 12u);
-    QCOMPARE(int(image->getData()[11]), 12);
-    QVERIFY(image->isValid() && !image->hasAlphaChannel());
-}
-
-void tst_Materials::imagesWithMipmapsAndFramesHaveRoom()
-{
-    const ImageRefPtr image(Image::create());
-    QVERIFY(image->set(
-        Image::OSG_RGBA_PF, 4, 2, 1, 3, 2, 0., nullptr, Image::OSG_UINT16_IMAGEDATA, true, 6));
-    const int side = (4 * 2 + 2 * 1 + 1) * 8;
-    QCOMPARE(image->getSideSize(), side);
-    QCOMPARE(image->getSize(), UInt32(side * 6 * 2));
-    QCOMPARE(image->getData(1, 1, 2) - image->getData(), std::ptrdiff_t(side * 8 + 4 * 2 * 8));
-    QVERIFY(!image->getData(0, 2));
-}
-
-void tst_Materials::impossibleImagesAreRefused()
-{
-    const ImageRefPtr image(Image::create());
-    QVERIFY(!image->set(1, 2));
-    QVERIFY(!image->set(Image::OSG_L_PF, 0));
-    QVERIFY(!image->set(Image::OSG_L_PF, 2, 2, 1, 1, 1, 0., nullptr, 17));
-    QVERIFY(
-        image->set(Image::OSG_L_PF, 2, 2, 1, 1, 1, 0., nullptr, Image::OSG_UINT8_IMAGEDATA, false));
-    QVERIFY(!image->isValid() && !image->getData());
 }
 
 QTEST_APPLESS_MAIN(tst_Materials)

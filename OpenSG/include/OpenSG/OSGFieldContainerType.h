@@ -40,8 +40,10 @@ public:
     const FieldDescription *findFieldDescription(const Char8 *szFieldName) const;
     UInt32 getNumFieldDescs() const { return static_cast<UInt32>(_descriptions.size()); }
 
-    /// Only for types made with `bDescsAddable`. The id of the new field; 0 if refused.
+    /// Only for types made with `bDescsAddable`. The id of the new field; 0 if refused, as it is
+    /// for a name that is taken and when the mask has no bit left.
     UInt32 addDescription(const FieldDescription &description);
+    /// Of those that were added the last can go; the ids of others must not change.
     bool subDescription(UInt32 uiFieldId);
 
     FieldContainerPtr getPrototype() const { return _prototype; }
@@ -71,6 +73,7 @@ private:
     enum class Family { None, Node, NodeCore, Attachment };
 
     bool initialize();
+    bool inheritFromParent();
     bool inheritFrom(FieldContainerType *parent);
     void addOwnDescriptions();
     Family findFamily() const;
@@ -85,6 +88,7 @@ private:
     FieldContainerPtr _prototype;
     Family _family = Family::None;
     bool _initialized = false;
+    bool _isInitializing = false;
 };
 
 OSG_END_NAMESPACE

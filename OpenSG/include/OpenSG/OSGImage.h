@@ -35,11 +35,13 @@ public:
 
     /// Becomes an image of the given kind; announces no edit. The pixels are copied from `data`;
     /// without data they are zeros, and without `allocMem` there are none. False, and nothing
-    /// changes, for an unknown format or type and for sizes and counts below 1.
+    /// changes, for an unknown format or type, for sizes and counts below 1, for more than 31
+    /// mipmaps and for more than 2^31 - 1 bytes.
     bool set(UInt32 pixelFormat, Int32 width, Int32 height = 1, Int32 depth = 1,
         Int32 mipmapCount = 1, Int32 frameCount = 1, Time frameDelay = 0.0,
         const UInt8 *data = nullptr, Int32 type = OSG_UINT8_IMAGEDATA, bool allocMem = true,
         Int32 sideCount = 1);
+
 
     /// The first byte of an image; NULL if there are no pixels.
     UInt8 *getData(UInt32 mipmap = 0, UInt32 frame = 0, UInt32 side = 0);
@@ -48,9 +50,13 @@ public:
     /// Bytes of all pixels.
     UInt32 getSize() const { return _mfPixel.size(); }
 
+    /// Bytes per component, pixel, side and frame follow from the other fields.
+    void changed(BitVector whichField, UInt32 origin) override;
+
 private:
     void fillPixels(UInt32 size, const UInt8 *data);
-    UInt32 mipmapOffset(UInt32 mipmap) const;
+    void deriveSizes();
+    double mipmapOffset(UInt32 mipmap) const;
 
 protected:
     friend class FieldContainer;

@@ -12,6 +12,12 @@
 
 OSG_BEGIN_NAMESPACE
 
+namespace {
+
+constexpr std::size_t maskBits = 64;
+
+}
+
 FieldContainerType::FieldContainerType(const Char8 *szName, const Char8 *szParentName,
     const Char8 *szGroupName, PrototypeCreateF fPrototypeCreate, InitContainerF fInitMethod,
     FieldDescription **pDesc, UInt32 uiDescByteCounter, bool bDescsAddable)
@@ -63,10 +69,10 @@ const FieldDescription *FieldContainerType::findFieldDescription(const Char8 *sz
 
 UInt32 FieldContainerType::addDescription(const FieldDescription &description)
 {
-    if (!_descriptionsAddable || findFieldDescription(description.getCName())) {
+    const UInt32 id = getNumFieldDescs() + 1;
+    if (!_descriptionsAddable || id >= maskBits || findFieldDescription(description.getCName())) {
         return 0;
     }
-    const UInt32 id = getNumFieldDescs() + 1;
     auto own = std::make_unique<FieldDescription>(description);
     own->setFieldId(id);
     own->setFieldMask(TypeTraits<BitVector>::One << id);
@@ -77,14 +83,14 @@ UInt32 FieldContainerType::addDescription(const FieldDescription &description)
 
 bool FieldContainerType::subDescription(UInt32 uiFieldId)
 {
-    FieldDescription *description = getFieldDescription(uiFieldId);
-    const auto own = std::find_if(_ownDescriptions.begin(), _ownDescriptions.end(),
-        [=](const auto &candidate) { return candidate.get() == description; });
-    if (!_descriptionsAddable || !description || own == _ownDescriptions.end()) {
+    const bool isLast = uiFieldId > 0 && uiFieldId == getNumFieldDescs();
+    const bool isOwn = isLast && !_ownDescriptions.empty()
+        && _ownDescriptions.back().get() == _descriptions.back();
+    if (!_descriptionsAddable || !isOwn) {
         return false;
     }
-    _descriptions.erase(_descriptions.begin() + (uiFieldId - 1));
-    _ownDescriptions.erase(own);
+    _descriptions.pop_back();
+    _ownDescriptions.pop_back();
     return true;
 }
 
@@ -138,14 +144,16 @@ void FieldContainerType::dump(UInt32 uiIndent, const BitVector) const
     }
 }
 
+// A type that is asked for while it looks for its parent is its own ancestor.
 bool FieldContainerType::initialize()
 {
-    if (_initialized) {
-        return true;
+    if (_initialized || _isInitializing) {
+        return _initialized;
     }
-    FieldContainerFactory &factory = *FieldContainerFactory::the();
-    if (getCParentName() && !inheritFrom(factory.findUninitializedType(getCParentName()))
-        && !inheritFrom(factory.findType(getCParentName()))) {
+    _isInitializing = true;
+    const bool hasParent = !getCParentName() || inheritFromParent();
+    _isInitializing = false;
+    if (!hasParent) {
         SWARNING << getName() << " lacks its parent " << getParentName() << endLog;
         return false;
     }
@@ -156,6 +164,13 @@ bool FieldContainerType::initialize()
     }
     _family = findFamily();
     return true;
+}
+
+bool FieldContainerType::inheritFromParent()
+{
+    const FieldContainerFactory &factory = *FieldContainerFactory::the();
+    return inheritFrom(factory.findUninitializedType(getCParentName()))
+        || inheritFrom(factory.findType(getCParentName()));
 }
 
 bool FieldContainerType::inheritFrom(FieldContainerType *parent)
@@ -174,7 +189,7 @@ void FieldContainerType::addOwnDescriptions()
         _descriptions.push_back(description.get());
     }
     std::stable_sort(_descriptions.begin(), _descriptions.end(), FieldDescriptionPLT());
-    if (_descriptions.size() >= 64) {
+    if (_descriptions.size() >= maskBits) {
         SWARNING << getName() << " has more fields than a mask has bits" << endLog;
     }
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <limits>
 
 OSG_BEGIN_NAMESPACE
 
@@ -55,6 +56,27 @@ const TypeInfo *findType(Int32 type)
     return found != std::end(types) ? found : nullptr;
 }
 
+/// More than that an image of the largest size does not have.
+constexpr UInt32 maxMipMaps = 31;
+
+constexpr double maxSize = std::numeric_limits<Int32>::max();
+
+// Each mipmap is half as large as the one before in every direction, but never below 1.
+double halved(Int32 size, UInt32 level)
+{
+    return std::max(size >> level, 1);
+}
+
+// In numbers that the product of three sizes does not overflow.
+double pixelsOfMipMaps(Int32 width, Int32 height, Int32 depth, UInt32 count)
+{
+    double pixels = 0;
+    for (UInt32 level = 0; level < std::min(count, maxMipMaps); ++level) {
+        pixels += halved(width, level) * halved(height, level) * halved(depth, level);
+    }
+    return pixels;
+}
+
 Int32 dimensionOf(Int32 width, Int32 height, Int32 depth)
 {
     return depth > 1 ? 3 : height > 1 ? 2 : width > 1 ? 1 : 0;
@@ -69,13 +91,15 @@ bool Image::set(UInt32 pixelFormat, Int32 width, Int32 height, Int32 depth, Int3
     const FormatInfo *format = findFormat(pixelFormat);
     const TypeInfo *component = findType(type);
     const Int32 least = std::min({ width, height, depth, mipmapCount, frameCount, sideCount });
-    if (!format || !component || least < 1) {
+    if (!format || !component || least < 1 || UInt32(mipmapCount) > maxMipMaps) {
+        return false;
+    }
+    const double pixels = pixelsOfMipMaps(width, height, depth, mipmapCount);
+    if (pixels * format->channels * component->size * sideCount * frameCount > maxSize) {
         return false;
     }
     setPixelFormat(pixelFormat);
     setDataType(type);
-    setComponentSize(component->size);
-    setBpp(format->channels * component->size);
     setDimension(dimensionOf(width, height, depth));
     setWidth(width);
     setHeight(height);
@@ -84,8 +108,7 @@ bool Image::set(UInt32 pixelFormat, Int32 width, Int32 height, Int32 depth, Int3
     setSideCount(sideCount);
     setFrameCount(frameCount);
     setFrameDelay(frameDelay);
-    setSideSize(mipmapOffset(mipmapCount));
-    setFrameSize(getSideSize() * sideCount);
+    deriveSizes();
     fillPixels(allocMem ? getFrameSize() * frameCount : 0, data);
     return true;
 }
@@ -100,10 +123,39 @@ void Image::fillPixels(UInt32 size, const UInt8 *data)
     }
 }
 
+void Image::changed(BitVector whichField, UInt32 origin)
+{
+    constexpr BitVector sources = WidthFieldMask | HeightFieldMask | DepthFieldMask
+        | MipMapCountFieldMask | SideCountFieldMask | PixelFormatFieldMask | DataTypeFieldMask
+        | BppFieldMask;
+    if (whichField & sources) {
+        deriveSizes();
+    }
+    Inherited::changed(whichField, origin);
+}
+
+// A format that is not known here leaves its bytes per pixel to whoever set it. An image of
+// impossible size has none.
+void Image::deriveSizes()
+{
+    const FormatInfo *format = findFormat(getPixelFormat());
+    if (const TypeInfo *component = findType(getDataType())) {
+        setComponentSize(component->size);
+        setBpp(format ? format->channels * component->size : getBpp());
+    }
+    const double side = mipmapOffset(std::max(getMipMapCount(), 1));
+    const double frame = side * std::max(getSideCount(), 1);
+    const bool isPossible = side >= 0 && frame <= maxSize;
+    setSideSize(isPossible ? static_cast<Int32>(side) : 0);
+    setFrameSize(isPossible ? static_cast<Int32>(frame) : 0);
+}
+
 UInt8 *Image::getData(UInt32 mipmap, UInt32 frame, UInt32 side)
 {
-    const UInt32 offset = frame * getFrameSize() + side * getSideSize() + mipmapOffset(mipmap);
-    return offset < _mfPixel.size() ? &_mfPixel[offset] : nullptr;
+    const double offset
+        = double(frame) * getFrameSize() + double(side) * getSideSize() + mipmapOffset(mipmap);
+    const bool isInside = offset >= 0 && offset < _mfPixel.size();
+    return isInside ? &_mfPixel[static_cast<UInt32>(offset)] : nullptr;
 }
 
 bool Image::hasAlphaChannel() const
@@ -112,15 +164,10 @@ bool Image::hasAlphaChannel() const
     return format && format->hasAlpha;
 }
 
-// Each mipmap is half as large as the one before in every direction, but never below 1.
-UInt32 Image::mipmapOffset(UInt32 mipmap) const
+// In bytes.
+double Image::mipmapOffset(UInt32 mipmap) const
 {
-    UInt32 offset = 0;
-    for (UInt32 level = 0; level < mipmap; ++level) {
-        offset += std::max(getWidth() >> level, 1) * std::max(getHeight() >> level, 1)
-            * std::max(getDepth() >> level, 1) * getBpp();
-    }
-    return offset;
+    return pixelsOfMipMaps(getWidth(), getHeight(), getDepth(), mipmap) * getBpp();
 }
 
 OSG_END_NAMESPACE
