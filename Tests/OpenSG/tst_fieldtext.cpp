@@ -48,6 +48,8 @@ private slots:
     void realsBeyondTheRangeAreInfiniteOrZero();
     void aHexadecimalRealIsRead();
     void anIntegerBeyondSixtyFourBitsSaturatesBeforeItWraps();
+    void noTextIsLikeAnEmptyText_data();
+    void noTextIsLikeAnEmptyText();
     void aTextlessTypeLogsAndLeavesTheStringAlone();
     void aReadNumberWritesTheSameText_data();
     void aReadNumberWritesTheSameText();
@@ -257,6 +259,28 @@ void tst_FieldText::anIntegerBeyondSixtyFourBitsSaturatesBeforeItWraps()
     QCOMPARE(textAfter<osg::SFInt64>({ "99999999999999999999" }), QString("9223372036854775807"));
     QCOMPARE(textAfter<osg::SFInt32>({ "99999999999999999999" }), QString("-1"));
     QCOMPARE(textAfter<osg::SFUInt64>({ "99999999999999999999" }), QString("18446744073709551615"));
+}
+
+void tst_FieldText::noTextIsLikeAnEmptyText_data()
+{
+    QTest::addColumn<QByteArray>("typeName");
+
+    for (const char *name : { "SFString", "MFString", "SFInt32", "SFReal64", "SFBool", "SFVec3f",
+             "SFColor4f", "SFMatrix", "SFQuaternion", "SFDynamicVolume" }) {
+        QTest::newRow(name) << QByteArray(name);
+    }
+}
+
+void tst_FieldText::noTextIsLikeAnEmptyText()
+{
+    QFETCH(QByteArray, typeName);
+    const auto field = fieldOf(typeName.constData());
+    const auto other = fieldOf(typeName.constData());
+    field->pushValueByStr(nullptr);
+    other->pushValueByStr("");
+    std::string text;
+    std::string expected;
+    QCOMPARE(field->getValueByStr(text), other->getValueByStr(expected));
 }
 
 void tst_FieldText::aTextlessTypeLogsAndLeavesTheStringAlone()

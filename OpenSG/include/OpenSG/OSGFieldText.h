@@ -26,10 +26,12 @@ template <class Traits, class T> void write(const T &value, std::string &out)
     }
 }
 
+/// NULL is like an empty text; without a text form logs a line.
 template <class Traits, class T> void read(T &value, const Char8 *str)
 {
     if constexpr (isReadable<Traits>) {
-        Traits::getFromString(value, str);
+        const Char8 *text = str ? str : "";
+        Traits::getFromString(value, text);
     } else {
         reportNoReader();
     }
