@@ -71,6 +71,9 @@ class Container(Described):
             self.pointers or "both", [self.pointers])
         self.fields = []
 
+    def follows_edits(self):
+        return any(f.counted or f.numbered for f in self.fields)
+
 
 def split_flags(line):
     found = FLAGS.search(line)

@@ -91,7 +91,7 @@ def type_functions(c):
     static {c.name}Ptr createEmpty();
     FieldContainerPtr shallowCopy() const override;
 """
-    if any(f.counted for f in c.fields):
+    if c.follows_edits():
         text += "    void changed(BitVector whichField, UInt32 origin) override;\n"
     return text
 
@@ -128,10 +128,21 @@ def protected_part(c):
     parts.append(f"    {c.cpp_name}(const {c.cpp_name} &) = default;\n")
     parts.append(f"    ~{c.cpp_name}() override = default;\n")
     parts += [accessors(c, f) for f in c.fields if f.protected]
+    parts += [forgotten(c, f) for f in c.fields if f.numbered]
     parts.append("\n" if c.fields else "")
     parts += [f"    {f.type} {f.member}{f.initializer()};\n" for f in c.fields]
     parts += [f"    {holder(f)} _held{f.title};\n" for f in c.fields if f.counted]
     return "".join(parts)
+
+
+def forgotten(c, f):
+    return f"""
+    void onCreate(const {c.cpp_name} *source = nullptr)
+    {{
+        Inherited::onCreate(source);
+        {f.member}.setValue(0);
+    }}
+"""
 
 
 def holder(f):

@@ -22,7 +22,7 @@ def pointer_fields(c):
 
 
 def class_source(c):
-    return f"\n// {c.name}\n" + field_table(c) + type_object(c) + creation(c) + reference_upkeep(c)
+    return f"\n// {c.name}\n" + field_table(c) + type_object(c) + creation(c) + end_of_edit(c)
 
 
 def field_table(c):
@@ -88,12 +88,17 @@ def follow(f):
     return f"    if (whichField & {f.title}FieldMask) {{\n        {action};\n    }}\n"
 
 
-def reference_upkeep(c):
+def number(f):
+    value = f"{f.member}.getValue()"
+    return f"    if ({value} == 0) {{\n        {f.member}.setValue(newGLId());\n    }}\n"
+
+
+def end_of_edit(c):
     """Fields that were filled without their setter get their references when the edit ends."""
-    counted = [f for f in c.fields if f.counted]
-    if not counted:
+    if not c.follows_edits():
         return ""
-    body = "".join(follow(f) for f in counted)
+    body = "".join(follow(f) for f in c.fields if f.counted)
+    body += "".join(number(f) for f in c.fields if f.numbered)
     return f"""
 void {c.cpp_name}::changed(BitVector whichField, UInt32 origin)
 {{

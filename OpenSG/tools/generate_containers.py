@@ -24,6 +24,7 @@ Flags of a field
     bare              has no accessors but getSFX or getMFX, the others are written by hand
     protected         has protected accessors
     counted           the setter counts references
+    numbered          the first edit gives it StateChunk::newGLId(); not copied
     described TYPE    the type that the description tells, where it is not the field's
     remark TEXT       what FieldDescription::getDefaultValue() returns
 

@@ -14,8 +14,8 @@
 
 using namespace osg;
 
-/// What this library has and stock 1.8 lacks. Tests of anything else compile against both; this
-/// one is built with ours only.
+/// What this library has and stock 1.8 lacks, or has in a form that is not documented. Tests of
+/// anything else compile against both; this one is built with ours only.
 class tst_Additions : public QObject
 {
     Q_OBJECT
@@ -38,6 +38,8 @@ private slots:
     void functionsOfAnyFormVisitNodes_data();
     void functionsOfAnyFormVisitNodes();
     void lambdasVisitNodes();
+    void constHandlesOnlyRead();
+    void constHandlesComeFromHandlesAndCasts();
 
 private:
     NodePtr m_root;
@@ -268,6 +270,27 @@ void tst_Additions::lambdasVisitNodes()
         return Action::Continue;
     }));
     QCOMPARE(names, (QStringList { "root", "child" }));
+}
+
+void tst_Additions::constHandlesOnlyRead()
+{
+    typedef ConstFCPtr<ConstFieldContainerPtr, Group> ConstGroupPtr;
+    QVERIFY((std::is_same_v<decltype(*ConstGroupPtr()), const Group &>));
+    QVERIFY((std::is_same_v<decltype(*ConstFieldContainerPtr()), const FieldContainer &>));
+    QVERIFY((!std::is_convertible_v<ConstGroupPtr, GroupPtr>));
+}
+
+void tst_Additions::constHandlesComeFromHandlesAndCasts()
+{
+    typedef ConstFCPtr<ConstFieldContainerPtr, Group> ConstGroupPtr;
+    const RefPtr<TransformPtr> transform(Transform::create());
+    const ConstFieldContainerPtr any(transform.get());
+    const ConstGroupPtr group(transform.get());
+    QVERIFY(any == transform.get() && group == any);
+    QCOMPARE(group->getTypeName(), "Transform");
+    QVERIFY(ConstGroupPtr::dcast(any) == group);
+    QVERIFY((ConstFCPtr<ConstFieldContainerPtr, Node>::dcast(any)) == NullFC);
+    QVERIFY(ConstGroupPtr() == NullFC && !ConstGroupPtr(NullFC));
 }
 
 QTEST_APPLESS_MAIN(tst_Additions)

@@ -1,4 +1,5 @@
 #include "LogCapture.h"
+#include "NotInStock.h"
 
 #include <OpenSG/OSGBaseFunctions.h>
 #include <OpenSG/OSGFieldContainerFactory.h>
@@ -7,6 +8,8 @@
 #include <OpenSG/OSGTypeFactory.h>
 
 #include <QtTest>
+
+#include <sstream>
 
 using namespace osg;
 
@@ -39,6 +42,9 @@ private slots:
     void aDescriptionWithoutAccessIsReported();
     void aNewContainerIsACopyOfThePrototype();
     void mappedIdsGoThroughTheMapper();
+    void aTypeIsListedWithItsFields();
+    void allTypesAreListed();
+    void anUnknownTypeIsNotListed();
 };
 
 namespace {
@@ -276,6 +282,37 @@ void tst_Factory::mappedIdsGoThroughTheMapper()
     factory().setMapper(&mapper);
     QVERIFY(factory().getMappedContainer(id - 1) == node.get());
     factory().setMapper(nullptr);
+}
+
+void tst_Factory::aTypeIsListedWithItsFields()
+{
+    NOT_IN_STOCK("stock 1.8 lists types in a form of its own");
+    std::ostringstream listing;
+    factory().writeFCD("Attachment", &listing);
+    QCOMPARE(listing.str(),
+        std::string("Attachment : FieldContainer  [abstract]\n"
+                    "    parents MFNodePtr  [internal]\n"
+                    "    internal SFBool\n"));
+}
+
+void tst_Factory::allTypesAreListed()
+{
+    std::ostringstream listing;
+    factory().writeFCD(nullptr, &listing);
+    const QByteArray text = QByteArray::fromStdString(listing.str());
+    for (auto entry = factory().beginTypes(); entry != factory().endTypes(); ++entry) {
+        QVERIFY(text.contains(entry->second->getCName()));
+    }
+}
+
+void tst_Factory::anUnknownTypeIsNotListed()
+{
+    NOT_IN_STOCK("what stock 1.8 makes of it is not documented");
+    LogCapture log;
+    std::ostringstream listing;
+    factory().writeFCD("Nothing", &listing);
+    QVERIFY(listing.str().empty());
+    QVERIFY(log.text.startsWith("WARNING"));
 }
 
 QTEST_APPLESS_MAIN(tst_Factory)

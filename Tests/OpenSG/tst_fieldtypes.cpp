@@ -36,8 +36,6 @@ private slots:
     void anEmptyFieldOfTheSameTypeEmptiesAMultiField();
     void multiFieldsBehaveAsVectors();
     void boolListsHoldBits();
-    void valuesComeBackFromTheirBinaryForm();
-    void aReadBeyondTheBinaryFormGivesZero();
 };
 
 namespace {
@@ -218,30 +216,6 @@ void tst_FieldTypes::boolListsHoldBits()
     field.setValue(true, 1);
     QVERIFY(field[1]);
     QCOMPARE(field.getSize(), osg::UInt32(2));
-}
-
-void tst_FieldTypes::valuesComeBackFromTheirBinaryForm()
-{
-    osg::MFString names, namesBack;
-    names.push_back("a \"b\"");
-    names.push_back("");
-    osg::SFVec3f place(osg::Vec3f(1, 2, 1.f / 3)), placeBack;
-    osg::BinaryDataHandler bytes;
-    names.copyToBin(bytes);
-    place.copyToBin(bytes);
-    QCOMPARE(bytes.getSize(), size_t(names.getBinSize() + place.getBinSize()));
-    namesBack.copyFromBin(bytes);
-    placeBack.copyFromBin(bytes);
-    QCOMPARE(namesBack.getValues(), names.getValues());
-    QCOMPARE(placeBack.getValue(), place.getValue());
-}
-
-void tst_FieldTypes::aReadBeyondTheBinaryFormGivesZero()
-{
-    osg::BinaryDataHandler bytes;
-    osg::SFInt32 field(7);
-    field.copyFromBin(bytes);
-    QCOMPARE(field.getValue(), 0);
 }
 
 QTEST_APPLESS_MAIN(tst_FieldTypes)

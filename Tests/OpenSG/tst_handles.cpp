@@ -49,6 +49,7 @@ private slots:
     void refPtrHoldsAReference();
     void aCoredNodeHasBoth();
     void pointerTextIsTheAddress();
+    void theAddRefOfAnyHandleDropsAReference();
 };
 
 namespace {
@@ -321,6 +322,17 @@ void tst_Handles::pointerTextIsTheAddress()
     QCOMPARE(QString::fromStdString(field.getValueByStr(text)), QString("(nil)"));
     field.setValue(node.get());
     QCOMPARE(QString::fromStdString(field.getValueByStr(text)), addressOf(node.get().getCPtr()));
+}
+
+void tst_Handles::theAddRefOfAnyHandleDropsAReference()
+{
+    const GroupRefPtr group(Group::create());
+    addRefCP(group.get());
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED
+    addRef(group.get());
+    QT_WARNING_POP
+    QCOMPARE(group.get().getRefCount(), 1);
 }
 
 QTEST_APPLESS_MAIN(tst_Handles)

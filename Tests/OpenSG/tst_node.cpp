@@ -41,7 +41,6 @@ private slots:
     void changesInvalidateTheVolumesAbove();
     void aHiddenNodeKeepsItsVolume();
     void aNodeForNoCoreIsNull();
-    void aCloneSharesItsCores();
     void aCopyHasNeitherParentNorChildren();
 };
 
@@ -276,19 +275,6 @@ void tst_Node::aHiddenNodeKeepsItsVolume()
 void tst_Node::aNodeForNoCoreIsNull()
 {
     QVERIFY(makeNodeFor(NullFC) == NullFC);
-}
-
-void tst_Node::aCloneSharesItsCores()
-{
-    const NodeRefPtr root(makeCoredNode<Group>());
-    root->addChild(makeCoredNode<Transform>());
-    setName(root->getChild(0), "inner");
-    const NodeRefPtr copy(cloneTree(root.get()));
-    QVERIFY(copy.get() != root.get());
-    QVERIFY(copy->getCore() == root->getCore());
-    QVERIFY(copy->getChild(0)->getCore() == root->getChild(0)->getCore());
-    QCOMPARE(getName(copy->getChild(0)), "inner");
-    QVERIFY(cloneTree(NullFC) == NullFC);
 }
 
 void tst_Node::aCopyHasNeitherParentNorChildren()

@@ -75,4 +75,12 @@ template <class PtrT> void subRef(const PtrT &handle)
     subRefCP(handle);
 }
 
+/// Deliberate: OpenSG 1.8 drops a reference here, and clients that have come to terms with it
+/// behave the same with this library.
+template <class PtrT>
+[[deprecated("drops a reference, as in OpenSG 1.8; use addRefCP")]] void addRef(const PtrT &handle)
+{
+    subRefCP(handle);
+}
+
 OSG_END_NAMESPACE

@@ -6,6 +6,7 @@
 
 OSG_BEGIN_NAMESPACE
 
+class BinaryDataHandler;
 class FieldContainerPtr;
 class FieldContainerType;
 class StringConversionStateBase;
@@ -38,6 +39,11 @@ public:
     /// Copies `obj` if it is of the very same field type, else does nothing.
     virtual void setAbstrValue(const Field &obj) = 0;
     virtual void dump() const = 0;
+
+    /// Binary form: its size in bytes, writing it, and reading it in place of the value.
+    virtual UInt32 getBinSize() = 0;
+    virtual void copyToBin(BinaryDataHandler &target) = 0;
+    virtual void copyFromBin(BinaryDataHandler &source) = 0;
 
     /// The container that the pointer at `index` refers to, whatever the type of its handle; the
     /// null handle for a field of values and for an index out of range.

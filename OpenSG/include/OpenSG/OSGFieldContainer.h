@@ -48,11 +48,12 @@ public:
     /// Called at the end of an edit: the place to bring derived data up to date.
     virtual void changed(BitVector whichField, UInt32 origin);
 
-    /// Binary form of the masked fields, for classes that travel between processes: such a class
-    /// overrides all three and calls its parent's first. The classes of this library do not.
-    virtual UInt32 getBinSize(const BitVector &) { return 0; }
-    virtual void copyToBin(BinaryDataHandler &, const BitVector &) { }
-    virtual void copyFromBin(BinaryDataHandler &, const BitVector &) { }
+    /// Binary form of the masked fields, in the order of their ids; the same mask has to be given
+    /// to write and to read it. A pointer is the id of its container. Attachments are left out.
+    /// Nothing follows what was read until the edit is ended.
+    virtual UInt32 getBinSize(const BitVector &whichField);
+    virtual void copyToBin(BinaryDataHandler &target, const BitVector &whichField);
+    virtual void copyFromBin(BinaryDataHandler &source, const BitVector &whichField);
 
     /// Writes type, id and the text of every field to the log.
     virtual void dump(UInt32 uiIndent = 0, const BitVector bvFlags = 0) const;
@@ -94,6 +95,7 @@ private:
 
     struct Header;
     Header &header();
+    template <class Function> void forEachField(BitVector whichField, const Function &function);
     static void enterInStore(const FieldContainerPtr &container);
     void destroy();
 

@@ -59,6 +59,10 @@ public:
     NodeCorePtr createNodeCore(const Char8 *name) const;
     AttachmentPtr createAttachment(const Char8 *name) const;
 
+    /// Writes the type of this name, or all types, with the fields of each in the form that
+    /// generate_containers.py reads, without defaults; to standard output if there is no `out`.
+    void writeFCD(const Char8 *name = nullptr, std::ostream *out = nullptr);
+
     /// All containers by id; NULL before the first one exists.
     const FieldContainerStore *getFieldContainerStore() const;
 

@@ -132,4 +132,5 @@ FieldContainerPtr containerOf(UInt32 id);
 
 OSG_END_NAMESPACE
 
+#include <OpenSG/OSGConstFCPtr.h>
 #include <OpenSG/OSGFCPtr.h>

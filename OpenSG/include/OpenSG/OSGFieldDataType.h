@@ -2,6 +2,7 @@
 
 #include <OpenSG/OSGBinaryDataHandler.h>
 #include <OpenSG/OSGDataType.h>
+#include <OpenSG/OSGFieldContainerPtrBase.h>
 
 #include <string>
 #include <type_traits>
@@ -131,11 +132,21 @@ template <class T> struct FieldTraitsIntegralRecurseMapper : FieldTraits
     }
 };
 
-/// Base of a type whose binary form is that of its `T::Inherited`: a handle is written as its
-/// base handle is. Without `forwards` the type has no binary form.
+class FieldContainerPtr;
+
+/// Base of a type whose binary form is that of its `T::Inherited`; handles of all classes are
+/// written as FieldContainerPtr is. Without `forwards` the binary form is empty, and reading it
+/// changes nothing.
 template <class T, bool forwards = false> struct FieldTraitsRecurseMapper : FieldTraits
 {
     typedef const T &ArgumentType;
+
+    static UInt32 getBinSize(const T &) { return 0; }
+    static void copyToBin(BinaryDataHandler &, const T &) { }
+    static void copyFromBin(BinaryDataHandler &, T &) { }
+    static UInt32 getBinSize(const T *, UInt32) { return 0; }
+    static void copyToBin(BinaryDataHandler &, const T *, UInt32) { }
+    static void copyFromBin(BinaryDataHandler &, T *, UInt32) { }
 };
 
 template <class T>
@@ -147,17 +158,18 @@ struct FieldTraitsRecurseMapper<T, true> : FieldTraitsList<T, FieldTraitsRecurse
     using Lists::copyToBin;
     using Lists::getBinSize;
 
-    static UInt32 getBinSize(const T &object)
-    {
-        return FieldDataTraits<typename T::Inherited>::getBinSize(object);
-    }
+    static constexpr bool isHandle = std::is_base_of_v<FieldContainerPtrBase, T>;
+    typedef FieldDataTraits<std::conditional_t<isHandle, FieldContainerPtr, typename T::Inherited>>
+        Forwarded;
+
+    static UInt32 getBinSize(const T &object) { return Forwarded::getBinSize(object); }
     static void copyToBin(BinaryDataHandler &target, const T &object)
     {
-        FieldDataTraits<typename T::Inherited>::copyToBin(target, object);
+        Forwarded::copyToBin(target, object);
     }
     static void copyFromBin(BinaryDataHandler &source, T &object)
     {
-        FieldDataTraits<typename T::Inherited>::copyFromBin(source, object);
+        Forwarded::copyFromBin(source, object);
     }
 };
 

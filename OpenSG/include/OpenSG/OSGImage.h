@@ -41,7 +41,10 @@ public:
         Int32 mipmapCount = 1, Int32 frameCount = 1, Time frameDelay = 0.0,
         const UInt8 *data = nullptr, Int32 type = OSG_UINT8_IMAGEDATA, bool allocMem = true,
         Int32 sideCount = 1);
-
+    /// Reads or writes a binary PNM file (P5 or P6) of bytes, the only format that is known here;
+    /// no other image is written. False, and a warning, if that fails. Reading announces no edit.
+    bool read(const Char8 *fileName);
+    bool write(const Char8 *fileName);
 
     /// The first byte of an image; NULL if there are no pixels.
     UInt8 *getData(UInt32 mipmap = 0, UInt32 frame = 0, UInt32 side = 0);

@@ -93,9 +93,9 @@ public:
     std::string &getValueByStr(std::string &str, UInt32 index) const override;
     void dump() const override { dumpText(); }
 
-    UInt32 getBinSize();
-    void copyToBin(BinaryDataHandler &target);
-    void copyFromBin(BinaryDataHandler &source);
+    UInt32 getBinSize() override;
+    void copyToBin(BinaryDataHandler &target) override;
+    void copyFromBin(BinaryDataHandler &source) override;
 
 protected:
     const FieldContainerPtr *findHandle(UInt32 index) const override;

@@ -102,4 +102,11 @@ template <class Core> NodePtr makeCoredNode(typename Core::Ptr *coreP = nullptr)
 /// Copies the nodes of a tree; the copies share cores and attachments with the originals.
 NodePtr cloneTree(const NodePtr &root);
 
+/// Copies a tree with all that its nodes refer to: cores, attachments, materials and so on. What is
+/// shared within the tree is shared within the copy. Pointers to nodes of the tree lead to their
+/// copies, those to other nodes to the same nodes as ever.
+/// \param shareString types, separated by commas, whose containers are not copied but shared with
+/// the original, as are those of types derived from them: "Material,Image"
+NodePtr deepCloneTree(const NodePtr &root, const std::string &shareString = std::string());
+
 OSG_END_NAMESPACE

@@ -43,9 +43,12 @@ public:
     std::string &getValueByStr(std::string &str, UInt32 index) const override;
     void dump() const override { dumpText(); }
 
-    UInt32 getBinSize() { return SFieldTraits::getBinSize(_value); }
-    void copyToBin(BinaryDataHandler &target) { SFieldTraits::copyToBin(target, _value); }
-    void copyFromBin(BinaryDataHandler &source) { SFieldTraits::copyFromBin(source, _value); }
+    UInt32 getBinSize() override { return SFieldTraits::getBinSize(_value); }
+    void copyToBin(BinaryDataHandler &target) override { SFieldTraits::copyToBin(target, _value); }
+    void copyFromBin(BinaryDataHandler &source) override
+    {
+        SFieldTraits::copyFromBin(source, _value);
+    }
 
 protected:
     const FieldContainerPtr *findHandle(UInt32 index) const override;

@@ -19,6 +19,9 @@ protected:
     StateChunk() = default;
     StateChunk(const StateChunk &) = default;
     ~StateChunk() override = default;
+
+    /// A number that no other object of OpenGL has, from 1.
+    static UInt32 newGLId();
 };
 
 OSG_END_NAMESPACE

@@ -77,6 +77,23 @@ void FieldContainer::dump(UInt32 uiIndent, const BitVector bvFlags) const
     }
 }
 
+UInt32 FieldContainer::getBinSize(const BitVector &whichField)
+{
+    UInt32 size = 0;
+    forEachField(whichField, [&](UInt32 id) { size += getField(id)->getBinSize(); });
+    return size;
+}
+
+void FieldContainer::copyToBin(BinaryDataHandler &target, const BitVector &whichField)
+{
+    forEachField(whichField, [&](UInt32 id) { getField(id)->copyToBin(target); });
+}
+
+void FieldContainer::copyFromBin(BinaryDataHandler &source, const BitVector &whichField)
+{
+    forEachField(whichField, [&](UInt32 id) { getField(id)->copyFromBin(source); });
+}
+
 void FieldContainer::executeSync(FieldContainer &other, const BitVector &whichField)
 {
     executeSyncImpl(&other, whichField);
@@ -84,10 +101,17 @@ void FieldContainer::executeSync(FieldContainer &other, const BitVector &whichFi
 
 void FieldContainer::executeSyncImpl(FieldContainer *pOther, const BitVector &whichField)
 {
+    forEachField(
+        whichField, [&](UInt32 id) { getField(id)->setAbstrValue(*pOther->getField(id)); });
+}
+
+// Calls the function with the id of each masked field.
+template <class Function>
+void FieldContainer::forEachField(BitVector whichField, const Function &function)
+{
     for (UInt32 id = 1; id <= getType().getNumFieldDescs(); ++id) {
-        const FieldDescription *description = getType().getFieldDescription(id);
-        if (description->getFieldMask() & whichField) {
-            getField(id)->setAbstrValue(*pOther->getField(id));
+        if ((getType().getFieldDescription(id)->getFieldMask() & whichField) && getField(id)) {
+            function(id);
         }
     }
 }

@@ -29,7 +29,9 @@ set(container_sources
     src/Actions/OSGAction.cpp
     src/Actions/OSGGraphOp.cpp
     src/Actions/OSGGraphOpFactory.cpp
+    src/Actions/OSGTreeCopy.cpp
     src/Containers/OSGChangeList.cpp
+    src/Containers/OSGContainerListing.cpp
     src/Containers/OSGFieldContainer.cpp
     src/Containers/OSGFieldContainerFactory.cpp
     src/Containers/OSGFieldContainerPtr.cpp
@@ -54,11 +56,13 @@ set(container_sources
     src/State/OSGChunkMaterial.cpp
     src/State/OSGFatBorderChunk.cpp
     src/State/OSGImage.cpp
+    src/State/OSGImageFile.cpp
     src/State/OSGMaterial.cpp
     src/State/OSGMaterialChoices.cpp
     src/State/OSGShaderParameterChunk.cpp
     src/State/OSGSimpleMaterial.cpp
     src/State/OSGSimpleTexturedMaterial.cpp
     src/State/OSGState.cpp
+    src/State/OSGStateChunk.cpp
     src/State/OSGTextureChunk.cpp
 )
