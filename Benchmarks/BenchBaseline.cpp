@@ -20,6 +20,28 @@ void BenchBaseline::empty()
     m_variants.clear();
 }
 
+void BenchBaseline::buildClosed(const BenchRow &top)
+{
+    m_closesTop = true;
+    build(top);
+    m_closesTop = false;
+}
+
+void BenchBaseline::emptyRowsFirst()
+{
+    deleteRows(properties());
+    empty();
+}
+
+void BenchBaseline::deleteRows(const QList<QtProperty *> &rows)
+{
+    for (QtProperty *row : rows) {
+        deleteRows(row->subProperties());
+        if (row->propertyManager() == &m_variants)
+            delete row;
+    }
+}
+
 void BenchBaseline::add(const BenchRow &row, QtProperty *parent)
 {
     if (row.isGroup()) {
@@ -34,13 +56,11 @@ void BenchBaseline::add(const BenchRow &row, QtProperty *parent)
 void BenchBaseline::addGroup(const BenchRow &row, QtProperty *parent)
 {
     QtProperty *group = m_variants.addProperty(QtVariantPropertyManager::groupTypeId(), row.title);
-    QtBrowserItem *item = nullptr;
-    if (parent) {
+    if (parent)
         parent->addSubProperty(group);
-        item = collapse(group);
-    } else {
+    else
         addProperty(group);
-    }
+    QtBrowserItem *item = parent || m_closesTop ? collapse(group) : nullptr;
     for (const BenchRow &child : row.children)
         add(child, group);
     if (item && row.open)

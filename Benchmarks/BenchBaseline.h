@@ -20,13 +20,20 @@ public:
     void build(const BenchRow &top);
     void empty();
 
+    /// The same with two simple remedies: the top row is closed while it is filled, and the rows
+    /// are deleted, in the order in which they stand, before browser and manager are cleared.
+    void buildClosed(const BenchRow &top);
+    void emptyRowsFirst();
+
 private:
     void add(const BenchRow &row, QtProperty *parent);
     void addGroup(const BenchRow &row, QtProperty *parent);
+    void deleteRows(const QList<QtProperty *> &rows);
     QtProperty *makeValue(const BenchRow &row);
     QtProperty *makeVariant(const BenchRow &row);
     QtBrowserItem *collapse(QtProperty *property);
 
+    bool m_closesTop = false;
     QtVariantPropertyManager m_variants;
     QtVariantEditorFactory m_variantEditors;
     QtGLenumPropertyManager m_enums;

@@ -52,6 +52,12 @@ BenchSelection::Times BenchSelection::baseline(int rounds)
         rounds, [&] { m_baseline.build(m_rows); }, [&] { m_baseline.empty(); });
 }
 
+BenchSelection::Times BenchSelection::baselineWithRemedies(int rounds)
+{
+    return medians(
+        rounds, [&] { m_baseline.buildClosed(m_rows); }, [&] { m_baseline.emptyRowsFirst(); });
+}
+
 BenchSelection::Times BenchSelection::floor(int rounds)
 {
     return medians(

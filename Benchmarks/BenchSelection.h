@@ -26,9 +26,10 @@ public:
     /// the component that the build uses do. Others measure each row.
     void setUniformRowHeights(bool uniform);
 
-    /// Medians of as many rounds. The rows of the last round are kept for the other two.
+    /// Medians of as many rounds. The rows of the last round are kept for the others.
     Times editor(const osg::FieldContainerPtr &container, int rounds);
     Times baseline(int rounds);
+    Times baselineWithRemedies(int rounds);
     Times floor(int rounds);
     /// From a selection in place of the same until the tree is painted; the median.
     double untilPainted(const osg::FieldContainerPtr &container, int rounds);

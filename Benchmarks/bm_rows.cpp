@@ -89,7 +89,8 @@ void making(kavoFCEditorWidget &editor)
         const QString name = "field";
         const double time
             = microseconds([&] { deleteRow(editor.createPropertyItem(name, typeName, text)); });
-        BenchTable::figure(("createPropertyItem and delete: " + typeName).toUtf8(), time, "us");
+        BenchTable::figure(
+            ("createPropertyItem and delete: " + typeName).toStdString(), time, "us");
     }
 }
 
@@ -128,7 +129,7 @@ void writing(kavoFCEditorWidget &editor, const char *typeName, const Value &valu
     if (changes->sizeChanged() == 0)
         qFatal("an edit of a row of type %s wrote nothing", typeName);
     changes->clearAll();
-    BenchTable::figure(QByteArray("write back: ") + typeName, time, "us");
+    BenchTable::figure(std::string("write back: ") + typeName, time, "us");
 }
 
 void writingBack(kavoFCEditorWidget &editor)

@@ -11,22 +11,20 @@ namespace {
 
 using Times = BenchSelection::Times;
 
-QByteArray named(const char *text, int rows)
-{
-    return QString::asprintf(text, rows).toUtf8();
-}
-
 void typicalSelection(BenchSelection &selection)
 {
     const kavoNodePtr node = BenchScenes::makeTexturedNode();
     const Times ours = selection.editor(osg::NodePtr(node), 31);
     const Times baseline = selection.baseline(31);
     const int rows = selection.rowCount();
-    BenchTable::faster(named("typical selection, %d rows: build and empty", rows), ours.sum(),
-        baseline.sum(), 1.5);
-    BenchTable::figure(named("typical selection, %d rows: build", rows), ours.build, "ms");
-    BenchTable::figure(named("typical selection, %d rows: empty", rows), ours.empty, "ms");
-    BenchTable::below(named("typical selection, %d rows: empty, build, first paint", rows),
+    BenchTable::faster(BenchTable::named("typical selection, %d rows: build and empty", rows),
+        ours.sum(), baseline.sum(), 1.5);
+    BenchTable::figure(
+        BenchTable::named("typical selection, %d rows: build", rows), ours.build, "ms");
+    BenchTable::figure(
+        BenchTable::named("typical selection, %d rows: empty", rows), ours.empty, "ms");
+    BenchTable::below(
+        BenchTable::named("typical selection, %d rows: empty, build, first paint", rows),
         selection.untilPainted(osg::NodePtr(node), 31), 8, "ms");
 }
 
@@ -34,7 +32,8 @@ void manyFields(BenchSelection &selection, const char *name)
 {
     const Times ours = selection.editor(BenchScenes::makeManyFields(), 11);
     const Times baseline = selection.baseline(3);
-    BenchTable::faster(named(name, selection.rowCount()), ours.sum(), baseline.sum(), 20);
+    BenchTable::faster(
+        BenchTable::named(name, selection.rowCount()), ours.sum(), baseline.sum(), 20);
 }
 
 }
