@@ -16,6 +16,13 @@ void collect(QtProperty *property, QList<QtProperty *> &rows)
 
 }
 
+QString titleOf(const char *name, const osg::FieldContainerPtr &container)
+{
+    return QStringLiteral("%1 %2 (%3)")
+        .arg(name, container->getTypeName())
+        .arg(container.getFieldContainerId());
+}
+
 QtProperty *top(const kavoFCEditorWidget &editor)
 {
     return editor.properties().value(0);

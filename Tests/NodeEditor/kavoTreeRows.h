@@ -9,6 +9,8 @@ Q_DECLARE_METATYPE(QtProperty *)
 /// Reads a property tree row by row.
 namespace kavoTreeRows {
 
+/// The title of a container's group.
+QString titleOf(const char *name, const osg::FieldContainerPtr &container);
 /// The top row, null in an empty tree.
 QtProperty *top(const kavoFCEditorWidget &editor);
 /// The row of that title directly below the group, null if there is none.

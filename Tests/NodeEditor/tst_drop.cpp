@@ -60,7 +60,6 @@ private:
     void drop(const QString &format, const QByteArray &bytes);
     void drop(const QMimeData &data);
     QString title() const;
-    static QString titleOf(const char *name, const osg::FieldContainerPtr &container);
 
     kavoFCEditorWidget *m_editor = nullptr;
     kavoNodePtr m_shown;
@@ -79,13 +78,6 @@ qint32 TestDrop::idOfADestroyedNode()
 {
     const kavoNodePtr node(kavoTestScene::makeGroup("Dead"));
     return id(osg::NodePtr(node));
-}
-
-QString TestDrop::titleOf(const char *name, const osg::FieldContainerPtr &container)
-{
-    return QStringLiteral("%1 %2 (%3)")
-        .arg(name, container->getTypeName())
-        .arg(container.getFieldContainerId());
 }
 
 void TestDrop::initTestCase()

@@ -1,17 +1,16 @@
 #include "OSGFieldSampler.h"
+#include "kavoMetaMethods.h"
 #include "kavoTreeRows.h"
 
 #include <QKAVODockWindowManager.h>
 #include <kavoConsoleCapture.h>
 #include <kavoController.h>
-#include <kavoMessageIds.h>
+#include <kavoIconManager.h>
 #include <kavoNodeEditor.h>
 #include <kavoNodeEditorGUI.h>
 #include <kavoScenegraph.h>
 #include <kavoTestHost.h>
 #include <kavoTestScene.h>
-
-#include <OpenSG/OSGMaterial.h>
 
 #include <QAction>
 #include <QGridLayout>
@@ -20,6 +19,7 @@
 
 using namespace kavoTreeRows;
 
+// The module, its window and what they show.
 class TestNodeEditor : public QObject
 {
     Q_OBJECT
@@ -34,28 +34,14 @@ private slots:
     void theFormIsAsDesigned();
     void theEditorFillsTheFrame();
     void metaObjectsHoldTheDocumentedMembers();
+    void theWindowIsCastToItsFormByName();
     void showOfTheWindowIsASignal();
+    void showingTheWindowRaisesIt();
     void showingTheWindowLoadsTheSelection();
     void showingTheWindowWithoutASelectionEmptiesTheEditor();
     void aNodeIsNamedInTheTitle();
     void aNamelessNodeHasNothingBetweenTheBlanks();
     void aNullNodeLeavesTheBareTitle();
-    void sceneClearedEmptiesTheEditor();
-    void nodeShownShowsTheNode();
-    void nodeShownWithoutNodeEmptiesTheEditorSilently();
-    void nodeShownWithAnotherTypePrintsAndEmptiesTheEditor();
-    void selectionChangedToNothingEmptiesTheEditor();
-    void selectionChangedToANodeLeavesTheEditor();
-    void otherMessagesLeaveTheEditor_data();
-    void otherMessagesLeaveTheEditor();
-    void everyMessageEmptiesAHiddenEditor_data();
-    void everyMessageEmptiesAHiddenEditor();
-    void aMaterialIsShownAndTheTitleStays();
-    void aNullMaterialChangesNothing();
-    void aMissingMaterialChangesNothing();
-    void aMaterialOfAnotherTypeChangesNothing();
-    void aMaterialChangesNothingWhileHidden();
-    void anExceptionInTheDispatchIsLoggedAndOver();
     void anExceptionOnShowingTheWindowIsLoggedAndOver();
     void destructionPrintsItsNameAndLeavesTheHost();
 
@@ -63,8 +49,6 @@ private:
     kavoFCEditorWidget &editor() const;
     QString title() const;
     static QString titleOf(const osg::NodePtr &node, const char *name = "Root");
-    bool send(int id, const boost::any &node = boost::any());
-    void updateByMaterial(const boost::any &material);
     void setVisible(bool visible);
 
     kavoNodeEditor *m_module = nullptr;
@@ -111,22 +95,6 @@ QString TestNodeEditor::titleOf(const osg::NodePtr &node, const char *name)
     return QStringLiteral("%1 Node (%2)").arg(name).arg(node.getFieldContainerId());
 }
 
-bool TestNodeEditor::send(int id, const boost::any &node)
-{
-    kavoMessage message(id);
-    if (!node.empty())
-        message.set("node", node);
-    return m_module->receivedMessage(message);
-}
-
-void TestNodeEditor::updateByMaterial(const boost::any &material)
-{
-    kavoMessage message;
-    if (!material.empty())
-        message.set("material", material);
-    QCOMPARE(kavoController::call("updateNodeEditorByMaterial", message, 0), 1);
-}
-
 void TestNodeEditor::setVisible(bool visible)
 {
     QKAVODockWindowManager &docks = kavoTestHost::docks();
@@ -154,6 +122,8 @@ void TestNodeEditor::itDocksItsWindowInTheSceneGroup()
     QCOMPARE(docks.group("Node Editor"), QString("Scene"));
     QCOMPARE(docks.hintKey("Node Editor"), QString("Hintcard_Attributes"));
     QCOMPARE(docks.toggleAction("Node Editor")->text(), QString("Attributes"));
+    QCOMPARE(docks.toggleAction("Node Editor")->icon().pixmap(16).toImage(),
+        kavoIconManager::getIcon("ModuleNodeEditor", "").pixmap(16).toImage());
 }
 
 void TestNodeEditor::theFormIsAsDesigned()
@@ -187,13 +157,20 @@ void TestNodeEditor::theEditorFillsTheFrame()
 void TestNodeEditor::metaObjectsHoldTheDocumentedMembers()
 {
     const QMetaObject &module = kavoNodeEditor::staticMetaObject;
-    QCOMPARE(module.methodCount() - module.methodOffset(), 2);
-    QCOMPARE(module.method(module.methodOffset()).methodSignature(), QByteArray("show()"));
-    QCOMPARE(
-        module.method(module.methodOffset() + 1).methodSignature(), QByteArray("editedField()"));
+    QCOMPARE(module.className(), "kavoNodeEditor");
+    QCOMPARE(kavoMetaMethods(module), QStringList({ "show()", "editedField()" }));
+    for (int i = module.methodOffset(); i < module.methodCount(); ++i) {
+        QCOMPARE(module.method(i).methodType(), QMetaMethod::Slot);
+        QCOMPARE(module.method(i).access(), QMetaMethod::Private);
+    }
     const QMetaObject &window = kavoNodeEditorGUIW::staticMetaObject;
-    QCOMPARE(window.methodCount() - window.methodOffset(), 1);
+    QCOMPARE(window.className(), "kavoNodeEditorGUIW");
+    QCOMPARE(kavoMetaMethods(window), QStringList("show()"));
     QCOMPARE(window.method(window.methodOffset()).methodType(), QMetaMethod::Signal);
+}
+
+void TestNodeEditor::theWindowIsCastToItsFormByName()
+{
     auto *gui = qobject_cast<kavoNodeEditorGUIW *>(m_module->getWidget());
     QVERIFY(gui->qt_metacast("Ui::kavoNodeEditorGUI") == static_cast<Ui::kavoNodeEditorGUI *>(gui));
 }
@@ -206,6 +183,15 @@ void TestNodeEditor::showOfTheWindowIsASignal()
     gui->show();
     QCOMPARE(shown.size(), 1);
     QVERIFY(!gui->isVisible());
+}
+
+void TestNodeEditor::showingTheWindowRaisesIt()
+{
+    QWidget *window = m_module->getWidget();
+    QWidget above(window->parentWidget());
+    QVERIFY(window->parentWidget()->children().last() == &above);
+    QVERIFY(QMetaObject::invokeMethod(m_module, "show"));
+    QVERIFY(window->parentWidget()->children().last() == window);
 }
 
 void TestNodeEditor::showingTheWindowLoadsTheSelection()
@@ -248,136 +234,6 @@ void TestNodeEditor::aNullNodeLeavesTheBareTitle()
     m_module->setNode(osg::NullFC);
     QCOMPARE(m_module->getWidget()->windowTitle(), QString("Node Editor"));
     QCOMPARE(title(), QString());
-}
-
-void TestNodeEditor::sceneClearedEmptiesTheEditor()
-{
-    QVERIFY(!send(0x10));
-    QCOMPARE(title(), QString());
-}
-
-void TestNodeEditor::nodeShownShowsTheNode()
-{
-    const osg::NodePtr wheel = osg::NodePtr(m_node)->getChild(0);
-    QVERIFY(!send(0x100, wheel));
-    QCOMPARE(title(), titleOf(wheel, "Wheel"));
-}
-
-void TestNodeEditor::nodeShownWithoutNodeEmptiesTheEditorSilently()
-{
-    kavoConsoleCapture errors(kavoConsoleCapture::StandardError);
-    QVERIFY(!send(0x100));
-    QCOMPARE(errors.text(), QByteArray());
-    QCOMPARE(title(), QString());
-}
-
-void TestNodeEditor::nodeShownWithAnotherTypePrintsAndEmptiesTheEditor()
-{
-    kavoConsoleCapture errors(kavoConsoleCapture::StandardError);
-    QVERIFY(!send(0x100, osg::MaterialPtr()));
-    QVERIFY(errors.text().startsWith("getFromMessage : Attribute 'node' has wrong type"));
-    QCOMPARE(title(), QString());
-}
-
-void TestNodeEditor::selectionChangedToNothingEmptiesTheEditor()
-{
-    QVERIFY(!send(0x80000));
-    QCOMPARE(title(), QString());
-}
-
-void TestNodeEditor::selectionChangedToANodeLeavesTheEditor()
-{
-    const QtProperty *before = top(editor());
-    kavoScenegraph::setSelectedNode(osg::NodePtr(m_node)->getChild(0));
-    QVERIFY(!send(0x80000));
-    QCOMPARE(top(editor()), before);
-}
-
-void TestNodeEditor::otherMessagesLeaveTheEditor_data()
-{
-    QTest::addColumn<int>("id");
-    for (const int id : { 0, 0x20, 0x1000, 0x11, 0x80100 })
-        QTest::addRow("0x%x", id) << id;
-}
-
-void TestNodeEditor::otherMessagesLeaveTheEditor()
-{
-    QFETCH(int, id);
-    QVERIFY(!send(id, osg::NodePtr()));
-    QCOMPARE(title(), titleOf(m_node));
-}
-
-void TestNodeEditor::everyMessageEmptiesAHiddenEditor_data()
-{
-    QTest::addColumn<int>("id");
-    for (const int id : { 0, 0x10, 0x20, 0x100, 0x1000, 0x80000 })
-        QTest::addRow("0x%x", id) << id;
-}
-
-void TestNodeEditor::everyMessageEmptiesAHiddenEditor()
-{
-    QFETCH(int, id);
-    setVisible(false);
-    QVERIFY(!send(id, osg::NodePtr(m_node)));
-    QCOMPARE(title(), QString());
-    QCOMPARE(m_module->getWidget()->windowTitle(), QString("Node Editor"));
-}
-
-void TestNodeEditor::aMaterialIsShownAndTheTitleStays()
-{
-    const osg::MaterialPtr material = kavoTestScene::makeMaterial();
-    osg::addRefCP(material);
-    const QString before = m_module->getWidget()->windowTitle();
-    updateByMaterial(material);
-    QVERIFY(title().startsWith(" ChunkMaterial ("));
-    QCOMPARE(m_module->getWidget()->windowTitle(), before);
-    osg::subRefCP(material);
-}
-
-void TestNodeEditor::aNullMaterialChangesNothing()
-{
-    updateByMaterial(osg::MaterialPtr());
-    QCOMPARE(title(), titleOf(m_node));
-}
-
-void TestNodeEditor::aMissingMaterialChangesNothing()
-{
-    updateByMaterial(boost::any());
-    QCOMPARE(title(), titleOf(m_node));
-}
-
-void TestNodeEditor::aMaterialOfAnotherTypeChangesNothing()
-{
-    kavoConsoleCapture errors(kavoConsoleCapture::StandardError);
-    updateByMaterial(osg::NodePtr(m_node));
-    QVERIFY(errors.text().startsWith("getFromMessage : Attribute 'material' has wrong type"));
-    QCOMPARE(title(), titleOf(m_node));
-}
-
-void TestNodeEditor::aMaterialChangesNothingWhileHidden()
-{
-    const osg::MaterialPtr material = kavoTestScene::makeMaterial();
-    osg::addRefCP(material);
-    setVisible(false);
-    updateByMaterial(material);
-    QCOMPARE(title(), titleOf(m_node));
-    osg::subRefCP(material);
-}
-
-void TestNodeEditor::anExceptionInTheDispatchIsLoggedAndOver()
-{
-    const kavoNodePtr node(kavoTestScene::makeGroup("Root"));
-    osg::NodePtr(node)->addAttachment(osg::FieldSampler::create());
-    kavoConsoleCapture errors(kavoConsoleCapture::StandardError);
-    osg::FieldSampler::accessThrows = true;
-    QVERIFY(!send(0x100, osg::NodePtr(node)));
-    osg::FieldSampler::accessThrows = false;
-    QVERIFY(
-        errors.text().contains("kavoNodeEditor::receivedMessage : An unknown exception occurred!"));
-    QVERIFY(!send(0x100, osg::NodePtr(node)));
-    setValue(editor(), "travMask", 5);
-    QCOMPARE(osg::NodePtr(node)->getTravMask(), 5u);
-    send(0x10);
 }
 
 void TestNodeEditor::anExceptionOnShowingTheWindowIsLoggedAndOver()

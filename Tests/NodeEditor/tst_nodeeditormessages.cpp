@@ -1,0 +1,255 @@
+#include "OSGFieldSampler.h"
+#include "kavoTreeRows.h"
+
+#include <QKAVODockWindowManager.h>
+#include <kavoConsoleCapture.h>
+#include <kavoController.h>
+#include <kavoNodeEditor.h>
+#include <kavoScenegraph.h>
+#include <kavoTestHost.h>
+#include <kavoTestScene.h>
+
+#include <OpenSG/OSGMaterial.h>
+
+#include <QAction>
+#include <QtTest>
+
+using namespace kavoTreeRows;
+
+// What the module does at the host's messages and its call.
+class TestNodeEditorMessages : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void cleanupTestCase();
+    void init();
+    void cleanup();
+    void sceneClearedEmptiesTheEditor();
+    void nodeShownShowsTheNode();
+    void nodeShownWithoutNodeEmptiesTheEditorSilently();
+    void nodeShownWithAnotherTypePrintsAndEmptiesTheEditor();
+    void selectionChangedToNothingEmptiesTheEditor();
+    void selectionChangedToANodeLeavesTheEditor();
+    void otherMessagesLeaveTheEditor_data();
+    void otherMessagesLeaveTheEditor();
+    void everyMessageEmptiesAHiddenEditor_data();
+    void everyMessageEmptiesAHiddenEditor();
+    void aMaterialIsShownAndTheTitleStays();
+    void aNullMaterialChangesNothing();
+    void aMissingMaterialChangesNothing();
+    void aMaterialOfAnotherTypeChangesNothing();
+    void aMaterialChangesNothingWhileHidden();
+    void anExceptionInTheDispatchIsLoggedAndOver();
+
+private:
+    kavoFCEditorWidget &editor() const;
+    QString title() const;
+    static QString titleOf(const osg::NodePtr &node, const char *name = "Root");
+    bool send(int id, const boost::any &node = boost::any());
+    void updateByMaterial(const boost::any &material);
+    void setVisible(bool visible);
+
+    kavoNodeEditor *m_module = nullptr;
+    kavoNodePtr m_node;
+};
+
+void TestNodeEditorMessages::initTestCase()
+{
+    QVERIFY(kavoTestHost::show());
+    m_node = kavoTestScene::makeTruck();
+}
+
+void TestNodeEditorMessages::cleanupTestCase()
+{
+    m_node = kavoNodePtr();
+}
+
+void TestNodeEditorMessages::init()
+{
+    m_module = new kavoNodeEditor;
+    setVisible(true);
+    m_module->setNode(m_node);
+}
+
+void TestNodeEditorMessages::cleanup()
+{
+    kavoScenegraph::setSelectedNode(osg::NullFC);
+    QCoreApplication::processEvents();
+    delete m_module;
+}
+
+kavoFCEditorWidget &TestNodeEditorMessages::editor() const
+{
+    return *m_module->getWidget()->findChild<kavoFCEditorWidget *>();
+}
+
+QString TestNodeEditorMessages::title() const
+{
+    return editor().properties().isEmpty() ? QString() : top(editor())->propertyName();
+}
+
+QString TestNodeEditorMessages::titleOf(const osg::NodePtr &node, const char *name)
+{
+    return QStringLiteral("%1 Node (%2)").arg(name).arg(node.getFieldContainerId());
+}
+
+bool TestNodeEditorMessages::send(int id, const boost::any &node)
+{
+    kavoMessage message(id);
+    if (!node.empty())
+        message.set("node", node);
+    return m_module->receivedMessage(message);
+}
+
+void TestNodeEditorMessages::updateByMaterial(const boost::any &material)
+{
+    kavoMessage message;
+    if (!material.empty())
+        message.set("material", material);
+    QCOMPARE(kavoController::call("updateNodeEditorByMaterial", message, 0), 1);
+}
+
+void TestNodeEditorMessages::setVisible(bool visible)
+{
+    QKAVODockWindowManager &docks = kavoTestHost::docks();
+    if (visible)
+        docks.show("Node Editor");
+    else
+        docks.toggleAction("Node Editor")->trigger();
+    QCOMPARE(m_module->getWidget()->isVisible(), visible);
+}
+
+void TestNodeEditorMessages::sceneClearedEmptiesTheEditor()
+{
+    QVERIFY(!send(0x10));
+    QCOMPARE(title(), QString());
+}
+
+void TestNodeEditorMessages::nodeShownShowsTheNode()
+{
+    const osg::NodePtr wheel = osg::NodePtr(m_node)->getChild(0);
+    QVERIFY(!send(0x100, wheel));
+    QCOMPARE(title(), titleOf(wheel, "Wheel"));
+}
+
+void TestNodeEditorMessages::nodeShownWithoutNodeEmptiesTheEditorSilently()
+{
+    kavoConsoleCapture errors(kavoConsoleCapture::StandardError);
+    QVERIFY(!send(0x100));
+    QCOMPARE(errors.text(), QByteArray());
+    QCOMPARE(title(), QString());
+}
+
+void TestNodeEditorMessages::nodeShownWithAnotherTypePrintsAndEmptiesTheEditor()
+{
+    kavoConsoleCapture errors(kavoConsoleCapture::StandardError);
+    QVERIFY(!send(0x100, osg::MaterialPtr()));
+    QVERIFY(errors.text().startsWith("getFromMessage : Attribute 'node' has wrong type"));
+    QCOMPARE(title(), QString());
+}
+
+void TestNodeEditorMessages::selectionChangedToNothingEmptiesTheEditor()
+{
+    QVERIFY(!send(0x80000));
+    QCOMPARE(title(), QString());
+}
+
+void TestNodeEditorMessages::selectionChangedToANodeLeavesTheEditor()
+{
+    const QtProperty *before = top(editor());
+    kavoScenegraph::setSelectedNode(osg::NodePtr(m_node)->getChild(0));
+    QVERIFY(!send(0x80000));
+    QCOMPARE(top(editor()), before);
+}
+
+void TestNodeEditorMessages::otherMessagesLeaveTheEditor_data()
+{
+    QTest::addColumn<int>("id");
+    for (const int id : { 0, 0x20, 0x1000, 0x11, 0x80100 })
+        QTest::addRow("0x%x", id) << id;
+}
+
+void TestNodeEditorMessages::otherMessagesLeaveTheEditor()
+{
+    QFETCH(int, id);
+    QVERIFY(!send(id, osg::NodePtr()));
+    QCOMPARE(title(), titleOf(m_node));
+}
+
+void TestNodeEditorMessages::everyMessageEmptiesAHiddenEditor_data()
+{
+    QTest::addColumn<int>("id");
+    for (const int id : { 0, 0x10, 0x20, 0x100, 0x1000, 0x80000 })
+        QTest::addRow("0x%x", id) << id;
+}
+
+void TestNodeEditorMessages::everyMessageEmptiesAHiddenEditor()
+{
+    QFETCH(int, id);
+    setVisible(false);
+    QVERIFY(!send(id, osg::NodePtr(m_node)));
+    QCOMPARE(title(), QString());
+    QCOMPARE(m_module->getWidget()->windowTitle(), QString("Node Editor"));
+}
+
+void TestNodeEditorMessages::aMaterialIsShownAndTheTitleStays()
+{
+    const osg::MaterialPtr material = kavoTestScene::makeMaterial();
+    osg::addRefCP(material);
+    const QString before = m_module->getWidget()->windowTitle();
+    updateByMaterial(material);
+    QVERIFY(title().startsWith(" ChunkMaterial ("));
+    QCOMPARE(m_module->getWidget()->windowTitle(), before);
+    osg::subRefCP(material);
+}
+
+void TestNodeEditorMessages::aNullMaterialChangesNothing()
+{
+    updateByMaterial(osg::MaterialPtr());
+    QCOMPARE(title(), titleOf(m_node));
+}
+
+void TestNodeEditorMessages::aMissingMaterialChangesNothing()
+{
+    updateByMaterial(boost::any());
+    QCOMPARE(title(), titleOf(m_node));
+}
+
+void TestNodeEditorMessages::aMaterialOfAnotherTypeChangesNothing()
+{
+    kavoConsoleCapture errors(kavoConsoleCapture::StandardError);
+    updateByMaterial(osg::NodePtr(m_node));
+    QVERIFY(errors.text().startsWith("getFromMessage : Attribute 'material' has wrong type"));
+    QCOMPARE(title(), titleOf(m_node));
+}
+
+void TestNodeEditorMessages::aMaterialChangesNothingWhileHidden()
+{
+    const osg::MaterialPtr material = kavoTestScene::makeMaterial();
+    osg::addRefCP(material);
+    setVisible(false);
+    updateByMaterial(material);
+    QCOMPARE(title(), titleOf(m_node));
+    osg::subRefCP(material);
+}
+
+void TestNodeEditorMessages::anExceptionInTheDispatchIsLoggedAndOver()
+{
+    const kavoNodePtr node(kavoTestScene::makeGroup("Root"));
+    osg::NodePtr(node)->addAttachment(osg::FieldSampler::create());
+    kavoConsoleCapture errors(kavoConsoleCapture::StandardError);
+    osg::FieldSampler::accessThrows = true;
+    QVERIFY(!send(0x100, osg::NodePtr(node)));
+    osg::FieldSampler::accessThrows = false;
+    QVERIFY(
+        errors.text().contains("kavoNodeEditor::receivedMessage : An unknown exception occurred!"));
+    QVERIFY(!send(0x100, osg::NodePtr(node)));
+    setValue(editor(), "travMask", 5);
+    QCOMPARE(osg::NodePtr(node)->getTravMask(), 5u);
+    send(0x10);
+}
+
+KAVO_TEST_MAIN(TestNodeEditorMessages)
+#include "tst_nodeeditormessages.moc"

@@ -1,0 +1,214 @@
+#include "OSGFieldSampler.h"
+#include "kavoTreeRows.h"
+
+#include <OSGAnimNodeBase.h>
+#include <OSGTransformVariantList.h>
+#include <kavoTestHost.h>
+#include <kavoTestScene.h>
+
+#include <QtTest>
+
+using namespace kavoTreeRows;
+
+// What the tree shows of fields with many elements.
+class TestPropertyLists : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void animatedNodesAreListedUpTo99_data();
+    void animatedNodesAreListedUpTo99();
+    void listedNodesBearTheirDisplayNames();
+    void aNullNodeInTheListShowsNothing();
+    void otherNodeListsShowTheirSize();
+    void nullChunksAreSkipped();
+    void aMaterialWithoutChunksHasNoChunkRow();
+    void transformVariantsAreNumberedWithoutGaps();
+    void anEmptyVariantListShowsItsSize();
+    void numbersAreListedUpTo99_data();
+    void numbersAreListedUpTo99();
+    void stringsAreListedAtAnySize();
+    void otherListsAreSummarised();
+
+private:
+    void show(const osg::FieldContainerPtr &container);
+
+    kavoFCEditorWidget *m_editor = nullptr;
+    osg::FieldSamplerPtr m_sampler;
+};
+
+void TestPropertyLists::init()
+{
+    m_editor = new kavoFCEditorWidget(nullptr, nullptr);
+    m_sampler = osg::FieldSampler::create();
+    osg::addRefCP(m_sampler);
+}
+
+void TestPropertyLists::cleanup()
+{
+    delete m_editor;
+    osg::subRefCP(m_sampler);
+}
+
+void TestPropertyLists::show(const osg::FieldContainerPtr &container)
+{
+    m_editor->setFC(QString(), container);
+}
+
+void TestPropertyLists::animatedNodesAreListedUpTo99_data()
+{
+    QTest::addColumn<int>("count");
+    QTest::addColumn<QString>("shownText");
+    QTest::newRow("none") << 0 << QString();
+    QTest::newRow("99") << 99 << QString();
+    QTest::newRow("100") << 100 << QString("<size = 100>");
+}
+
+void TestPropertyLists::animatedNodesAreListedUpTo99()
+{
+    QFETCH(int, count);
+    QFETCH(QString, shownText);
+    const kavoNodePtr node(kavoTestScene::makeGroup("Part"));
+    const osg::AnimNodeBasePtr animation = osg::AnimNodeBase::create();
+    osg::addRefCP(animation);
+    animation->getNodes().resize(count, node);
+    show(animation);
+    QCOMPARE(text(*m_editor, "nodes"), shownText);
+    QCOMPARE(row(*m_editor, "nodes")->subProperties().size(), count % 100);
+    QVERIFY(!isOpen(*m_editor, row(*m_editor, "nodes")));
+    osg::subRefCP(animation);
+}
+
+void TestPropertyLists::listedNodesBearTheirDisplayNames()
+{
+    const kavoNodePtr named(kavoTestScene::makeGroup("Part"));
+    const kavoNodePtr cored(kavoTestScene::makeGroup(nullptr));
+    const kavoNodePtr bare(kavoTestScene::makeNode(nullptr, osg::NullFC));
+    const osg::AnimNodeBasePtr animation = osg::AnimNodeBase::create();
+    osg::addRefCP(animation);
+    for (const kavoNodePtr &node : { named, cored, bare })
+        animation->getNodes().push_back(node);
+    show(animation);
+    QCOMPARE(titles(row(*m_editor, "nodes")),
+        QStringList({ titleOf("Part", osg::NodePtr(named)), titleOf("Group", osg::NodePtr(cored)),
+            titleOf("", osg::NodePtr(bare)) }));
+    osg::subRefCP(animation);
+}
+
+void TestPropertyLists::aNullNodeInTheListShowsNothing()
+{
+    const osg::AnimNodeBasePtr animation = osg::AnimNodeBase::create();
+    osg::addRefCP(animation);
+    animation->getNodes().push_back(osg::NullFC);
+    show(animation);
+    QVERIFY(row(*m_editor, "nodes")->subProperties().isEmpty());
+    osg::subRefCP(animation);
+}
+
+void TestPropertyLists::otherNodeListsShowTheirSize()
+{
+    const kavoNodePtr root(kavoTestScene::makeGroup("Root"));
+    for (const char *name : { "a", "b", "c" })
+        kavoTestScene::makeGroup(name, root);
+    show(osg::NodePtr(root));
+    QCOMPARE(text(*m_editor, "children"), QString("<size = 3>"));
+    QVERIFY(row(*m_editor, "children")->subProperties().isEmpty());
+}
+
+void TestPropertyLists::nullChunksAreSkipped()
+{
+    const osg::ChunkMaterialPtr material = kavoTestScene::makeMaterial();
+    osg::addRefCP(material);
+    osg::MFStateChunkPtr *chunks = material->getMFChunks();
+    chunks->insert(chunks->begin() + 1, osg::NullFC);
+    show(material);
+    for (osg::UInt32 i : { 0u, 2u }) {
+        QtProperty *chunk = row(*m_editor, titleOf("", (*chunks)[i]));
+        QVERIFY(chunk);
+        QVERIFY(isOpen(*m_editor, chunk));
+    }
+    QVERIFY(!row(*m_editor, "chunks"));
+    chunks->erase(chunks->begin() + 1);
+    osg::subRefCP(material);
+}
+
+// Deliberate: not even the size is shown.
+void TestPropertyLists::aMaterialWithoutChunksHasNoChunkRow()
+{
+    const osg::ChunkMaterialPtr material = osg::ChunkMaterial::create();
+    osg::addRefCP(material);
+    show(material);
+    QVERIFY(row(*m_editor, "slots"));
+    QVERIFY(!row(*m_editor, "chunks"));
+    osg::subRefCP(material);
+}
+
+void TestPropertyLists::transformVariantsAreNumberedWithoutGaps()
+{
+    const osg::TransformVariantListPtr list = osg::TransformVariantList::create();
+    osg::addRefCP(list);
+    const osg::TransformVariantPtr a = osg::TransformVariant::create();
+    const osg::TransformVariantPtr b = osg::TransformVariant::create();
+    for (const osg::TransformVariantPtr &variant :
+        { osg::TransformVariantPtr(), a, osg::TransformVariantPtr(), b })
+        list->addVariant(variant);
+    show(list);
+    QCOMPARE(titles(row(*m_editor, "variants")), QStringList({ titleOf("0", a), titleOf("1", b) }));
+    QVERIFY(!isOpen(*m_editor, row(*m_editor, "variants")));
+    osg::subRefCP(list);
+}
+
+void TestPropertyLists::anEmptyVariantListShowsItsSize()
+{
+    const osg::TransformVariantListPtr list = osg::TransformVariantList::create();
+    osg::addRefCP(list);
+    show(list);
+    QCOMPARE(text(*m_editor, "variants"), QString("<size = 0>"));
+    osg::subRefCP(list);
+}
+
+void TestPropertyLists::numbersAreListedUpTo99_data()
+{
+    QTest::addColumn<int>("count");
+    QTest::addColumn<QString>("reals");
+    QTest::addColumn<QString>("ints");
+    QTest::newRow("none") << 0 << ""
+                          << "";
+    QTest::newRow("five") << 5 << "0.5, 0.5, 0.5, 0.5, 0.5"
+                          << "7, 7, 7, 7, 7";
+    QTest::newRow("99") << 99 << QStringList(QVector<QString>(99, "0.5").toList()).join(", ")
+                        << QStringList(QVector<QString>(99, "7").toList()).join(", ");
+    QTest::newRow("100") << 100 << "<type=Real32> <size = 100>"
+                         << "<type=Int32> <size = 100>";
+    QTest::newRow("150") << 150 << "<type=Real32> <size = 150>"
+                         << "<type=Int32> <size = 150>";
+}
+
+void TestPropertyLists::numbersAreListedUpTo99()
+{
+    QFETCH(int, count);
+    m_sampler->reals.resize(count, 0.5f);
+    m_sampler->ints.resize(count, 7);
+    show(m_sampler);
+    QTEST(text(*m_editor, "reals"), "reals");
+    QTEST(text(*m_editor, "ints"), "ints");
+}
+
+void TestPropertyLists::stringsAreListedAtAnySize()
+{
+    m_sampler->texts.resize(200, "ä");
+    show(m_sampler);
+    QCOMPARE(text(*m_editor, "texts").count("\"ä\""), 200);
+}
+
+void TestPropertyLists::otherListsAreSummarised()
+{
+    m_sampler->vectors.resize(2);
+    show(m_sampler);
+    QCOMPARE(text(*m_editor, "vectors"), QString("<type=Vec3f> <size = 2>"));
+}
+
+KAVO_TEST_MAIN(TestPropertyLists)
+#include "tst_propertylists.moc"
