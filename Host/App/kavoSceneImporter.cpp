@@ -1,5 +1,6 @@
 #include "kavoSceneImporter.h"
 
+#include "kavoImportCheck.h"
 #include "kavoImportProgress.h"
 #include "kavoImportedScene.h"
 #include "kavoTextureReader.h"
@@ -22,6 +23,14 @@ std::unique_ptr<Assimp::Importer> makeImporter(kavoImportProgress *progress)
     importer->SetPropertyBool(AI_CONFIG_IMPORT_NO_SKELETON_MESHES, true);
     importer->SetProgressHandler(progress); // the importer owns it from here on
     return importer;
+}
+
+void requireScene(const aiScene *scene, const Assimp::Importer &importer)
+{
+    if (scene && scene->mRootNode)
+        return;
+    const QString error = QString::fromUtf8(importer.GetErrorString());
+    throw std::runtime_error(error.isEmpty() ? "the file holds no scene" : error.toStdString());
 }
 
 } // namespace
@@ -85,11 +94,11 @@ void kavoSceneImporter::parse(Job &job)
     };
     kavoImportedScene &result = *job.result;
     result.importer = makeImporter(new kavoImportProgress(job.canceled, report));
-    result.scene = result.importer->ReadFile(result.fileName.toStdString(), postProcessing);
-    if (!result.scene || !result.scene->mRootNode) {
-        const QString error = QString::fromUtf8(result.importer->GetErrorString());
-        throw std::runtime_error(error.isEmpty() ? "the file holds no scene" : error.toStdString());
-    }
+    Assimp::Importer &importer = *result.importer;
+    requireScene(importer.ReadFile(result.fileName.toStdString(), 0), importer);
+    kavoImportCheck::check(*importer.GetScene());
+    result.scene = importer.ApplyPostProcessing(postProcessing);
+    requireScene(result.scene, importer);
 }
 
 void kavoSceneImporter::readTextures(Job &job)

@@ -6,6 +6,10 @@
 #include <kavoScenegraph.h>
 #include <kavoTestHost.h>
 
+#include <assimp/Exporter.hpp>
+#include <assimp/Importer.hpp>
+#include <assimp/scene.h>
+
 #include <QDirIterator>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -27,7 +31,23 @@ QString brokenFile(const QTemporaryDir &folder)
     return file.fileName();
 }
 
+using Damage = void (*)(aiScene &);
+
+/// A binary file of the truck with a fault in it, as a bad disk would leave it.
+QString damagedFile(const QTemporaryDir &folder, Damage damage)
+{
+    const QString file = folder.filePath("damaged.assbin");
+    Assimp::Importer importer;
+    importer.ReadFile(model(truck).toStdString(), 0);
+    const std::unique_ptr<aiScene> scene(importer.GetOrphanedScene());
+    damage(*scene);
+    Assimp::Exporter().Export(scene.get(), "assbin", file.toStdString());
+    return file;
+}
+
 } // namespace
+
+Q_DECLARE_METATYPE(Damage)
 
 class tst_sceneloader : public QObject
 {
@@ -84,6 +104,37 @@ private slots:
         loader.load({ model(truck), brokenFile(folder) });
         QTRY_COMPARE(failed.count(), 1);
         QCOMPARE(loaded.count(), 0);
+    }
+
+    void aDamagedFileIsRefused_data()
+    {
+        QTest::addColumn<Damage>("damage");
+        QTest::addColumn<QString>("reason");
+        QTest::newRow("none") << Damage([](aiScene &) {}) << QString();
+        QTest::newRow("material") << Damage([](aiScene &scene) {
+            scene.mMeshes[0]->mMaterialIndex = 777;
+        }) << "a mesh has a material that is not there";
+        QTest::newRow("vertex") << Damage([](aiScene &scene) {
+            scene.mMeshes[0]->mFaces[0].mIndices[0] = 99999;
+        }) << "a face has a vertex too many";
+        QTest::newRow("mesh") << Damage([](aiScene &scene) {
+            scene.mRootNode->mNumMeshes = 1;
+            scene.mRootNode->mMeshes = new unsigned int[1] { 555 };
+        }) << "a node has a mesh that is not there";
+    }
+
+    void aDamagedFileIsRefused()
+    {
+        QFETCH(Damage, damage);
+        QFETCH(QString, reason);
+        const QTemporaryDir folder;
+        kavoSceneLoader loader;
+        QString refusal;
+        connect(&loader, &kavoSceneLoader::failed,
+            [&](const QString &, const QString &why) { refusal = why; });
+        loader.load({ damagedFile(folder, damage) });
+        QTRY_VERIFY(!loader.isLoading());
+        QCOMPARE(refusal, reason.isEmpty() ? reason : "the file is damaged: " + reason);
     }
 
     void aMissingFileFails()
