@@ -1,8 +1,10 @@
 #include "SceneText.h"
 
 #include <OpenSG/OSGBaseFunctions.h>
+#include <OpenSG/OSGChunkMaterial.h>
 #include <OpenSG/OSGDistanceLOD.h>
 #include <OpenSG/OSGGroup.h>
+#include <OpenSG/OSGMaterialGroup.h>
 #include <OpenSG/OSGSimpleAttachments.h>
 #include <OpenSG/OSGStringAttributeMap.h>
 
@@ -30,6 +32,7 @@ private slots:
     void longStringsCanBeKeptWhole();
     void theStringsOfAListStayInTheirPlaces_data();
     void theStringsOfAListStayInTheirPlaces();
+    void listsCanReplaceThoseOfThePrototype();
     void infiniteNumbersReadBack();
     void whatIsNoNumberIsWrittenAsZeroAndReported();
 
@@ -164,6 +167,20 @@ void tst_SceneFileValues::theStringsOfAListStayInTheirPlaces()
         std::vector<std::string>(read->getValues().begin(), read->getValues().end()), expected);
     QCOMPARE(read->getAttribute("ab."), std::string("ab"));
     QVERIFY(contains(m_text->takeLog(), "field values of StringAttributeMap: a null character"));
+}
+
+void tst_SceneFileValues::listsCanReplaceThoseOfThePrototype()
+{
+    SceneFileHandler::the().setOptions("osg", "lists=replace");
+    const std::string material = nodeWithCore("MaterialGroup",
+        "material ChunkMaterial { chunks RegisterCombinersChunk { "
+        "variableArgb [ 7 ] variableArgb 8 } }");
+    const NodePtr node = m_text->readFirst(material);
+    const auto group = MaterialGroupPtr::dcast(node->getCore());
+    const auto chunk = ChunkMaterialPtr::dcast(group->getMaterial())->getChunks(0);
+    std::string text;
+    QCOMPARE(QByteArray(chunk->getField("variableArgb")->getValueByStr(text).c_str()),
+        QByteArray("7, 8"));
 }
 
 void tst_SceneFileValues::infiniteNumbersReadBack()

@@ -71,8 +71,10 @@ public:
     /// The sequence still belongs to the caller. NULL for none.
     virtual void setDefaultGraphOp(GraphOpSeq *graphOpSeq) { _defaultgraphOpSeq = graphOpSeq; }
 
-    /// Options of a format. Of "osg": `whitespace=keep`, to write the blanks and line ends in
-    /// strings as they are, which other writers of the format do not. False if it is unknown.
+    /// Options of a format, all at once; false if the format is unknown. Of "osg":
+    /// `whitespace=keep`, to write the blanks and line ends in strings as they are, which other
+    /// writers of the format do not; and `lists=replace`, to let a list in a file replace the
+    /// values that new containers have in the field, to which it is appended otherwise.
     virtual bool setOptions(const Char8 *suffix, const Char8 *options);
 
 protected:

@@ -3,6 +3,7 @@
 #include "OSGAsciiReader.h"
 #include "OSGAsciiWriter.h"
 
+#include <cstring>
 #include <istream>
 #include <vector>
 
@@ -30,14 +31,17 @@ AsciiFileType::AsciiFileType()
 FCPtrStore AsciiFileType::readTopNodes(std::istream &is, const Progress &progress) const
 {
     const std::string text = readAll(is);
-    return AsciiReader(text, progress).read();
+    return AsciiReader(text, hasOption("lists=replace"), progress).read();
 }
 
 bool AsciiFileType::write(const NodePtr &node, std::ostream &os, const Progress &progress) const
 {
-    const bool keepsWhiteSpace
-        = std::string(getOptions()).find("whitespace=keep") != std::string::npos;
-    return AsciiWriter(os, keepsWhiteSpace, progress).write(node);
+    return AsciiWriter(os, hasOption("whitespace=keep"), progress).write(node);
+}
+
+bool AsciiFileType::hasOption(const Char8 *option) const
+{
+    return std::strstr(getOptions(), option);
 }
 
 OSG_END_NAMESPACE

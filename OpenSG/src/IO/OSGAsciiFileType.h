@@ -12,6 +12,9 @@ public:
 
     FCPtrStore readTopNodes(std::istream &is, const Progress &progress) const override;
     bool write(const NodePtr &node, std::ostream &os, const Progress &progress) const override;
+
+private:
+    bool hasOption(const Char8 *option) const;
 };
 
 OSG_END_NAMESPACE

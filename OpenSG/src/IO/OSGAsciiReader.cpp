@@ -3,13 +3,14 @@
 #include "OSGAsciiFormat.h"
 #include "OSGFieldSyntax.h"
 
-#include <OpenSG/OSGFieldContainerFactory.h>
+#include <OpenSG/OSGFieldFactory.h>
 #include <OpenSG/OSGGroup.h>
 #include <OpenSG/OSGLog.h>
 #include <OpenSG/OSGNode.h>
 #include <OpenSG/OSGSimpleAttachments.h>
 
 #include <algorithm>
+#include <memory>
 #include <unordered_set>
 
 OSG_BEGIN_NAMESPACE
@@ -19,7 +20,7 @@ namespace {
 constexpr UInt32 editOrigin
     = ChangedOrigin::Abstract | ChangedOrigin::AbstrIgnoreCore | ChangedOrigin::AbstrIgnoreChild;
 constexpr std::string_view byteOrderMark = "\xef\xbb\xbf";
-constexpr std::size_t shownTokenLength = 60;
+constexpr std::size_t shownHeaderLength = 60;
 
 bool startsWith(std::string_view text, std::string_view start)
 {
@@ -36,9 +37,15 @@ void checkHeader(std::string_view text)
 {
     if (startsWith(text, "#") && !startsWith(text, AsciiFormat::header)) {
         const std::string_view line = text.substr(0, text.find_first_of("\r\n"));
-        SLOG << "File begins with '" << line.substr(0, shownTokenLength) << "' instead of '"
+        SLOG << "File begins with '" << line.substr(0, shownHeaderLength) << "' instead of '"
              << AsciiFormat::header << "'" << endLog;
     }
+}
+
+void clear(Field &field)
+{
+    const std::unique_ptr<Field> empty(FieldFactory::the().createField(field.getType().getId()));
+    field.setAbstrValue(*empty);
 }
 
 void addDefaultCore(const NodePtr &node)
@@ -61,9 +68,11 @@ bool isReadable(const FieldContainerPtr &owner, const FieldDescription &descript
 
 } // namespace
 
-AsciiReader::AsciiReader(std::string_view text, SceneFileType::Progress progress)
-    : _scanner(withoutByteOrderMark(text))
-    , _value(_scanner)
+AsciiReader::AsciiReader(
+    std::string_view text, bool replacesLists, SceneFileType::Progress progress)
+    : _cursor(withoutByteOrderMark(text))
+    , _value(_cursor.scanner())
+    , _replacesLists(replacesLists)
     , _progress(std::move(progress))
     , _size(text.size())
 {
@@ -74,7 +83,7 @@ FCPtrStore AsciiReader::read()
 {
     FCPtrStore containers;
     std::unordered_set<UInt32> ids;
-    while (!at(SceneToken::End)) {
+    while (!_cursor.at(SceneToken::End)) {
         const FieldContainerPtr container = readTop();
         if (container && ids.insert(container.getFieldContainerId()).second) {
             containers.push_back(container);
@@ -86,30 +95,30 @@ FCPtrStore AsciiReader::read()
 
 FieldContainerPtr AsciiReader::readTop()
 {
-    if (atNode()) {
+    if (_cursor.atNode()) {
         return readContainer(nullptr);
     }
-    fail();
-    while (!at(SceneToken::End) && !atNode()) {
-        skipGroup();
+    _cursor.fail();
+    while (!_cursor.at(SceneToken::End) && !_cursor.atNode()) {
+        _cursor.skipGroup();
     }
     return NullFC;
 }
 
 FieldContainerPtr AsciiReader::readContainer(const PointerField *target)
 {
-    if (atWord("USE")) {
+    if (_cursor.atWord("USE")) {
         return readUse(target);
     }
     std::string name;
-    if (atWord("DEF")) {
-        _scanner.advance();
-        if (!at(SceneToken::Identifier)) {
-            fail();
+    if (_cursor.atWord("DEF")) {
+        _cursor.advance();
+        if (!_cursor.at(SceneToken::Identifier)) {
+            _cursor.fail();
             return NullFC;
         }
-        name = _scanner.token().text;
-        _scanner.advance();
+        name = _cursor.word();
+        _cursor.advance();
     }
     const FieldContainerPtr container = create(name, target);
     if (container) {
@@ -120,19 +129,19 @@ FieldContainerPtr AsciiReader::readContainer(const PointerField *target)
 
 FieldContainerPtr AsciiReader::create(const std::string &name, const PointerField *target)
 {
-    const FieldContainerType *type = typeAtToken();
+    const FieldContainerType *type = _cursor.typeAtToken();
     const bool isAccepted = type && !type->isAbstract() && (!target || target->accepts(*type));
     if (!isAccepted || _open.size() == AsciiFormat::maxDepth) {
-        fail();
-        skipNode();
+        _cursor.fail();
+        _cursor.skipNode();
         return NullFC;
     }
-    _scanner.advance();
-    if (!at(SceneToken::OpenBrace)) {
-        fail();
+    _cursor.advance();
+    if (!_cursor.at(SceneToken::OpenBrace)) {
+        _cursor.fail();
         return NullFC;
     }
-    _progress(_scanner.position(), _size);
+    _progress(_cursor.position(), _size);
     const FieldContainerPtr container = type->createFieldContainer();
     _keeper.keep(container);
     if (!name.empty()) {
@@ -151,39 +160,39 @@ void AsciiReader::define(const std::string &name, const FieldContainerPtr &conta
 
 FieldContainerPtr AsciiReader::readUse(const PointerField *target)
 {
-    _scanner.advance();
-    if (!at(SceneToken::Identifier)) {
-        fail();
+    _cursor.advance();
+    if (!_cursor.at(SceneToken::Identifier)) {
+        _cursor.fail();
         return NullFC;
     }
-    const auto found = _definitions.find(std::string(_scanner.token().text));
+    const auto found = _definitions.find(_cursor.word());
     const FieldContainerPtr container
         = found != _definitions.end() ? found->second : FieldContainerPtr();
     if (!container) {
-        SLOG << "No FieldContainer found with name " << _scanner.token().text << endLog;
+        SLOG << "No FieldContainer found with name " << _cursor.word() << endLog;
     }
     const bool fits = container && target && target->accepts(container->getType())
         && !(isOpen(container) && target->mustBeTree(container->getType()));
     if (container && target && !fits) {
-        fail();
+        _cursor.fail();
     }
-    _scanner.advance();
+    _cursor.advance();
     return fits || !target ? container : FieldContainerPtr();
 }
 
 void AsciiReader::readBody(const FieldContainerPtr &container)
 {
-    _open.push_back(container);
-    _scanner.advance();
-    while (!at(SceneToken::CloseBrace) && !at(SceneToken::End)) {
+    _open.push_back({ container });
+    _cursor.advance();
+    while (!_cursor.at(SceneToken::CloseBrace) && !_cursor.at(SceneToken::End)) {
         if (!readField(container)) {
             skipToField(container);
         }
     }
-    if (at(SceneToken::End)) {
-        fail();
+    if (_cursor.at(SceneToken::End)) {
+        _cursor.fail();
     }
-    _scanner.advance();
+    _cursor.advance();
     _open.pop_back();
     addDefaultCore(NodePtr::dcast(container));
 }
@@ -192,43 +201,55 @@ bool AsciiReader::readField(const FieldContainerPtr &owner)
 {
     const FieldDescription *description = fieldAtToken(owner);
     if (!description) {
-        return fail();
+        return _cursor.fail();
     }
-    _scanner.advance();
+    _cursor.advance();
     Field &field = *owner->getField(description->getFieldId());
     const FieldSyntax syntax = FieldSyntax::of(field.getType());
     const bool isPointers
         = syntax.kind == FieldSyntax::Pointers || syntax.kind == FieldSyntax::Attachments;
     beginEditCP(owner, description->getFieldMask(), editOrigin);
+    if (!isPointers && startsList(field, *description)) {
+        clear(field);
+    }
     const bool ok
         = isPointers ? readPointers(PointerField(owner, field)) : readValues(field, syntax);
     endEditCP(owner, description->getFieldMask(), editOrigin);
     return ok;
 }
 
+// A field that comes again goes on with the list it has read.
+bool AsciiReader::startsList(const Field &field, const FieldDescription &description)
+{
+    BitVector &started = _open.back().startedFields;
+    const bool isNew = !(started & description.getFieldMask());
+    started |= description.getFieldMask();
+    return isNew && _replacesLists && field.getCardinality() == FieldType::MULTI_FIELD;
+}
+
 bool AsciiReader::readPointers(PointerField field)
 {
-    if (!field.isList() || !at(SceneToken::OpenBracket)) {
+    if (!field.isList() || !_cursor.at(SceneToken::OpenBracket)) {
         return readPointer(field);
     }
-    _scanner.advance();
-    while (!at(SceneToken::CloseBracket)) {
-        if (!readListedPointer(field, _open.back()->getType())) {
+    _cursor.advance();
+    while (!_cursor.at(SceneToken::CloseBracket)) {
+        if (!readListedPointer(field, _open.back().container->getType())) {
             return false;
         }
     }
-    _scanner.advance();
+    _cursor.advance();
     return true;
 }
 
 // A list goes on behind an element of an unknown type, unless it lacks its bracket.
 bool AsciiReader::readListedPointer(PointerField &field, const FieldContainerType &owner)
 {
-    const std::string word(_scanner.token().text);
-    const bool isField = at(SceneToken::Identifier) && owner.findFieldDescription(word.c_str());
-    if (at(SceneToken::Identifier) && !typeAtToken() && !isField) {
-        fail();
-        skipNode();
+    const bool isName = _cursor.at(SceneToken::Identifier);
+    const bool isField = isName && owner.findFieldDescription(_cursor.word().c_str());
+    if (isName && !_cursor.typeAtToken() && !isField) {
+        _cursor.fail();
+        _cursor.skipNode();
         return true;
     }
     return readPointer(field);
@@ -236,13 +257,13 @@ bool AsciiReader::readListedPointer(PointerField &field, const FieldContainerTyp
 
 bool AsciiReader::readPointer(PointerField &field)
 {
-    if (atWord("NULL")) {
-        _scanner.advance();
+    if (_cursor.atWord("NULL")) {
+        _cursor.advance();
         field.add(NullFC);
         return true;
     }
-    if (!atNode()) {
-        return fail();
+    if (!_cursor.atNode()) {
+        return _cursor.fail();
     }
     if (const FieldContainerPtr container = readContainer(&field)) {
         field.add(container);
@@ -252,100 +273,47 @@ bool AsciiReader::readPointer(PointerField &field)
 
 bool AsciiReader::readValues(Field &field, const FieldSyntax &syntax)
 {
-    if (!syntax.isList || !at(SceneToken::OpenBracket)) {
+    if (!syntax.isList || !_cursor.at(SceneToken::OpenBracket)) {
         return readValue(field, syntax);
     }
-    _scanner.advance();
-    while (!at(SceneToken::CloseBracket)) {
+    _cursor.advance();
+    while (!_cursor.at(SceneToken::CloseBracket)) {
         if (!readValue(field, syntax)) {
             return false;
         }
     }
-    _scanner.advance();
+    _cursor.advance();
     return true;
 }
 
 bool AsciiReader::readValue(Field &field, const FieldSyntax &syntax)
 {
     if (!_value.read(syntax)) {
-        return fail();
+        return _cursor.fail();
     }
     field.pushValueByStr(_value.text().c_str());
     return true;
 }
 
-bool AsciiReader::atWord(std::string_view word) const
-{
-    return at(SceneToken::Reserved) && _scanner.token().text == word;
-}
-
-bool AsciiReader::atNode() const
-{
-    return atWord("DEF") || atWord("USE") || typeAtToken();
-}
-
-FieldContainerType *AsciiReader::typeAtToken() const
-{
-    const std::string word(_scanner.token().text);
-    return at(SceneToken::Identifier) ? FieldContainerFactory::the()->findType(word.c_str())
-                                      : nullptr;
-}
-
 FieldDescription *AsciiReader::fieldAtToken(const FieldContainerPtr &owner) const
 {
-    const std::string word(_scanner.token().text);
-    FieldDescription *description = at(SceneToken::Identifier)
-        ? owner->getType().findFieldDescription(word.c_str())
+    FieldDescription *description = _cursor.at(SceneToken::Identifier)
+        ? owner->getType().findFieldDescription(_cursor.word().c_str())
         : nullptr;
     return description && isReadable(owner, *description) ? description : nullptr;
 }
 
 bool AsciiReader::isOpen(const FieldContainerPtr &container) const
 {
-    return std::find(_open.begin(), _open.end(), container) != _open.end();
-}
-
-// One line for each token, however many levels fail at it.
-bool AsciiReader::fail()
-{
-    const SceneToken &token = _scanner.token();
-    if (_reportedPosition != _scanner.position()) {
-        _reportedPosition = _scanner.position();
-        SWARNING << "-----> parse error in Line " << token.line << ", read '"
-                 << token.text.substr(0, shownTokenLength) << "'" << endLog;
-    }
-    return false;
-}
-
-// A token, or all up to the bracket that closes the one it is.
-void AsciiReader::skipGroup()
-{
-    UInt32 depth = 0;
-    do {
-        if (at(SceneToken::OpenBrace) || at(SceneToken::OpenBracket)) {
-            ++depth;
-        } else if (depth > 0 && (at(SceneToken::CloseBrace) || at(SceneToken::CloseBracket))) {
-            --depth;
-        }
-        _scanner.advance();
-    } while (depth > 0 && !at(SceneToken::End));
-}
-
-// What should have been a container: perhaps its type, perhaps its body.
-void AsciiReader::skipNode()
-{
-    if (at(SceneToken::Identifier)) {
-        _scanner.advance();
-    }
-    if (at(SceneToken::OpenBrace)) {
-        skipGroup();
-    }
+    return std::any_of(_open.begin(), _open.end(),
+        [&](const OpenContainer &open) { return open.container == container; });
 }
 
 void AsciiReader::skipToField(const FieldContainerPtr &owner)
 {
-    while (!at(SceneToken::End) && !at(SceneToken::CloseBrace) && !fieldAtToken(owner)) {
-        skipGroup();
+    while (!_cursor.at(SceneToken::End) && !_cursor.at(SceneToken::CloseBrace)
+        && !fieldAtToken(owner)) {
+        _cursor.skipGroup();
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "OSGContainerKeeper.h"
 #include "OSGPointerField.h"
+#include "OSGSceneCursor.h"
 #include "OSGSceneValueReader.h"
 
 #include <OpenSG/OSGSceneFileType.h>
@@ -22,15 +23,23 @@ struct FieldSyntax;
 class AsciiReader
 {
 public:
-    /// The text must outlive the reader.
-    AsciiReader(std::string_view text, SceneFileType::Progress progress);
+    /// The text must outlive the reader. Lists of values are appended to those that new containers
+    /// have, or replace them.
+    AsciiReader(std::string_view text, bool replacesLists, SceneFileType::Progress progress);
 
     /// The containers at the top of the file; nobody holds a reference to them yet.
     FCPtrStore read();
 
 private:
+    struct OpenContainer
+    {
+        FieldContainerPtr container;
+        BitVector startedFields = 0;
+    };
+
     // Each stands on the first token of what it reads. False: the text goes on in an unknown way.
     bool readField(const FieldContainerPtr &owner);
+    bool startsList(const Field &field, const FieldDescription &description);
     bool readPointers(PointerField field);
     bool readPointer(PointerField &field);
     bool readListedPointer(PointerField &field, const FieldContainerType &owner);
@@ -44,28 +53,20 @@ private:
     void readBody(const FieldContainerPtr &container);
     void define(const std::string &name, const FieldContainerPtr &container);
 
-    bool at(SceneToken::Kind kind) const { return _scanner.token().kind == kind; }
-    bool atWord(std::string_view word) const;
-    bool atNode() const;
-    FieldContainerType *typeAtToken() const;
     FieldDescription *fieldAtToken(const FieldContainerPtr &owner) const;
     bool isOpen(const FieldContainerPtr &container) const;
-
-    bool fail();
-    void skipGroup();
-    void skipNode();
     void skipToField(const FieldContainerPtr &owner);
 
-    SceneScanner _scanner;
+    SceneCursor _cursor;
     SceneValueReader _value;
+    bool _replacesLists;
     SceneFileType::Progress _progress;
     std::size_t _size;
     ContainerKeeper _keeper;
     /// By name; where several containers have the same, the first.
     std::unordered_map<std::string, FieldContainerPtr> _definitions;
     /// The containers whose bodies are being read, outermost first.
-    std::vector<FieldContainerPtr> _open;
-    std::size_t _reportedPosition = 0;
+    std::vector<OpenContainer> _open;
 };
 
 OSG_END_NAMESPACE

@@ -9,6 +9,7 @@ set(io_sources
     src/IO/OSGGraphOpSeq.cpp
     src/IO/OSGPathHandler.cpp
     src/IO/OSGPointerField.cpp
+    src/IO/OSGSceneCursor.cpp
     src/IO/OSGSceneFileHandler.cpp
     src/IO/OSGSceneFileType.cpp
     src/IO/OSGSceneScanner.cpp
