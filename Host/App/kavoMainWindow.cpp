@@ -101,6 +101,7 @@ void kavoMainWindow::open(const QStringList &files)
 {
     m_loader->load(files);
     m_files = files;
+    m_dropsEdits = m_document->isModified();
 }
 
 bool kavoMainWindow::select(const QString &nameOrId)
@@ -114,9 +115,9 @@ bool kavoMainWindow::select(const QString &nameOrId)
 
 void kavoMainWindow::shutDown()
 {
-    m_loader->cancel();
     m_docks->hideAll();
     hide();
+    m_loader->shutDown();
     m_views->closeViewport();
     closeScene();
 }
@@ -237,6 +238,7 @@ void kavoMainWindow::connectLoader()
 {
     connect(m_progress, &kavoLoadProgress::cancelRequested, m_loader, &kavoSceneLoader::cancel);
     connect(m_loader, &kavoSceneLoader::progress, m_progress, &kavoLoadProgress::report);
+    m_loader->setGate([this] { return mayReplaceScene(); });
     connect(m_loader, &kavoSceneLoader::loaded, this, &kavoMainWindow::showScene);
     connect(m_loader, &kavoSceneLoader::canceled, this, [this] {
         m_progress->hide();
@@ -273,6 +275,12 @@ void kavoMainWindow::openInstead(const QStringList &files)
 {
     if (m_saving->mayClose())
         open(files);
+}
+
+bool kavoMainWindow::mayReplaceScene()
+{
+    m_changes->drain(); // of the edits of this round
+    return m_dropsEdits || m_saving->mayClose();
 }
 
 void kavoMainWindow::rememberFile(const QString &file)

@@ -38,7 +38,8 @@ public:
     void useSettings();
 
     /// Begins to open files as one scene. Ends in one of opened, openFailed and openCanceled; only
-    /// the first touches the scene that is open.
+    /// the first touches the scene that is open. The user is asked about edits made meanwhile, not
+    /// about those made before.
     void open(const QStringList &files);
     /// Selects a node of the scene by its name or id. \returns whether there is one
     bool select(const QString &nameOrId);
@@ -75,6 +76,7 @@ private:
     void rememberFile(const QString &file);
     void showTitle();
     void closeScene();
+    bool mayReplaceScene();
     void showScene(const osg::NodePtr &root);
     void selectParent();
     void copyName();
@@ -94,4 +96,5 @@ private:
     kavoPluginLoader m_plugins;
     QStringList m_files;
     bool m_usesSettings = false;
+    bool m_dropsEdits = false; // those made before the load under way began
 };

@@ -50,7 +50,7 @@ kavoSceneImporter::kavoSceneImporter(QObject *parent)
 kavoSceneImporter::~kavoSceneImporter()
 {
     cancel();
-    m_workers.waitForDone();
+    wait();
 }
 
 void kavoSceneImporter::start(const QString &fileName)

@@ -26,6 +26,9 @@ public:
     /// Nothing more is signaled of the current job.
     void cancel();
 
+    /// Waits until the worker is at rest, after cancel() as soon as it notices.
+    void wait() { m_workers.waitForDone(); }
+
 signals:
     void progress(int percent);
     void finished(const std::shared_ptr<kavoImportedScene> &scene);

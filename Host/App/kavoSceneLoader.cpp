@@ -59,6 +59,12 @@ void kavoSceneLoader::cancel()
     emit canceled();
 }
 
+void kavoSceneLoader::shutDown()
+{
+    cancel();
+    m_importer->wait();
+}
+
 bool kavoSceneLoader::isLoading() const
 {
     return !m_files.isEmpty() || !m_sceneFiles.isEmpty();
@@ -105,6 +111,8 @@ void kavoSceneLoader::conclude()
             return fail(file, error.message());
         }
     }
+    if (!m_mayReplaceScene())
+        return cancel();
     kavoSceneCameras::set(m_cameras);
     reset();
     emit progress(100, QString());

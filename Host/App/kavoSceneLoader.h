@@ -8,6 +8,7 @@
 
 #include <QObject>
 #include <QStringList>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -35,7 +36,16 @@ public:
     /// Ends a load under way at once, with `canceled`; otherwise nothing happens.
     void cancel();
 
+    /// Cancels and waits until the worker is at rest, so that the process may end.
+    void shutDown();
+
     bool isLoading() const;
+
+    /// Asked when the new scene is ready; a load that it refuses is canceled.
+    void setGate(const std::function<bool()> &mayReplaceScene)
+    {
+        m_mayReplaceScene = mayReplaceScene;
+    }
 
 signals:
     void progress(int percent, const QString &what);
@@ -63,6 +73,7 @@ private:
     QStringList m_sceneFiles; ///< of OpenSG
     kavoSavedCameras::List m_cameras;
     std::vector<std::shared_ptr<kavoImportedScene>> m_imported;
+    std::function<bool()> m_mayReplaceScene = [] { return true; };
     kavoSceneImporter *m_importer;
     std::unique_ptr<kavoSceneBuilder> m_builder;
 };

@@ -34,12 +34,15 @@ private slots:
     void quittingAsksAboutUnsavedChanges_data();
     void quittingAsksAboutUnsavedChanges();
     void openingAnotherSceneAsksToo();
+    void editsMadeWhileAnotherSceneLoadsAreAskedAbout_data();
+    void editsMadeWhileAnotherSceneLoadsAreAskedAbout();
     void aSaveThatFailsIsShownAndKeepsTheWindow();
     void cleanupTestCase();
 
 private:
     void edit();
     QByteArray saved() const;
+    void drop(const QString &file);
     void answerNextQuestion(QMessageBox::StandardButton button);
 
     kavoMainWindow *m_window = nullptr;
@@ -81,6 +84,16 @@ QByteArray tst_saveactions::saved() const
 {
     QFile file(m_file);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void tst_saveactions::drop(const QString &file)
+{
+    QMimeData data;
+    data.setUrls({ QUrl::fromLocalFile(file) });
+    QDragEnterEvent enter({ 5, 5 }, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(m_window, &enter);
+    QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(m_window, &drop);
 }
 
 void tst_saveactions::answerNextQuestion(QMessageBox::StandardButton button)
@@ -171,14 +184,32 @@ void tst_saveactions::openingAnotherSceneAsksToo()
 {
     edit();
     answerNextQuestion(QMessageBox::Cancel);
-    QMimeData data;
-    data.setUrls({ QUrl::fromLocalFile(m_file) });
-    QDragEnterEvent enter({ 5, 5 }, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(m_window, &enter);
-    QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(m_window, &drop);
+    drop(m_file);
     QCOMPARE(m_question, QStringLiteral("'ship.osg' has changes that are not saved."));
     QVERIFY(m_window->isWindowModified());
+}
+
+void tst_saveactions::editsMadeWhileAnotherSceneLoadsAreAskedAbout_data()
+{
+    QTest::addColumn<int>("button");
+    QTest::addColumn<bool>("opens");
+    QTest::newRow("discard") << int(QMessageBox::Discard) << true;
+    QTest::newRow("cancel") << int(QMessageBox::Cancel) << false;
+}
+
+void tst_saveactions::editsMadeWhileAnotherSceneLoadsAreAskedAbout()
+{
+    QFETCH(int, button);
+    const osg::NodePtr before = kavoScenegraph::getRoot();
+    QSignalSpy opened(m_window, &kavoMainWindow::opened);
+    QSignalSpy canceled(m_window, &kavoMainWindow::openCanceled);
+    drop(m_file);
+    osg::setName(before, "Boat");
+    answerNextQuestion(QMessageBox::StandardButton(button));
+    QTRY_COMPARE(opened.count() + canceled.count(), 1);
+    QCOMPARE(m_question, QStringLiteral("'ship.osg' has changes that are not saved."));
+    QTEST(opened.count() == 1, "opens");
+    QCOMPARE(kavoScenegraph::getRoot() == before, canceled.count() == 1);
 }
 
 void tst_saveactions::aSaveThatFailsIsShownAndKeepsTheWindow()
