@@ -2,10 +2,11 @@
 
 #include "kavoExportArguments.h"
 
-#include <QCoreApplication>
+#include <QFileInfo>
 
 namespace {
 
+const QString helpOption = QStringLiteral("help");
 const QString selectOption = QStringLiteral("select");
 const QString pluginsOption = QStringLiteral("plugins");
 const QString saveOption = QStringLiteral("save");
@@ -13,12 +14,9 @@ const QString screenshotOption = QStringLiteral("screenshot");
 const QString printWindowOption = QStringLiteral("print-window");
 const QString printFieldOption = QStringLiteral("print-field");
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("kavoCommandLine", text);
 }
 
-QList<QCommandLineOption> options()
+QList<QCommandLineOption> kavoCommandLine::options()
 {
     return {
         { selectOption, tr("Select the node of this name, or of this container id."),
@@ -40,15 +38,14 @@ QList<QCommandLineOption> options()
     };
 }
 
-}
-
 kavoCommandLine::kavoCommandLine(const QStringList &arguments)
 {
     m_parser.setApplicationDescription(
         tr("Shows 3D scenes and lets you look into every part of them.\n\n"
            "Exit codes: 0 success, 1 a job failed (the reason is on standard error), "
            "2 wrong usage."));
-    m_parser.addHelpOption();
+    // Not addHelpOption(): it offers --help-all, too, whose text only showHelp() has.
+    m_parser.addOption({ { QStringLiteral("h"), helpOption }, tr("Print this help.") });
     m_parser.addVersionOption();
     m_parser.addPositionalArgument(
         QStringLiteral("scene"), tr("Scene files to open."), QStringLiteral("[scene...]"));
@@ -58,22 +55,25 @@ kavoCommandLine::kavoCommandLine(const QStringList &arguments)
 
 QString kavoCommandLine::error() const
 {
-    return m_parsed ? missingValue() : m_parser.errorText();
+    return m_parsed ? wrongValue() : m_parser.errorText();
 }
 
-QString kavoCommandLine::missingValue() const
+QString kavoCommandLine::wrongValue() const
 {
-    for (const QString &option : { selectOption, pluginsOption, saveOption, screenshotOption,
-             printWindowOption, printFieldOption }) {
-        if (m_parser.isSet(option) && m_parser.values(option).contains(QString()))
-            return tr("The value of --%1 is empty.").arg(option);
+    for (const QCommandLineOption &option : options()) {
+        if (m_parser.values(option).contains(QString()))
+            return tr("The value of --%1 is empty.").arg(option.names().first());
+    }
+    for (const QString &folder : pluginFolders()) {
+        if (!QFileInfo(folder).isDir())
+            return tr("There is no plug-in folder '%1'.").arg(folder);
     }
     return exports().error();
 }
 
 bool kavoCommandLine::wantsHelp() const
 {
-    return m_parser.isSet(QStringLiteral("help"));
+    return m_parser.isSet(helpOption);
 }
 
 bool kavoCommandLine::wantsVersion() const

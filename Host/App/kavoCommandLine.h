@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 
@@ -12,8 +13,10 @@ class kavoExportArguments;
 /// application stays open.
 class kavoCommandLine
 {
+    Q_DECLARE_TR_FUNCTIONS(kavoCommandLine)
+
 public:
-    /// Parses without any effect of its own; works before there is an application object.
+    /// Parses without any effect of its own.
     /// \param arguments as main() receives them, the program's name first
     explicit kavoCommandLine(const QStringList &arguments);
 
@@ -42,7 +45,8 @@ public:
     kavoExportArguments exports() const;
 
 private:
-    QString missingValue() const;
+    static QList<QCommandLineOption> options();
+    QString wrongValue() const;
 
     QCommandLineParser m_parser;
     bool m_parsed;

@@ -3,6 +3,7 @@
 #include "kavoDocument.h"
 #include "kavoExportArguments.h"
 #include "kavoMainWindow.h"
+#include "kavoStandardOutput.h"
 #include "kavoTaskError.h"
 #include "kavoWindowPrinter.h"
 
@@ -11,6 +12,7 @@
 
 #include <QCoreApplication>
 #include <QEventLoop>
+#include <QImageWriter>
 #include <QPixmap>
 #include <QTextStream>
 #include <QTimer>
@@ -31,6 +33,7 @@ void settle()
 kavoJobs::kavoJobs(const kavoCommandLine &commandLine, kavoMainWindow &window)
     : m_commandLine(commandLine)
     , m_window(window)
+    , m_exitCode(commandLine.isJob() ? 1 : 0)
 {
     connect(&window, &kavoMainWindow::openFailed, this, &kavoJobs::fail);
     connect(&window, &kavoMainWindow::openCanceled, this, &kavoJobs::cancel);
@@ -65,8 +68,9 @@ void kavoJobs::run()
     } catch (const kavoTaskError &error) {
         return fail(error.message());
     }
+    m_exitCode = isComplete ? 0 : 1;
     if (m_commandLine.isJob())
-        QCoreApplication::exit(isComplete ? 0 : 1);
+        QCoreApplication::quit();
 }
 
 void kavoJobs::cancel()
@@ -88,7 +92,8 @@ void kavoJobs::fail(const QString &message)
     if (!m_commandLine.isJob())
         return m_window.reportError(message);
     std::fprintf(stderr, "kavo: %s\n", qUtf8Printable(message));
-    QCoreApplication::exit(1);
+    m_exitCode = 1;
+    QCoreApplication::quit();
 }
 
 bool kavoJobs::exportValuePairs()
@@ -108,14 +113,18 @@ void kavoJobs::printWindow(const QString &key)
     }
     m_window.docks().show(key);
     settle();
-    QTextStream out(stdout);
-    out.setCodec("UTF-8");
+    QString rows;
+    QTextStream out(&rows);
     if (!kavoWindowPrinter(out).print(window))
         throw kavoTaskError(tr("The window '%1' has no rows to print").arg(key));
+    kavoStandardOutput::write(rows.toUtf8());
 }
 
 void kavoJobs::saveScreenshot(const QString &file)
 {
-    if (!m_window.grab().save(file))
-        throw kavoTaskError(tr("Cannot write the picture '%1'").arg(file));
+    QImageWriter picture(file);
+    if (!picture.write(m_window.grab().toImage())) {
+        throw kavoTaskError(
+            tr("Cannot write the picture '%1': %2").arg(file, picture.errorString()));
+    }
 }

@@ -15,10 +15,13 @@ public:
     kavoJobs(const kavoCommandLine &commandLine, kavoMainWindow &window);
 
     /// Opens the scenes and does the rest when they are there. With jobs it ends the event loop
-    /// afterwards, with 0, or with 1 after a line on standard error that says what failed; without
-    /// jobs errors are shown in the window. Rows of a table that have no place in the scene are a
+    /// afterwards; if one fails, after a line on standard error that says why. Without jobs errors
+    /// are shown in the window. Rows of a table that have no place in the scene are a
     /// failure, too, but no other job is left out for them.
     void start();
+
+    /// Of the process: 1 as long as there are jobs that are not done.
+    int exitCode() const { return m_exitCode; }
 
 private:
     void run();
@@ -31,4 +34,5 @@ private:
 
     const kavoCommandLine &m_commandLine;
     kavoMainWindow &m_window;
+    int m_exitCode;
 };

@@ -62,7 +62,7 @@ bool kavoPluginLoader::loadLibrary(const QString &file)
         return false;
     m_loaded.insert(file);
     QLibrary library(file);
-    library.setLoadHints(QLibrary::PreventUnloadHint);
+    library.setLoadHints(QLibrary::PreventUnloadHint | QLibrary::ResolveAllSymbolsHint);
     if (!library.load())
         return skip(file, library.errorString());
     const auto entry = reinterpret_cast<Entry>(library.resolve("initPlugin"));

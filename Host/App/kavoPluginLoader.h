@@ -6,7 +6,8 @@
 /// Loads plug-ins: every shared library of a folder, by calling its entry `initPlugin`.
 ///
 /// A library that cannot be loaded, has no such entry or whose entry throws is reported in the log
-/// and skipped. Libraries are never unloaded.
+/// and skipped. So is one that uses symbols that nobody has. An exception out of the constructor of
+/// a library's static object cannot be caught and ends the process. Libraries are never unloaded.
 class kavoPluginLoader
 {
 public:

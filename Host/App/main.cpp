@@ -2,12 +2,15 @@
 #include "kavoFieldPrinter.h"
 #include "kavoJobs.h"
 #include "kavoMainWindow.h"
+#include "kavoStandardOutput.h"
+#include "kavoTaskError.h"
 
 #include <OpenSG/OSGBaseFunctions.h>
 #include <OpenSG/OSGChangeList.h>
 
 #include <QApplication>
 
+#include <algorithm>
 #include <clocale>
 #include <cstdio>
 
@@ -21,36 +24,15 @@ int argumentCount = 0;
 QApplication *application = nullptr;
 kavoMainWindow *mainWindow = nullptr;
 
-QStringList toStringList(int argc, char **argv)
+// Whether the X server that a variable names answers is left to Qt, which says so and aborts.
+bool hasDisplay(int argc, char **argv)
 {
-    QStringList arguments;
-    for (int i = 0; i < argc; ++i)
-        arguments << QString::fromLocal8Bit(argv[i]);
-    return arguments;
-}
-
-bool hasDisplay(const QStringList &arguments)
-{
+    const auto choosesPlatform = [](const char *argument) {
+        return qstrcmp(argument, "-platform") == 0 || qstrcmp(argument, "--platform") == 0;
+    };
     return !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")
         || !qEnvironmentVariableIsEmpty("DISPLAY")
-        || arguments.contains(QStringLiteral("-platform"));
-}
-
-// Without a display Qt would abort. What needs none is done without one.
-bool prepareDisplay(const QStringList &arguments)
-{
-    if (hasDisplay(arguments))
-        return true;
-    const kavoCommandLine commandLine(arguments);
-    if (commandLine.isJob())
-        std::fputs("kavo: no display, so the windows are drawn off screen\n", stderr);
-    else if (commandLine.error().isEmpty() && !commandLine.wantsHelp()
-        && !commandLine.wantsVersion()) {
-        std::fputs("kavo: there is no display; jobs work without one, see kavo --help\n", stderr);
-        return false;
-    }
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    return true;
+        || std::any_of(argv + 1, argv + argc, choosesPlatform);
 }
 
 void createApplication(int argc, char **argv)
@@ -64,19 +46,30 @@ void createApplication(int argc, char **argv)
     std::setlocale(LC_NUMERIC, "C");
 }
 
+int fail(const QString &reason)
+{
+    std::fprintf(stderr, "kavo: %s\n", qUtf8Printable(reason));
+    return Failure;
+}
+
+template <class Task> int run(Task task)
+{
+    try {
+        task();
+        return Success;
+    } catch (const kavoTaskError &error) {
+        return fail(error.message());
+    }
+}
+
 int printText(const QString &text)
 {
-    std::fputs(qUtf8Printable(text), stdout);
-    return Success;
+    return run([&] { kavoStandardOutput::write(text.toUtf8()); });
 }
 
 int printField(const QString &address)
 {
-    const QString error = address.isEmpty() ? QString() : kavoFieldPrinter::print(address);
-    if (error.isEmpty())
-        return Success;
-    std::fprintf(stderr, "kavo: %s\n", qUtf8Printable(error));
-    return Failure;
+    return address.isEmpty() ? Success : run([&] { kavoFieldPrinter::print(address); });
 }
 
 int runWindow(const kavoCommandLine &commandLine)
@@ -88,32 +81,36 @@ int runWindow(const kavoCommandLine &commandLine)
     mainWindow->show();
     kavoJobs jobs(commandLine, *mainWindow);
     jobs.start();
-    const int result = QApplication::exec();
+    QApplication::exec();
     const int printed = printField(commandLine.fieldToPrint());
-    mainWindow->shutDown();
-    return result == Success ? printed : result;
+    mainWindow->shutDown(); // tells the jobs that a load has not come to its end
+    return jobs.exitCode() == Success ? printed : jobs.exitCode();
 }
 
 }
 
 int main(int argc, char **argv)
 {
-    if (!prepareDisplay(toStringList(argc, argv)))
-        return Failure;
+    // Without a display Qt would abort. What needs none is done without one.
+    const bool isOffScreen = !hasDisplay(argc, argv);
+    if (isOffScreen)
+        qputenv("QT_QPA_PLATFORM", "offscreen");
     createApplication(argc, argv);
-    const kavoCommandLine commandLine(QApplication::arguments());
+    const kavoCommandLine commandLine(QApplication::arguments()); // without Qt's own
     if (!commandLine.error().isEmpty()) {
-        std::fprintf(stderr, "kavo: %s\nTry kavo --help.\n", qUtf8Printable(commandLine.error()));
+        fail(commandLine.error() + "\nTry kavo --help.");
         return WrongUsage;
     }
     if (commandLine.wantsHelp())
         return printText(commandLine.helpText());
     if (commandLine.wantsVersion())
         return printText(QStringLiteral("kavo " KAVO_VERSION "\n"));
+    if (isOffScreen && !commandLine.isJob())
+        return fail("there is no display; jobs work without one, see kavo --help");
+    if (isOffScreen)
+        std::fputs("kavo: no display, so the windows are drawn off screen\n", stderr);
     osg::ChangeList::setReadWriteDefault(true);
-    if (!osg::osgInit(argc, argv)) {
-        std::fputs("kavo: OpenSG did not start\n", stderr);
-        return Failure;
-    }
+    if (!osg::osgInit(argc, argv))
+        return fail("OpenSG did not start");
     return runWindow(commandLine);
 }

@@ -15,6 +15,9 @@ private slots:
     void wrongUsageExitsWithTwo();
     void aFailedJobExitsWithOneAndSaysWhy_data();
     void aFailedJobExitsWithOneAndSaysWhy();
+    void aJobThatIsNotDoneExitsWithOne();
+    void aFullDiskFailsTheJob_data();
+    void aFullDiskFailsTheJob();
     void theSceneWindowIsPrinted();
     void theNodeEditorIsPrintedForTheSelectedNode();
     void aNodeCanBeSelectedByItsId();
@@ -23,6 +26,7 @@ private slots:
     void severalScenesOpenAsOne();
     void badPluginsAreReportedAndSkipped();
     void jobsNeedNoDisplay();
+    void aWindowWithoutADisplayIsRefused_data();
     void aWindowWithoutADisplayIsRefused();
     void modulesLeaveInOrderAtTheEnd();
 
@@ -32,7 +36,8 @@ private:
         int exitCode;
         QString output, errors;
     };
-    Result run(const QStringList &arguments, const QStringList &unsetVariables = {}) const;
+    Result run(const QStringList &arguments, const QStringList &unsetVariables = {},
+        const QString &outputFile = {}) const;
 
     QTemporaryDir m_folder;
 };
@@ -49,8 +54,8 @@ QString firstLine(const QString &text)
 
 }
 
-tst_kavo::Result tst_kavo::run(
-    const QStringList &arguments, const QStringList &unsetVariables) const
+tst_kavo::Result tst_kavo::run(const QStringList &arguments, const QStringList &unsetVariables,
+    const QString &outputFile) const
 {
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -58,6 +63,8 @@ tst_kavo::Result tst_kavo::run(
     for (const QString &variable : unsetVariables)
         environment.remove(variable);
     process.setProcessEnvironment(environment);
+    if (!outputFile.isEmpty())
+        process.setStandardOutputFile(outputFile);
     process.start(KAVO_EXECUTABLE, arguments);
     const bool ended = process.waitForFinished(60000);
     const bool clean = ended && process.exitStatus() == QProcess::NormalExit;
@@ -84,6 +91,7 @@ void tst_kavo::wrongUsageExitsWithTwo()
     const Result result = run({ "--colour" });
     QCOMPARE(result.exitCode, 2);
     QVERIFY(result.errors.contains("colour"));
+    QCOMPARE(run({ "--plugins", "/no/such/folder" }).exitCode, 2);
 }
 
 void tst_kavo::aFailedJobExitsWithOneAndSaysWhy_data()
@@ -99,7 +107,8 @@ void tst_kavo::aFailedJobExitsWithOneAndSaysWhy_data()
     QTest::newRow("no rows") << QStringList { "--print-window", "Log" }
                              << "The window 'Log' has no rows";
     QTest::newRow("no place for a picture")
-        << QStringList { "--screenshot", "/no/such/folder/a.png" } << "/no/such/folder/a.png";
+        << QStringList { "--screenshot", "/no/such/folder/a.png" }
+        << "a.png': Cannot open device for writing: No such file or directory";
     QTest::newRow("no place for the scene")
         << QStringList { truck, "--save", "/no/such/folder/a.osg" } << "/no/such/folder/a.osg";
     QTest::newRow("nothing to save")
@@ -113,6 +122,34 @@ void tst_kavo::aFailedJobExitsWithOneAndSaysWhy()
     const Result result = run(arguments);
     QCOMPARE(result.exitCode, 1);
     QVERIFY2(result.errors.contains(reason), qPrintable(result.errors));
+}
+
+void tst_kavo::aJobThatIsNotDoneExitsWithOne()
+{
+    const QString picture = m_folder.filePath("never.png");
+    const Result result
+        = run({ truck, "--plugins", KAVO_TEST_PLUGIN_DIR "/closing", "--screenshot", picture });
+    QCOMPARE(result.exitCode, 1);
+    QVERIFY2(result.errors.contains("Loading was canceled"), qPrintable(result.errors));
+    QVERIFY(!QFile::exists(picture));
+}
+
+void tst_kavo::aFullDiskFailsTheJob_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::newRow("window") << QStringList { truck, "--print-window", "Scene" };
+    const QString root = firstLine(run({ truck, "--print-window", "Scene" }).output);
+    QTest::newRow("field") << QStringList { truck, "--print-field",
+        root.section('\t', 2) + ".volume", "--save", m_folder.filePath("truck.osg") };
+    QTest::newRow("help") << QStringList { "--help" };
+}
+
+void tst_kavo::aFullDiskFailsTheJob()
+{
+    QFETCH(QStringList, arguments);
+    const Result result = run(arguments, {}, "/dev/full");
+    QCOMPARE(result.exitCode, 1);
+    QVERIFY2(result.errors.contains("No space left on device"), qPrintable(result.errors));
 }
 
 void tst_kavo::theSceneWindowIsPrinted()
@@ -187,9 +224,17 @@ void tst_kavo::jobsNeedNoDisplay()
     QVERIFY(result.errors.contains("no display"));
 }
 
+void tst_kavo::aWindowWithoutADisplayIsRefused_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::newRow("alone") << QStringList {};
+    QTest::newRow("with options of Qt") << QStringList { "-style", "fusion", truck };
+}
+
 void tst_kavo::aWindowWithoutADisplayIsRefused()
 {
-    const Result result = run({}, { "QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY" });
+    QFETCH(QStringList, arguments);
+    const Result result = run(arguments, { "QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY" });
     QCOMPARE(result.exitCode, 1);
     QVERIFY(result.errors.contains("no display"));
 }

@@ -15,6 +15,7 @@ private slots:
     void wrongUsageIsExplained();
     void helpNamesEveryOption_data();
     void helpNamesEveryOption();
+    void helpOffersNothingThatIsNotUnderstood();
 };
 
 static QStringList arguments(const QStringList &rest)
@@ -34,12 +35,12 @@ void tst_kavoCommandLine::nothingAsksForNothing()
 
 void tst_kavoCommandLine::everyOptionIsRead()
 {
-    const kavoCommandLine commandLine(arguments({ "a.gltf", "--select", "Wheel", "--plugins", "p",
+    const kavoCommandLine commandLine(arguments({ "a.gltf", "--select", "Wheel", "--plugins", ".",
         "--screenshot", "s.png", "--print-window", "Node Editor", "--save", "s.osg" }));
     QVERIFY(commandLine.error().isEmpty());
     QCOMPARE(commandLine.sceneFiles(), QStringList { "a.gltf" });
     QCOMPARE(commandLine.nodeToSelect(), QStringLiteral("Wheel"));
-    QCOMPARE(commandLine.pluginFolders(), QStringList { "p" });
+    QCOMPARE(commandLine.pluginFolders(), QStringList { "." });
     QCOMPARE(commandLine.screenshotFile(), QStringLiteral("s.png"));
     QCOMPARE(commandLine.fileToSave(), QStringLiteral("s.osg"));
     QCOMPARE(commandLine.windowToPrint(), QStringLiteral("Node Editor"));
@@ -48,9 +49,9 @@ void tst_kavoCommandLine::everyOptionIsRead()
 void tst_kavoCommandLine::scenesAndFoldersMayBeSeveral()
 {
     const kavoCommandLine commandLine(
-        arguments({ "--plugins", "p", "a.gltf", "--plugins", "q", "b.fbx" }));
+        arguments({ "--plugins", ".", "a.gltf", "--plugins", "..", "b.fbx" }));
     QCOMPARE(commandLine.sceneFiles(), (QStringList { "a.gltf", "b.fbx" }));
-    QCOMPARE(commandLine.pluginFolders(), (QStringList { "p", "q" }));
+    QCOMPARE(commandLine.pluginFolders(), (QStringList { ".", ".." }));
 }
 
 void tst_kavoCommandLine::aPictureOrAPrintedWindowIsAJob()
@@ -67,7 +68,7 @@ void tst_kavoCommandLine::wrongUsageIsExplained_data()
     QTest::newRow("unknown option") << QStringList { "--colour" };
     QTest::newRow("no value") << QStringList { "--select" };
     QTest::newRow("empty value") << QStringList { "--print-window=" };
-    QTest::newRow("empty among others") << QStringList { "--plugins", "p", "--plugins", "" };
+    QTest::newRow("empty among others") << QStringList { "--plugins", ".", "--plugins", "" };
 }
 
 void tst_kavoCommandLine::wrongUsageIsExplained()
@@ -90,6 +91,13 @@ void tst_kavoCommandLine::helpNamesEveryOption()
     const kavoCommandLine commandLine(arguments({ "--help" }));
     QVERIFY(commandLine.wantsHelp());
     QVERIFY(commandLine.helpText().contains(option));
+}
+
+void tst_kavoCommandLine::helpOffersNothingThatIsNotUnderstood()
+{
+    QVERIFY(!kavoCommandLine(arguments({})).helpText().contains("--help-all"));
+    QVERIFY(!kavoCommandLine(arguments({ "--help-all" })).error().isEmpty());
+    QVERIFY(kavoCommandLine(arguments({ "-h" })).wantsHelp());
 }
 
 QTEST_GUILESS_MAIN(tst_kavoCommandLine)

@@ -50,6 +50,7 @@ void tst_kavoPluginLoader::whatGoesWrongIsLogged_data()
     QTest::addColumn<QString>("line");
     QTest::newRow("success") << "libGoodPlugin.so' loaded";
     QTest::newRow("no entry") << "libWithoutEntryPlugin.so' skipped: it has no entry initPlugin";
+    QTest::newRow("unresolved symbol") << "libUnresolvedPlugin.so' skipped: ";
     QTest::newRow("exception")
         << "libThrowingPlugin.so' skipped: initPlugin failed: no licence today";
     QTest::newRow("unknown exception")

@@ -1,0 +1,6 @@
+void nobodyHasThis();
+
+extern "C" __attribute__((visibility("default"))) void initPlugin()
+{
+    nobodyHasThis();
+}
