@@ -118,9 +118,10 @@ void kavoSceneView::showSelection()
 
 void kavoSceneView::select()
 {
+    if (m_following)
+        return;
     const QModelIndexList rows = m_tree->selectionModel()->selectedRows();
-    if (!m_following && !rows.isEmpty())
-        kavoScenegraph::setSelectedNode(m_model->node(rows.first()));
+    kavoScenegraph::setSelectedNode(m_model->node(rows.value(0)));
 }
 
 void kavoSceneView::selectNothing()

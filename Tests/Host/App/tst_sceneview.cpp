@@ -69,6 +69,16 @@ private slots:
         QVERIFY(selected() == kavoTestLoad::find("Wheel"));
     }
 
+    void aCtrlClickOnTheSelectedRowSelectsNothing()
+    {
+        select("Wheel");
+        QTest::mouseClick(m_view->tree()->viewport(), Qt::LeftButton, Qt::ControlModifier,
+            m_view->tree()->visualRect(m_view->tree()->currentIndex()).center());
+        QVERIFY(selected() == osg::NullFC);
+        QTest::qWait(20);
+        QVERIFY(!m_view->tree()->selectionModel()->hasSelection());
+    }
+
     void arrowKeysSelectToo()
     {
         m_view->tree()->setCurrentIndex(root());
