@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QProgressBar>
+#include <QShortcut>
 #include <QToolButton>
 
 kavoLoadProgress::kavoLoadProgress(QWidget *parent)
@@ -17,7 +18,6 @@ kavoLoadProgress::kavoLoadProgress(QWidget *parent)
     cancel->setObjectName(QStringLiteral("cancel"));
     cancel->setIcon(kavoIconManager::getIcon("Cancel"));
     cancel->setToolTip(tr("Cancel loading (Esc)"));
-    cancel->setShortcut(Qt::Key_Escape);
     cancel->setAutoRaise(true);
     m_bar->setRange(0, 100);
     m_bar->setFixedWidth(200);
@@ -28,6 +28,9 @@ kavoLoadProgress::kavoLoadProgress(QWidget *parent)
     layout->addWidget(m_bar);
     layout->addWidget(cancel);
     connect(cancel, &QToolButton::clicked, this, &kavoLoadProgress::cancelRequested);
+    // At once: a button's own shortcut first shows how it goes down.
+    auto *escape = new QShortcut(Qt::Key_Escape, this);
+    connect(escape, &QShortcut::activated, this, &kavoLoadProgress::cancelRequested);
     hide();
 }
 

@@ -12,6 +12,8 @@ kavoLogView::kavoLogView(QWidget *parent)
     , m_text(new QPlainTextEdit)
 {
     m_level->addItems({ tr("Everything"), tr("Warnings and errors"), tr("Errors") });
+    m_level->setAccessibleName(tr("Lines to show"));
+    m_text->setAccessibleName(tr("Log"));
     m_text->setReadOnly(true);
     m_text->setMaximumBlockCount(static_cast<int>(kavoLog::historyLimit));
     m_text->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));

@@ -199,6 +199,7 @@ void kavoMainWindow::createEditMenu()
         tr("&Deselect"), this, [] { kavoScenegraph::setSelectedNode(osg::NullFC); },
         QKeySequence(tr("Ctrl+Shift+A")));
     menu->addSeparator();
+    menu->addAction(m_views->deletion());
     menu->addAction(tr("&Copy Name of Selected Node"), this, &kavoMainWindow::copyName,
         QKeySequence(tr("Ctrl+Shift+C")));
 }

@@ -7,11 +7,12 @@
 #include "kavoSceneIndex.h"
 #include "kavoSceneModel.h"
 
+#include <QAction>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QScopedValueRollback>
-#include <QShortcut>
 #include <QTreeView>
 #include <QVBoxLayout>
 #include <kavoScenegraph.h>
@@ -32,6 +33,7 @@ kavoSceneView::kavoSceneView(kavoSceneEvents &events, kavoChangeMonitor &monitor
     , m_index(index)
     , m_filter(new QLineEdit(this))
     , m_tree(new QTreeView(this))
+    , m_deletion(new QAction(tr("D&elete Node..."), this))
 {
     setUpTree();
     setUpFilter();
@@ -39,8 +41,7 @@ kavoSceneView::kavoSceneView(kavoSceneEvents &events, kavoChangeMonitor &monitor
     layout->setContentsMargins({});
     layout->addWidget(m_filter);
     layout->addWidget(m_tree);
-    addKey(Qt::Key_Delete, &kavoSceneView::confirmDeletion);
-    addKey(Qt::Key_Escape, &kavoSceneView::selectNothing);
+    setUpDeletion();
     connect(&events, &kavoSceneEvents::selectionChanged, this, &kavoSceneView::showSelection);
     connect(&index, &kavoSceneIndex::structureChanged, this, &kavoSceneView::dropLostSelection,
         Qt::QueuedConnection); // the model hears of it in the same round
@@ -54,6 +55,7 @@ void kavoSceneView::setUpTree()
         m_model, &QAbstractItemModel::rowsAboutToBeRemoved, this, [this] { m_following = true; });
     connect(m_model, &QAbstractItemModel::rowsRemoved, this, [this] { m_following = false; });
     m_tree->setModel(m_model);
+    m_tree->installEventFilter(this);
     m_tree->setUniformRowHeights(true); // rows are not measured one by one
     m_tree->setAlternatingRowColors(true);
     m_tree->setAccessibleName(tr("Nodes of the scene"));
@@ -70,6 +72,7 @@ void kavoSceneView::setUpFilter()
 {
     m_filter->setPlaceholderText(tr("Filter by name, core type or ID"));
     m_filter->setClearButtonEnabled(true);
+    m_filter->installEventFilter(this);
     m_filterDelay.setSingleShot(true);
     m_filterDelay.setInterval(filterDelayMilliseconds);
     connect(m_filter, &QLineEdit::textChanged, &m_filterDelay, qOverload<>(&QTimer::start));
@@ -77,11 +80,39 @@ void kavoSceneView::setUpFilter()
     connect(&m_filterDelay, &QTimer::timeout, this, &kavoSceneView::applyFilter);
 }
 
-void kavoSceneView::addKey(const QKeySequence &key, void (kavoSceneView::*reaction)())
+void kavoSceneView::setUpDeletion()
 {
-    auto *shortcut = new QShortcut(key, m_tree);
-    shortcut->setContext(Qt::WidgetShortcut);
-    connect(shortcut, &QShortcut::activated, this, reaction);
+    m_deletion->setShortcut(Qt::Key_Delete);
+    m_deletion->setShortcutContext(Qt::WidgetShortcut); // elsewhere the key deletes text
+    m_tree->addAction(m_deletion);
+    connect(m_deletion, &QAction::triggered, this, &kavoSceneView::confirmDeletion);
+}
+
+// No shortcuts: Escape, too, is one of the window while it loads, and that comes first.
+bool kavoSceneView::eventFilter(QObject *watched, QEvent *event)
+{
+    const bool isHandled = event->type() == QEvent::KeyPress
+        && react(watched, static_cast<QKeyEvent *>(event)->key());
+    return isHandled || QWidget::eventFilter(watched, event);
+}
+
+bool kavoSceneView::react(const QObject *widget, int key)
+{
+    if (widget == m_tree && key == Qt::Key_Escape)
+        selectNothing();
+    else if (widget == m_filter && key == Qt::Key_Escape)
+        m_filter->clear();
+    else if (widget == m_filter && key == Qt::Key_Down)
+        enterTree();
+    else
+        return false;
+    return true;
+}
+
+void kavoSceneView::enterTree()
+{
+    applyFilter();
+    m_tree->setFocus();
 }
 
 void kavoSceneView::applyFilter()

@@ -3,6 +3,7 @@
 #include <QTimer>
 #include <QWidget>
 
+class QAction;
 class QLineEdit;
 class QTreeView;
 class kavoChangeMonitor;
@@ -11,7 +12,8 @@ class kavoSceneIndex;
 class kavoSceneModel;
 
 /// The Scene window: the node tree, in step with the host's selection both ways, with a filter.
-/// Del deletes the selected node after a question, Escape selects nothing.
+/// In the tree Del deletes the selected node after a question, Escape selects nothing; in the
+/// filter Escape shows all nodes again, Down goes on in the tree.
 class kavoSceneView : public QWidget
 {
     Q_OBJECT
@@ -22,16 +24,22 @@ public:
 
     QTreeView *tree() const { return m_tree; }
     QLineEdit *filter() const { return m_filter; }
+    /// Deletes the selected node after a question, for menus.
+    QAction *deletion() const { return m_deletion; }
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void setUpTree();
     void setUpFilter();
-    void addKey(const QKeySequence &key, void (kavoSceneView::*reaction)());
+    void setUpDeletion();
+    bool react(const QObject *widget, int key);
     void applyFilter();
     void showAll();
     void showSelection();
     void select();
     void selectNothing();
+    void enterTree();
     void confirmDeletion();
     void dropLostSelection();
 
@@ -39,6 +47,7 @@ private:
     const kavoSceneIndex &m_index;
     QLineEdit *m_filter;
     QTreeView *m_tree;
+    QAction *m_deletion;
     QTimer m_filterDelay;
     bool m_following = false; // the tree's selection changes, but not by the user
 };

@@ -61,6 +61,11 @@ void kavoSceneViews::dock(QKAVODockWindowManager &docks)
             row.title, Qt::LeftDockWidgetArea, true, nullptr);
 }
 
+QAction *kavoSceneViews::deletion() const
+{
+    return m_scene->deletion();
+}
+
 void kavoSceneViews::closeViewport()
 {
     delete m_viewport;

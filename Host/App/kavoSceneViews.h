@@ -6,6 +6,7 @@
 #include <QObject>
 #include <QPointer>
 
+class QAction;
 class QKAVODockWindowManager;
 class QWidget;
 class kavoCameraView;
@@ -32,10 +33,8 @@ public:
     /// Deletes the viewport, which must not outlive main() as windows may: Qt's OpenGL does not.
     void closeViewport();
 
-    kavoSceneView *sceneView() const { return m_scene; }
-    kavoMaterialView *materialView() const { return m_materials; }
-    kavoLightView *lightView() const { return m_lights; }
-    kavoCameraView *cameraView() const { return m_cameras; }
+    /// Deletes the selected node after a question.
+    QAction *deletion() const;
 
 private:
     kavoSceneEvents m_events;

@@ -23,6 +23,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QTreeView>
 
 namespace {
 
@@ -63,6 +64,8 @@ private slots:
     void openingAnnouncesTheSceneBeforeAndAfter();
     void aBrokenFileIsNamedWithTheReasonAndTheSceneStays();
     void cancelingALoadKeepsTheScene();
+    void escapeInTheSceneTreeCancelsALoadFirst();
+    void theEditMenuDeletesNodes();
     void droppedFilesAreOpened();
     void otherDropsAreRefused();
     void nodesAreSelectedByNameOrId();
@@ -164,6 +167,30 @@ void tst_kavoMainWindow::cancelingALoadKeepsTheScene()
     QCOMPARE(canceled.count(), 1);
     QVERIFY(!progress->isVisible());
     QVERIFY(kavoScenegraph::getRoot() == before);
+}
+
+void tst_kavoMainWindow::escapeInTheSceneTreeCancelsALoadFirst()
+{
+    m_window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_window));
+    auto *tree = m_window->docks().window("Scene")->findChild<QTreeView *>();
+    m_window->docks().show("Scene");
+    m_window->select("Tyre");
+    QSignalSpy canceled(m_window, &kavoMainWindow::openCanceled);
+    m_window->open({ kavoTestLoad::model(truck) });
+    QTRY_VERIFY(m_window->findChild<QWidget *>("loadProgress")->isVisible());
+    tree->setFocus();
+    QTest::keyClick(tree, Qt::Key_Escape);
+    QCOMPARE(canceled.count(), 1);
+    QVERIFY(kavoScenegraph::getSelectedNode() != osg::NullFC);
+    QTest::keyClick(tree, Qt::Key_Escape);
+    QVERIFY(kavoScenegraph::getSelectedNode() == osg::NullFC);
+}
+
+void tst_kavoMainWindow::theEditMenuDeletesNodes()
+{
+    const QList<QAction *> offered = m_window->menuBar()->actions().at(1)->menu()->actions();
+    QVERIFY(offered.contains(action("Delete Node...")));
 }
 
 void tst_kavoMainWindow::droppedFilesAreOpened()

@@ -117,6 +117,21 @@ private slots:
         QVERIFY(selected() == osg::NullFC);
     }
 
+    void escapeInTheFilterShowsAllNodesAgain()
+    {
+        QTest::keyClicks(m_view->filter(), "tyre");
+        QTRY_COMPARE(m_view->tree()->model()->rowCount(root()), 1);
+        QTest::keyClick(m_view->filter(), Qt::Key_Escape);
+        QTRY_COMPARE(m_view->tree()->model()->rowCount(root()), 2);
+    }
+
+    void downInTheFilterGoesOnInTheTree()
+    {
+        m_view->filter()->setFocus();
+        QTest::keyClick(m_view->filter(), Qt::Key_Down);
+        QVERIFY(m_view->tree()->hasFocus());
+    }
+
     void delAsksAndDeletesAfterTheSelectionIsGone()
     {
         const osg::UInt32 tyre = select("Tyre");
