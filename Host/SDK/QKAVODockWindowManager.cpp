@@ -60,6 +60,17 @@ QString areaName(const QString &group, Qt::DockWidgetArea area)
     return QStringLiteral("%1/%2").arg(group).arg(sideOf(area));
 }
 
+// The window itself if it takes keys, else the first widget in it that does.
+void focusFirstIn(QWidget *window)
+{
+    QWidget *candidate = window;
+    do {
+        if ((candidate->focusPolicy() & Qt::TabFocus) && candidate->isEnabled())
+            return candidate->setFocus(Qt::ShortcutFocusReason);
+        candidate = candidate->nextInFocusChain();
+    } while (window->isAncestorOf(candidate));
+}
+
 ads::CDockManager *createDocks(QMainWindow *mainWindow)
 {
     ads::CDockManager::setConfigFlags(ads::CDockManager::DefaultOpaqueConfig);
@@ -92,10 +103,14 @@ void QKAVODockWindowManager::add(const char *key, const QString &group, QWidget 
     dock->setObjectName(name);
     dock->setWidget(widget, ads::CDockWidget::ForceNoScrollArea);
     dock->setIcon(icon);
+    QAction *action = dock->toggleViewAction();
+    action->setIcon(icon);
+    action->disconnect(dock); // it would close a window that is behind another
+    connect(action, &QAction::triggered, this, [this, name] { toggle(name); });
     connect(widget, &QWidget::windowTitleChanged, dock->tabWidget(), &QWidget::setToolTip);
     connect(widget, &QObject::destroyed, this, [this, name] { remove(name); });
     if (menu)
-        menu->addAction(dock->toggleViewAction());
+        menu->addAction(action);
     m_keys.append(name);
     place(m_windows[name] = { dock, widget, group, hintKey, area, visible });
     emit windowsChanged();
@@ -132,6 +147,18 @@ void QKAVODockWindowManager::show(const QString &key)
         return;
     m_windows[key].dock->toggleView(true);
     m_windows[key].dock->raise();
+}
+
+void QKAVODockWindowManager::toggle(const QString &key)
+{
+    const Window &window = m_windows[key];
+    if (!window.dock->isClosed() && window.dock->isCurrentTab()) {
+        window.dock->toggleView(false);
+    } else {
+        show(key);
+        focusFirstIn(window.widget);
+    }
+    window.dock->toggleViewAction()->setChecked(!window.dock->isClosed());
 }
 
 bool QKAVODockWindowManager::areTabbed(const QString &key, const QString &otherKey) const

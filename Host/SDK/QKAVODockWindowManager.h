@@ -49,7 +49,8 @@ public:
     QWidget *window(const QString &key) const;
     QString group(const QString &key) const;
     QString hintKey(const QString &key) const;
-    /// Opens and closes the window; owned by its dock. Null for an unknown key.
+    /// Opens the window, brings it to the front if it is open behind another tab, and closes it if
+    /// it is in front; owned by its dock. Null for an unknown key.
     QAction *toggleAction(const QString &key) const;
     /// Opens the window and brings its tab to the front.
     void show(const QString &key);
@@ -83,6 +84,7 @@ private:
 
     void place(const Window &window);
     void remove(const QString &key);
+    void toggle(const QString &key);
 
     ads::CDockManager *m_docks;
     QMap<QString, Window> m_windows;

@@ -4,7 +4,9 @@
 #include <kavoTestHost.h>
 
 #include <QAction>
+#include <QApplication>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QSignalSpy>
 #include <QTest>
@@ -28,6 +30,8 @@ private slots:
     void theFirstWindowOfAGroupIsInFront();
     void showBringsATabToTheFront();
     void theToggleActionOpensAndCloses();
+    void theToggleActionBringsATabToTheFrontBeforeItCloses();
+    void theToggleActionCarriesTheIcon();
     void theMenuReceivesTheToggleAction();
     void theHintKeyIsKept();
     void aDeletedWindowLeaves();
@@ -153,6 +157,26 @@ void tst_QKAVODockWindowManager::theToggleActionOpensAndCloses()
     QVERIFY(!scene->isVisible());
     m_docks->toggleAction("Scene")->trigger();
     QVERIFY(scene->isVisible());
+}
+
+void tst_QKAVODockWindowManager::theToggleActionBringsATabToTheFrontBeforeItCloses()
+{
+    add("Scene", "Scene");
+    QWidget *materials = add("Materials", "Scene");
+    auto *list = new QLineEdit(materials);
+    m_docks->toggleAction("Materials")->trigger();
+    QVERIFY(materials->isVisible());
+    QCOMPARE(QApplication::focusWidget(), list);
+    QVERIFY(m_docks->toggleAction("Materials")->isChecked());
+    m_docks->toggleAction("Materials")->trigger();
+    QVERIFY(!materials->isVisible());
+    QVERIFY(!m_docks->toggleAction("Materials")->isChecked());
+}
+
+void tst_QKAVODockWindowManager::theToggleActionCarriesTheIcon()
+{
+    add("Scene", "Scene");
+    QVERIFY(!m_docks->toggleAction("Scene")->icon().isNull());
 }
 
 void tst_QKAVODockWindowManager::theMenuReceivesTheToggleAction()
