@@ -47,14 +47,16 @@ void kavoMaterialModel::renderAll()
 void kavoMaterialModel::update(const kavoChanges &changes)
 {
     const auto isTouched = [&](osg::UInt32 id) { return changes.touched.contains(id); };
+    QSet<osg::UInt32> outdated;
+    for (auto swatch = m_swatches.cbegin(); swatch != m_swatches.cend(); ++swatch) {
+        if (std::any_of(swatch->sources.begin(), swatch->sources.end(), isTouched))
+            outdated.insert(swatch.key());
+    }
+    for (const osg::UInt32 material : qAsConst(outdated))
+        m_swatches.remove(material);
     for (int row = 0; row < rowCount(); ++row) {
         const kavoSceneIndex::Entry &entry = m_entries[std::size_t(row)];
-        const auto found = m_swatches.find(entry.content);
-        const bool outdated = found != m_swatches.end()
-            && std::any_of(found->sources.begin(), found->sources.end(), isTouched);
-        if (outdated)
-            m_swatches.erase(found);
-        if (outdated || isTouched(entry.node) || isTouched(entry.content))
+        if (outdated.contains(entry.content) || isTouched(entry.node) || isTouched(entry.content))
             emitRowChanged(row);
     }
 }

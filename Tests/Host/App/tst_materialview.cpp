@@ -111,6 +111,20 @@ private slots:
         QVERIFY(center(swatch(0)).blue() > 150);
     }
 
+    void anEditRendersTheSwatchOfEveryNodeThatSharesTheMaterial()
+    {
+        makeLibraryNode("paint again", m_paint);
+        osg::endEditCP(kavoScenegraph::getRoot(), osg::Node::ChildrenFieldMask);
+        QTRY_COMPARE(m_view->model()->rowCount(), 4);
+        swatch(0);
+        QSignalSpy changed(m_view->model(), &QAbstractItemModel::dataChanged);
+        paint(color(0, 0, 1));
+        QSet<QModelIndex> told;
+        for (const QList<QVariant> &arguments : qAsConst(changed))
+            told << arguments.first().toModelIndex();
+        QVERIFY(told.contains(materialRow(0)) && told.contains(materialRow(3)));
+    }
+
     void updateMatRenderRendersAnewInTheNextRound()
     {
         paint(color(1, 0, 0));
