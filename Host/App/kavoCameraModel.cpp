@@ -2,11 +2,11 @@
 
 #include "kavoChangeMonitor.h"
 #include "kavoContainers.h"
+#include "kavoListSetup.h"
 #include "kavoSceneCameras.h"
 #include "kavoSceneEvents.h"
 
 #include <QFont>
-#include <QMimeData>
 #include <kavoDragFormats.h>
 #include <kavoIconManager.h>
 
@@ -93,10 +93,7 @@ QVariant kavoCameraModel::text(osg::UInt32 nodeId, int column) const
 
 QVariant kavoCameraModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
-        return {};
-    const QString titles[ColumnCount] = { tr("Camera"), tr("Type"), tr("ID") };
-    return titles[section];
+    return kavoListSetup::title({ tr("Camera"), tr("Type"), tr("ID") }, section, orientation, role);
 }
 
 Qt::ItemFlags kavoCameraModel::flags(const QModelIndex &index) const
@@ -117,7 +114,5 @@ QMimeData *kavoCameraModel::mimeData(const QModelIndexList &indexes) const
         if (index.column() == NameColumn)
             ids << qint32(m_nodeIds[std::size_t(index.row())]);
     }
-    auto *data = new QMimeData;
-    data->setData(kavoDragFormats::cameras, kavoDragFormats::payload(ids));
-    return data;
+    return kavoListSetup::drag(kavoDragFormats::cameras, ids);
 }

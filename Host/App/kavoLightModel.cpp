@@ -3,8 +3,8 @@
 #include "kavoChangeMonitor.h"
 #include "kavoContainers.h"
 #include "kavoCoreIcons.h"
+#include "kavoListSetup.h"
 
-#include <QMimeData>
 #include <kavoDragFormats.h>
 
 kavoLightModel::kavoLightModel(
@@ -92,10 +92,7 @@ bool kavoLightModel::setData(const QModelIndex &index, const QVariant &value, in
 
 QVariant kavoLightModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
-        return {};
-    const QString titles[ColumnCount] = { tr("Light"), tr("Type"), tr("ID") };
-    return titles[section];
+    return kavoListSetup::title({ tr("Light"), tr("Type"), tr("ID") }, section, orientation, role);
 }
 
 Qt::ItemFlags kavoLightModel::flags(const QModelIndex &index) const
@@ -122,7 +119,5 @@ QMimeData *kavoLightModel::mimeData(const QModelIndexList &indexes) const
         const kavoSceneIndex::Entry &entry = m_entries[std::size_t(index.row())];
         ids << qint32(entry.node) << qint32(entry.core);
     }
-    auto *data = new QMimeData;
-    data->setData(kavoDragFormats::lights, kavoDragFormats::payload(ids));
-    return data;
+    return kavoListSetup::drag(kavoDragFormats::lights, ids);
 }

@@ -1,7 +1,9 @@
 #include "kavoListSetup.h"
 
 #include <QHeaderView>
+#include <QMimeData>
 #include <QTreeView>
+#include <kavoDragFormats.h>
 
 namespace {
 
@@ -21,4 +23,18 @@ void kavoListSetup::apply(QTreeView &view, QAbstractItemModel &model)
     view.header()->setSectionResizeMode(0, QHeaderView::Stretch);
     view.header()->resizeSection(1, typeColumnWidth);
     view.header()->resizeSection(2, idColumnWidth);
+}
+
+QVariant kavoListSetup::title(
+    const QStringList &titles, int section, Qt::Orientation orientation, int role)
+{
+    const bool isShown = orientation == Qt::Horizontal && role == Qt::DisplayRole;
+    return isShown ? titles.value(section) : QVariant();
+}
+
+QMimeData *kavoListSetup::drag(const char *format, const QVector<qint32> &ids)
+{
+    auto *data = new QMimeData;
+    data->setData(format, kavoDragFormats::payload(ids));
+    return data;
 }

@@ -2,10 +2,10 @@
 
 #include "kavoChangeMonitor.h"
 #include "kavoContainers.h"
+#include "kavoListSetup.h"
 #include "kavoMaterialSwatch.h"
 #include "kavoSceneEvents.h"
 
-#include <QMimeData>
 #include <QPixmap>
 #include <algorithm>
 #include <kavoDragFormats.h>
@@ -134,10 +134,8 @@ QVariant kavoMaterialModel::data(const QModelIndex &index, int role) const
 
 QVariant kavoMaterialModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
-        return {};
-    const QString titles[ColumnCount] = { tr("Material"), tr("Type"), tr("ID") };
-    return titles[section];
+    return kavoListSetup::title(
+        { tr("Material"), tr("Type"), tr("ID") }, section, orientation, role);
 }
 
 Qt::ItemFlags kavoMaterialModel::flags(const QModelIndex &index) const
@@ -161,9 +159,7 @@ QMimeData *kavoMaterialModel::mimeData(const QModelIndexList &indexes) const
         nodes << qint32(dragged.node);
         ids << qint32(dragged.node) << qint32(dragged.content);
     }
-    auto *data = new QMimeData;
-    data->setData(kavoDragFormats::materials, kavoDragFormats::payload(ids));
-    return data;
+    return kavoListSetup::drag(kavoDragFormats::materials, ids);
 }
 
 const kavoMaterialModel::Swatch &kavoMaterialModel::swatch(osg::UInt32 material) const

@@ -22,6 +22,21 @@ enum Primitive : osg::UInt8 {
     Polygon
 };
 
+QVector3D toQt(const osg::Pnt3f &p)
+{
+    return QVector3D(p[0], p[1], p[2]);
+}
+
+QVector3D toQt(const osg::Vec3f &v)
+{
+    return QVector3D(v[0], v[1], v[2]);
+}
+
+QVector2D toQt(const osg::Vec2f &v)
+{
+    return QVector2D(v[0], v[1]);
+}
+
 /// Reads the corners of a geometry in the order of its indices.
 class CornerReader
 {
@@ -35,21 +50,9 @@ public:
     Vertex corner(osg::UInt32 number) const
     {
         Vertex vertex;
-        osg::UInt32 at = index(number, osg::Geometry::MapPosition);
-        if (at < size(m_geometry->getPositions())) {
-            const osg::Pnt3f p = m_geometry->getPositions()->getValue(at);
-            vertex.position = QVector3D(p[0], p[1], p[2]);
-        }
-        at = index(number, osg::Geometry::MapNormal);
-        if (at < size(m_geometry->getNormals())) {
-            const osg::Vec3f n = m_geometry->getNormals()->getValue(at);
-            vertex.normal = QVector3D(n[0], n[1], n[2]);
-        }
-        at = index(number, osg::Geometry::MapTexCoords);
-        if (at < size(m_geometry->getTexCoords())) {
-            const osg::Vec2f t = m_geometry->getTexCoords()->getValue(at);
-            vertex.texCoord = QVector2D(t[0], t[1]);
-        }
+        read(vertex.position, m_geometry->getPositions(), number, osg::Geometry::MapPosition);
+        read(vertex.normal, m_geometry->getNormals(), number, osg::Geometry::MapNormal);
+        read(vertex.texCoord, m_geometry->getTexCoords(), number, osg::Geometry::MapTexCoords);
         return vertex;
     }
 
@@ -57,6 +60,14 @@ private:
     template <class Property> static osg::UInt32 size(const Property &property)
     {
         return property == osg::NullFC ? 0 : property->getSize();
+    }
+
+    template <class Value, class Property>
+    void read(Value &value, const Property &property, osg::UInt32 number, osg::UInt16 mapped) const
+    {
+        const osg::UInt32 at = index(number, mapped);
+        if (at < size(property))
+            value = toQt(property->getValue(at));
     }
 
     osg::UInt32 index(osg::UInt32 number, osg::UInt16 mapped) const
