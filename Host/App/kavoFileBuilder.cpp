@@ -66,10 +66,12 @@ std::vector<const aiNode *> children(const aiNode &node)
 
 int countNodes(const aiNode &node)
 {
-    int count = 1;
-    for (const aiNode *child : children(node))
-        count += countNodes(*child);
-    return count;
+    std::vector<const aiNode *> found { &node };
+    for (std::size_t i = 0; i < found.size(); ++i) {
+        const std::vector<const aiNode *> below = children(*found[i]);
+        found.insert(found.end(), below.begin(), below.end());
+    }
+    return int(found.size());
 }
 
 } // namespace

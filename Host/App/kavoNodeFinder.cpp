@@ -1,28 +1,20 @@
 #include "kavoNodeFinder.h"
 
+#include "kavoNodeWalk.h"
+
 #include <kavoNodeUtils.h>
-
-#include <OpenSG/OSGNode.h>
-
-#include <vector>
 
 namespace {
 
-// Without recursion: a scene may be deeper than the stack.
 template <class Predicate> osg::NodePtr findFirst(const osg::NodePtr &root, Predicate matches)
 {
-    std::vector<osg::NodePtr> open { root };
-    while (!open.empty()) {
-        const osg::NodePtr node = open.back();
-        open.pop_back();
-        if (node == osg::NullFC)
-            continue;
+    osg::NodePtr found = osg::NullFC;
+    kavoNodeWalk::forEachNode(root, [&](const osg::NodePtr &node) {
         if (matches(node))
-            return node;
-        for (osg::UInt32 i = node->getNChildren(); i > 0; --i)
-            open.push_back(node->getChild(i - 1));
-    }
-    return osg::NullFC;
+            found = node;
+        return found == osg::NullFC;
+    });
+    return found;
 }
 
 }

@@ -2,6 +2,7 @@
 
 #include "kavoChangeMonitor.h"
 #include "kavoContainers.h"
+#include "kavoNodeWalk.h"
 #include "kavoSceneEvents.h"
 
 #include <OpenSG/OSGLight.h>
@@ -43,17 +44,11 @@ kavoSceneIndex::kavoSceneIndex(kavoSceneEvents &events, kavoChangeMonitor &monit
 void kavoSceneIndex::rebuild()
 {
     Entries materials, lights;
-    std::vector<osg::NodePtr> pending;
     m_root = kavoContainers::id(kavoScenegraph::getRoot());
-    if (m_root != 0)
-        pending.push_back(kavoScenegraph::getRoot());
-    while (!pending.empty()) {
-        const osg::NodePtr node = pending.back();
-        pending.pop_back();
+    kavoNodeWalk::forEachNode(kavoScenegraph::getRoot(), [&](const osg::NodePtr &node) {
         collect(node, materials, lights);
-        for (osg::UInt32 i = node->getNChildren(); i-- > 0;)
-            pending.push_back(node->getChild(i));
-    }
+        return true;
+    });
     const bool otherMaterials = !(materials == m_materials);
     const bool otherLights = !(lights == m_lights);
     m_materials.swap(materials);

@@ -3,11 +3,15 @@
 #include "kavoChangeMonitor.h"
 #include "kavoContainers.h"
 #include "kavoCoreIcons.h"
+#include "kavoListSetup.h"
+#include "kavoNodeWalk.h"
 #include "kavoSceneEvents.h"
 
 #include <algorithm>
+#include <iterator>
 #include <kavoNodeUtils.h>
 #include <kavoScenegraph.h>
+#include <utility>
 
 struct kavoSceneModel::Item
 {
@@ -26,7 +30,10 @@ kavoSceneModel::kavoSceneModel(kavoSceneEvents &events, kavoChangeMonitor &monit
     reset();
 }
 
-kavoSceneModel::~kavoSceneModel() = default;
+kavoSceneModel::~kavoSceneModel()
+{
+    forget(std::move(m_top));
+}
 
 void kavoSceneModel::setFilter(const QString &text)
 {
@@ -37,8 +44,7 @@ void kavoSceneModel::setFilter(const QString &text)
 void kavoSceneModel::reset()
 {
     beginResetModel();
-    m_items.clear();
-    m_top = std::make_unique<Item>();
+    forget(std::exchange(m_top, std::make_unique<Item>()));
     m_top->fetched = true;
     findVisible();
     const osg::UInt32 root = kavoContainers::id(kavoScenegraph::getRoot());
@@ -52,19 +58,15 @@ void kavoSceneModel::reset()
 void kavoSceneModel::findVisible()
 {
     m_visible.clear();
-    std::vector<osg::NodePtr> pending;
-    if (!m_filter.isEmpty() && kavoScenegraph::getRoot() != osg::NullFC)
-        pending.push_back(kavoScenegraph::getRoot());
-    while (!pending.empty()) {
-        osg::NodePtr node = pending.back();
-        pending.pop_back();
-        for (osg::UInt32 i = 0; i < node->getNChildren(); ++i)
-            pending.push_back(node->getChild(i));
+    if (m_filter.isEmpty())
+        return;
+    kavoNodeWalk::forEachNode(kavoScenegraph::getRoot(), [this](osg::NodePtr node) {
         if (!matches(node))
-            continue;
+            return true;
         while (node != osg::NullFC && m_visible.insert(kavoContainers::id(node)).second)
             node = node->getParent();
-    }
+        return true;
+    });
 }
 
 bool kavoSceneModel::isVisible(osg::UInt32 id) const
@@ -86,17 +88,18 @@ osg::NodePtr kavoSceneModel::node(const QModelIndex &index) const
 
 QModelIndex kavoSceneModel::indexOf(const osg::NodePtr &node)
 {
-    if (node == osg::NullFC)
-        return {};
-    const auto found = m_items.find(node.getFieldContainerId());
-    if (found != m_items.end())
-        return indexAt(*found->second);
-    const QModelIndex parent = indexOf(node->getParent());
-    if (!parent.isValid() || !canFetchMore(parent))
-        return {};
-    fetchMore(parent);
-    const auto fetched = m_items.find(node.getFieldContainerId());
-    return fetched == m_items.end() ? QModelIndex() : indexAt(*fetched->second);
+    std::vector<osg::UInt32> path; // from the node up to the first that has a row
+    osg::NodePtr at = node;
+    for (; at != osg::NullFC && m_items.count(kavoContainers::id(at)) == 0; at = at->getParent())
+        path.push_back(kavoContainers::id(at));
+    QModelIndex index
+        = at == osg::NullFC ? QModelIndex() : indexAt(*m_items[kavoContainers::id(at)]);
+    for (auto id = path.rbegin(); id != path.rend() && index.isValid(); ++id) {
+        fetchMore(index);
+        const auto found = m_items.find(*id);
+        index = found == m_items.end() ? QModelIndex() : indexAt(*found->second);
+    }
+    return index;
 }
 
 kavoSceneModel::Item *kavoSceneModel::itemAt(const QModelIndex &index) const
@@ -169,10 +172,7 @@ QVariant kavoSceneModel::data(const QModelIndex &index, int role) const
 
 QVariant kavoSceneModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
-        return {};
-    const QString titles[ColumnCount] = { tr("Name"), tr("Core"), tr("ID") };
-    return titles[section];
+    return kavoListSetup::title({ tr("Name"), tr("Core"), tr("ID") }, section, orientation, role);
 }
 
 QString kavoSceneModel::text(const osg::NodePtr &node, int column) const
@@ -205,8 +205,10 @@ void kavoSceneModel::update(const kavoChanges &changes)
     bool unfetchedChanged = false;
     for (auto entry = changes.changed.cbegin(); entry != changes.changed.cend(); ++entry)
         unfetchedChanged |= updateItem(entry.key(), entry.value());
-    if (unfetchedChanged) // an arrow may have come or gone
+    if (unfetchedChanged) { // an arrow may have come or gone
+        emit layoutAboutToBeChanged();
         emit layoutChanged();
+    }
     for (const osg::UInt32 id : changes.touched) {
         const auto found = m_items.find(id);
         if (found != m_items.end())
@@ -264,18 +266,25 @@ void kavoSceneModel::removeItems(Item &parent, int row, int count)
         return;
     beginRemoveRows(indexAt(parent), row, row + count - 1);
     const auto begin = parent.children.begin() + row;
-    std::for_each(begin, begin + count, [this](const auto &item) { forget(*item); });
+    std::for_each(begin, begin + count, [this](auto &item) { forget(std::move(item)); });
     parent.children.erase(begin, begin + count);
     for (auto i = std::size_t(row); i < parent.children.size(); ++i)
         parent.children[i]->row = int(i);
     endRemoveRows();
 }
 
-void kavoSceneModel::forget(const Item &item)
+/// The item and all below it, also without recursion when they are deleted.
+void kavoSceneModel::forget(std::unique_ptr<Item> top)
 {
-    const auto found = m_items.find(item.nodeId);
-    if (found != m_items.end() && found->second == &item) // else it was moved: another row has it
-        m_items.erase(found);
-    for (const auto &child : item.children)
-        forget(*child);
+    std::vector<std::unique_ptr<Item>> open;
+    if (top)
+        open.push_back(std::move(top));
+    while (!open.empty()) {
+        const std::unique_ptr<Item> item = std::move(open.back());
+        open.pop_back();
+        const auto found = m_items.find(item->nodeId);
+        if (found != m_items.end() && found->second == item.get()) // else another row has it now
+            m_items.erase(found);
+        std::move(item->children.begin(), item->children.end(), std::back_inserter(open));
+    }
 }

@@ -3,7 +3,6 @@
 #include <OpenSG/OSGNode.h>
 
 #include <QAbstractItemModel>
-#include <QIcon>
 #include <memory>
 #include <unordered_map>
 #include <unordered_set>
@@ -70,7 +69,7 @@ private:
     void syncChildren(Item &item);
     void insertItems(Item &parent, int row, Ids::const_iterator begin, Ids::const_iterator end);
     void removeItems(Item &parent, int row, int count);
-    void forget(const Item &item);
+    void forget(std::unique_ptr<Item> top);
 
     std::unique_ptr<Item> m_top; // not shown; its one child is the scene's root
     std::unordered_map<osg::UInt32, Item *> m_items;

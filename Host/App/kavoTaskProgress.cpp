@@ -1,10 +1,9 @@
 #include "kavoTaskProgress.h"
 
-#include <OpenSG/OSGNode.h>
+#include "kavoNodeWalk.h"
 
 #include <algorithm>
 #include <utility>
-#include <vector>
 
 namespace {
 
@@ -13,16 +12,10 @@ constexpr unsigned reportInterval = 1024;
 unsigned countNodes(const osg::NodePtr &root)
 {
     unsigned count = 0;
-    std::vector<osg::NodePtr> open { root };
-    while (!open.empty()) {
-        const osg::NodePtr node = open.back();
-        open.pop_back();
-        if (node == osg::NullFC)
-            continue;
+    kavoNodeWalk::forEachNode(root, [&count](const osg::NodePtr &) {
         ++count;
-        for (osg::UInt32 i = 0; i < node->getNChildren(); ++i)
-            open.push_back(node->getChild(i));
-    }
+        return true;
+    });
     return count;
 }
 

@@ -5,6 +5,8 @@
 #include <QAbstractItemView>
 #include <QTextStream>
 
+#include <vector>
+
 kavoWindowPrinter::kavoWindowPrinter(QTextStream &out)
     : m_out(out)
 {
@@ -21,7 +23,7 @@ bool kavoWindowPrinter::print(QWidget *window)
         // Lists that pop up from a combo box are windows of their own.
         if (!view->model() || !window->isAncestorOf(view))
             continue;
-        printChildren(view->model(), view->rootIndex(), 0);
+        printBelow(view->model(), view->rootIndex());
         return true;
     }
     return false;
@@ -41,17 +43,33 @@ void kavoWindowPrinter::printItem(const QtBrowserItem *item, int level)
         printItem(child, level + 1);
 }
 
-void kavoWindowPrinter::printChildren(
-    QAbstractItemModel *model, const QModelIndex &parent, int level)
+// Without recursion: a scene may be deeper than the stack.
+void kavoWindowPrinter::printBelow(QAbstractItemModel *model, const QModelIndex &top)
 {
-    while (model->canFetchMore(parent))
-        model->fetchMore(parent);
-    for (int i = 0; i < model->rowCount(parent); ++i) {
-        QStringList values;
-        for (int column = 1; column < model->columnCount(parent); ++column)
-            values << model->index(i, column, parent).data().toString();
-        const QModelIndex name = model->index(i, 0, parent);
-        row(level, name.data().toString(), values.join('\t'));
-        printChildren(model, name, level + 1);
+    struct Place
+    {
+        QModelIndex parent;
+        int row;
+    };
+    std::vector<Place> open { { top, 0 } };
+    while (!open.empty()) {
+        auto &[parent, next] = open.back();
+        while (model->canFetchMore(parent))
+            model->fetchMore(parent);
+        if (next == model->rowCount(parent)) {
+            open.pop_back();
+            continue;
+        }
+        const QModelIndex name = model->index(next++, 0, parent);
+        printRow(name, int(open.size()) - 1);
+        open.push_back({ name, 0 });
     }
+}
+
+void kavoWindowPrinter::printRow(const QModelIndex &name, int level)
+{
+    QStringList values;
+    for (int column = 1; column < name.model()->columnCount(name.parent()); ++column)
+        values << name.sibling(name.row(), column).data().toString();
+    row(level, name.data().toString(), values.join('\t'));
 }

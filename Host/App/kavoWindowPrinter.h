@@ -23,7 +23,8 @@ private:
     void row(int level, const QString &name, const QString &value);
 
     void printItem(const QtBrowserItem *item, int level);
-    void printChildren(QAbstractItemModel *model, const QModelIndex &parent, int level);
+    void printBelow(QAbstractItemModel *model, const QModelIndex &top);
+    void printRow(const QModelIndex &name, int level);
 
     QTextStream &m_out;
 };

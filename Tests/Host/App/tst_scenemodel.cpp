@@ -77,6 +77,23 @@ private slots:
         QVERIFY(!m_model->canFetchMore(root));
     }
 
+    void aSceneMayBeDeeperThanTheStack()
+    {
+        m_tester.reset(); // it is not made for that
+        osg::NodePtr deepest = kavoScenegraph::getRoot();
+        for (int depth = 0; depth < 100000; ++depth)
+            deepest = makeGroup(nullptr, deepest);
+        kavoTestLoad::show(kavoScenegraph::getRoot());
+        QVERIFY(m_model->indexOf(deepest).isValid());
+        m_model->setFilter(QString::number(kavoContainers::id(deepest)));
+        QVERIFY(m_model->indexOf(deepest).isValid());
+        m_model->setFilter(QString());
+        while (deepest != kavoScenegraph::getRoot()) { // nodes die by recursion
+            deepest = deepest->getParent();
+            deepest->subChild(osg::UInt32(0));
+        }
+    }
+
     void aNodeIsFoundThoughItsParentsAreClosed()
     {
         const QModelIndex tyre = indexOf("Tyre");
