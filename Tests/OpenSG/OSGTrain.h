@@ -1,0 +1,70 @@
+#pragma once
+
+#include "OSGWagon.h"
+
+#include <OpenSG/OSGAttachmentContainer.h>
+
+OSG_BEGIN_NAMESPACE
+
+class Train;
+typedef FCPtr<AttachmentContainerPtr, Train> TrainPtr;
+
+/// Holds wagons. Pointer fields count no references, so the class does.
+class Train : public AttachmentContainer
+{
+    typedef AttachmentContainer Inherited;
+
+public:
+    typedef TrainPtr Ptr;
+    OSG_FC_FIRST_FIELD_IDM_DECL(WagonsField)
+    OSG_FC_LAST_FIELD_IDM_DECL(WagonsField)
+    OSG_FIELD_CONTAINER_DECL(TrainPtr)
+
+    MFWagonPtr *getMFWagons(void) { return &_mfWagons; }
+    MFWagonPtr &getWagons(void) { return _mfWagons; }
+    void addWagon(const WagonPtr &wagon)
+    {
+        addRefCP(wagon);
+        _mfWagons.push_back(wagon);
+    }
+
+    virtual void dump(UInt32 = 0, const BitVector = 0) const { }
+
+protected:
+    Train(void)
+        : Inherited()
+        , _mfWagons()
+    {
+    }
+    Train(const Train &source)
+        : Inherited(source)
+        , _mfWagons()
+    {
+        for (UInt32 i = 0; i < source._mfWagons.size(); ++i) {
+            addWagon(source._mfWagons[i]);
+        }
+    }
+    virtual ~Train(void)
+    {
+        for (UInt32 i = 0; i < _mfWagons.size(); ++i) {
+            subRefCP(_mfWagons[i]);
+        }
+    }
+
+    virtual void executeSync(FieldContainer &other, const BitVector &which)
+    {
+        Inherited::executeSyncImpl(static_cast<Train *>(&other), which);
+    }
+
+    MFWagonPtr _mfWagons;
+
+private:
+    friend class FieldContainer;
+    static FieldDescription *_desc[];
+    static FieldContainerType _type;
+    void operator=(const Train &);
+};
+
+OSG_FIELD_CONTAINER_INL_DEF(Train, TrainPtr)
+
+OSG_END_NAMESPACE
