@@ -6,6 +6,7 @@
 #include <OpenSG/OSGGroup.h>
 #include <OpenSG/OSGSimpleAttachments.h>
 #include <OpenSG/OSGThread.h>
+#include <OpenSG/OSGThreadManager.h>
 
 #include <QtTest>
 
@@ -95,6 +96,8 @@ private slots:
     void onlySurvivedReleasesAreEntered();
     void aReadOnlyListIgnoresEverything();
     void mergeAppendsAndSwapExchanges();
+    void aListCanBeGivenAnAspect();
+    void thereIsOneAspect();
     void afterTheEndThereIsNone();
 };
 
@@ -318,6 +321,20 @@ void tst_ChangeList::mergeAppendsAndSwapExchanges()
     QCOMPARE(createdIds(), Ids { 7 });
     current().applyAndClear();
     QVERIFY(current().empty());
+}
+
+void tst_ChangeList::aListCanBeGivenAnAspect()
+{
+    const auto list = newList();
+    list->setAspect(1);
+    QCOMPARE(list->getAspect(), UInt32(1));
+}
+
+void tst_ChangeList::thereIsOneAspect()
+{
+    NOT_IN_STOCK("stock 1.8 has two aspects");
+    QCOMPARE(ThreadManager::getNumAspects(), UInt32(1));
+    QCOMPARE(Thread::getAspect(), UInt32(0));
 }
 
 void tst_ChangeList::afterTheEndThereIsNone()

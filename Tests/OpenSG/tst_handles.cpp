@@ -49,6 +49,9 @@ private slots:
     void refPtrHoldsAReference();
     void aCoredNodeHasBoth();
     void pointerTextIsTheAddress();
+    void everyAspectIsTheContainerItself();
+    void aHandleNotesAPositionInItsParent();
+    void freeFunctionsAskAnyHandle();
     void theAddRefOfAnyHandleDropsAReference();
 };
 
@@ -322,6 +325,38 @@ void tst_Handles::pointerTextIsTheAddress()
     QCOMPARE(QString::fromStdString(field.getValueByStr(text)), QString("(nil)"));
     field.setValue(node.get());
     QCOMPARE(QString::fromStdString(field.getValueByStr(text)), addressOf(node.get().getCPtr()));
+}
+
+void tst_Handles::everyAspectIsTheContainerItself()
+{
+    NOT_IN_STOCK("stock 1.8 has a copy of each container for each of its two aspects");
+    const GroupRefPtr group(Group::create());
+    QVERIFY(group.get().getAspectCPtr(0) == group.get().getBaseCPtr());
+    QVERIFY(group.get().getAspectCPtr(1) == group.get().getBaseCPtr());
+    QVERIFY(!GroupPtr().getAspectCPtr(0));
+}
+
+void tst_Handles::aHandleNotesAPositionInItsParent()
+{
+    NodePtr node;
+    QCOMPARE(node.getParentFieldPos(), FieldContainerPtrBase::InvalidParentEPos);
+    node.setParentFieldPos(3);
+    QCOMPARE(node.getParentFieldPos(), UInt16(3));
+    const NodePtr copy = node;
+    QCOMPARE(copy.getParentFieldPos(), UInt16(3));
+    QVERIFY(copy == NullFC);
+}
+
+void tst_Handles::freeFunctionsAskAnyHandle()
+{
+    const GroupRefPtr group(Group::create());
+    QCOMPARE(getContainerId(group.get()), group.get().getFieldContainerId());
+    QCOMPARE(getRefCount(group.get()), 1);
+    QVERIFY(getCPtr(group.get()) == group.get().getCPtr());
+    QVERIFY(dynamic_fcptr_cast<GroupPtr>(FieldContainerPtr(group.get())) == group.get());
+    addRefCP(group.get());
+    subRef(group.get());
+    QCOMPARE(getRefCount(group.get()), 1);
 }
 
 void tst_Handles::theAddRefOfAnyHandleDropsAReference()

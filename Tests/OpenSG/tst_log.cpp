@@ -23,6 +23,7 @@ private slots:
     void withoutHeaderOnlyTheTextIsPrinted();
     void theStreamItselfIgnoresTheLevel();
     void printfLinesOfAnyLength();
+    void plainPrintfIgnoresLevelAndHeader();
     void aHeaderCanBeSwitchedOff();
     void theEnvironmentWinsUnlessForced();
     void aFileIsWritten();
@@ -110,6 +111,13 @@ void tst_Log::printfLinesOfAnyLength()
     const std::string longText(5000, 'x');
     FWARNING(("%s %d\n", longText.c_str(), 7));
     QCOMPARE(m_logged, "WARNING:  " + longText + " 7\n");
+}
+
+void tst_Log::plainPrintfIgnoresLevelAndHeader()
+{
+    osgLog().setLogLevel(LOG_FATAL, true);
+    osgLog().doLog("%s %d\n", "text", 7);
+    QCOMPARE(m_logged, std::string("text 7\n"));
 }
 
 void tst_Log::aHeaderCanBeSwitchedOff()

@@ -35,6 +35,7 @@ private slots:
     void destructionReleasesCoreAndChildren();
     void anActiveNodeHasAllMaskBits();
     void theMaskReadsAsANumber();
+    void theOcclusionMaskIsKept();
     void worldMatricesAreMultipliedFromTheRoot();
     void theVolumeHoldsTheVisibleChildren();
     void theVolumeFollowsTheTransformation();
@@ -200,6 +201,13 @@ void tst_Node::anActiveNodeHasAllMaskBits()
     QCOMPARE(node->getTravMask(), 0u);
     node->setActive(true);
     QCOMPARE(node->getTravMask(), 0xffffffffu);
+}
+
+void tst_Node::theOcclusionMaskIsKept()
+{
+    const NodeRefPtr node(Node::create());
+    node->setOcclusionMask(200);
+    QCOMPARE(node->getOcclusionMask(), UInt8(200));
 }
 
 void tst_Node::theMaskReadsAsANumber()
