@@ -11,7 +11,8 @@ class ChunkMaterial : public ChunkMaterialBase
     typedef ChunkMaterialBase Inherited;
 
 public:
-    /// Appends the chunk; announces no edit. Null is refused with false.
+    /// Appends the chunk; announces no edit. Deliberate: null is
+    /// refused with false, so that whoever walks over the chunks need not expect it.
     bool addChunk(StateChunkPtr chunk, Int32 slot = State::AutoSlotReplace);
     /// Deliberate: true, and a warning, if the chunk was NOT found; false if it was removed.
     bool subChunk(StateChunkPtr chunk, Int32 slot = State::AutoSlotReplace);
