@@ -60,7 +60,6 @@ public:
 
     // Containers carry their reference count and id in a header in front of the object.
     static void *operator new(std::size_t size);
-    static void *operator new(std::size_t, void *place) { return place; }
     static void operator delete(void *container);
 
 protected:

@@ -30,11 +30,9 @@ public:
     void setLogLevel(LogLevel level, bool force = false);
     LogLevel getLogLevel() const { return _level; }
     void setLogType(LogType type, bool force = false);
-    LogType getLogType() const { return _buffer.getType(); }
     /// Opens the file and makes it the log's target.
     void setLogFile(const Char8 *fileName, bool force = false);
     void setHeaderElem(UInt32 mask, bool force = false);
-    UInt32 getHeaderElem() const { return _headerMask; }
     LogBuf &getLogBuf() { return _buffer; }
 
     /// Whether lines of this level are printed.

@@ -18,7 +18,6 @@ public:
     typedef void (*Callback)(const Char8 *data, Int32 size, void *clientData);
 
     void setType(LogType type) { _type = type; }
-    LogType getType() const { return _type; }
     /// Opens the file that LOG_FILE writes to; NULL closes it.
     void setFile(const Char8 *fileName);
 

@@ -17,64 +17,29 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// The parameter class that holds values of the type T.
+template <class ParameterT> struct ShaderParameterIs
+{
+    typedef ParameterT Type;
+};
+
+/// The parameter class that holds values of the type T, as `Type`.
 template <class T> struct ShaderParameterFor;
 
-template <> struct ShaderParameterFor<bool>
-{
-    typedef ShaderParameterBool Type;
-};
-template <> struct ShaderParameterFor<Int32>
-{
-    typedef ShaderParameterInt Type;
-};
-template <> struct ShaderParameterFor<Real32>
-{
-    typedef ShaderParameterReal Type;
-};
-template <> struct ShaderParameterFor<std::string>
-{
-    typedef ShaderParameterString Type;
-};
-template <> struct ShaderParameterFor<Vec2f>
-{
-    typedef ShaderParameterVec2f Type;
-};
-template <> struct ShaderParameterFor<Vec3f>
-{
-    typedef ShaderParameterVec3f Type;
-};
-template <> struct ShaderParameterFor<Vec4f>
-{
-    typedef ShaderParameterVec4f Type;
-};
-template <> struct ShaderParameterFor<Matrix>
-{
-    typedef ShaderParameterMatrix Type;
-};
-template <> struct ShaderParameterFor<MFInt32>
-{
-    typedef ShaderParameterMInt Type;
-};
-template <> struct ShaderParameterFor<MFReal32>
-{
-    typedef ShaderParameterMReal Type;
-};
-template <> struct ShaderParameterFor<MFVec2f>
-{
-    typedef ShaderParameterMVec2f Type;
-};
-template <> struct ShaderParameterFor<MFVec3f>
-{
-    typedef ShaderParameterMVec3f Type;
-};
-template <> struct ShaderParameterFor<MFVec4f>
-{
-    typedef ShaderParameterMVec4f Type;
-};
-template <> struct ShaderParameterFor<MFMatrix>
-{
-    typedef ShaderParameterMMatrix Type;
-};
+// clang-format off
+template <> struct ShaderParameterFor<bool> : ShaderParameterIs<ShaderParameterBool> { };
+template <> struct ShaderParameterFor<Int32> : ShaderParameterIs<ShaderParameterInt> { };
+template <> struct ShaderParameterFor<Real32> : ShaderParameterIs<ShaderParameterReal> { };
+template <> struct ShaderParameterFor<std::string> : ShaderParameterIs<ShaderParameterString> { };
+template <> struct ShaderParameterFor<Vec2f> : ShaderParameterIs<ShaderParameterVec2f> { };
+template <> struct ShaderParameterFor<Vec3f> : ShaderParameterIs<ShaderParameterVec3f> { };
+template <> struct ShaderParameterFor<Vec4f> : ShaderParameterIs<ShaderParameterVec4f> { };
+template <> struct ShaderParameterFor<Matrix> : ShaderParameterIs<ShaderParameterMatrix> { };
+template <> struct ShaderParameterFor<MFInt32> : ShaderParameterIs<ShaderParameterMInt> { };
+template <> struct ShaderParameterFor<MFReal32> : ShaderParameterIs<ShaderParameterMReal> { };
+template <> struct ShaderParameterFor<MFVec2f> : ShaderParameterIs<ShaderParameterMVec2f> { };
+template <> struct ShaderParameterFor<MFVec3f> : ShaderParameterIs<ShaderParameterMVec3f> { };
+template <> struct ShaderParameterFor<MFVec4f> : ShaderParameterIs<ShaderParameterMVec4f> { };
+template <> struct ShaderParameterFor<MFMatrix> : ShaderParameterIs<ShaderParameterMMatrix> { };
+// clang-format on
 
 OSG_END_NAMESPACE

@@ -2,11 +2,18 @@
 
 #include <OpenSG/OSGMatrix.h>
 
+#include <array>
+
 OSG_BEGIN_NAMESPACE
 
 namespace {
 
-constexpr const Char8 *blanks = " \t\n";
+template <class T> std::array<T, 4> readFour(const Char8 *text)
+{
+    std::array<T, 4> numbers;
+    NumberText::readList(text, numbers.data(), 4, " \t\n");
+    return numbers;
+}
 
 template <class T> constexpr T degrees = static_cast<T>(180 / 3.14159265358979323846);
 
@@ -86,9 +93,7 @@ template <class T> void QuaternionBase<T>::setValueAsAxisRad(const T *values)
 
 template <class T> void QuaternionBase<T>::setValueAsAxisRad(const Char8 *text)
 {
-    T numbers[4];
-    NumberText::readList(text, numbers, 4, blanks);
-    setValueAsAxisRad(numbers);
+    setValueAsAxisRad(readFour<T>(text).data());
 }
 
 template <class T> void QuaternionBase<T>::setValueAsAxisDeg(T x, T y, T z, T angle)
@@ -108,9 +113,7 @@ template <class T> void QuaternionBase<T>::setValueAsAxisDeg(const T *values)
 
 template <class T> void QuaternionBase<T>::setValueAsAxisDeg(const Char8 *text)
 {
-    T numbers[4];
-    NumberText::readList(text, numbers, 4, blanks);
-    setValueAsAxisDeg(numbers);
+    setValueAsAxisDeg(readFour<T>(text).data());
 }
 
 template <class T> void QuaternionBase<T>::setValueAsQuat(T x, T y, T z, T w)
@@ -128,7 +131,7 @@ template <class T> void QuaternionBase<T>::setValueAsQuat(const T *values)
 
 template <class T> void QuaternionBase<T>::setValueAsQuat(const Char8 *text)
 {
-    NumberText::readList(text, _values, 4, blanks);
+    setValueAsQuat(readFour<T>(text).data());
 }
 
 template <class T> void QuaternionBase<T>::getValueAsAxisRad(T &x, T &y, T &z, T &angle) const
