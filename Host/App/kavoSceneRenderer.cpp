@@ -5,6 +5,7 @@
 #include "kavoImageConverter.h"
 
 #include <QColor>
+#include <algorithm>
 #include <cstddef>
 #include <stdexcept>
 
@@ -73,6 +74,11 @@ const struct
     { "texCoord", offsetof(Vertex, texCoord), 2 },
 };
 
+// In the order of kavoSceneRenderer::Uniform.
+const char *const uniforms[] = { "toClip", "toWorld", "normalToWorld", "image", "eye", "diffuse",
+    "ambient", "specular", "emission", "shininess", "opacity", "lit", "textured", "lightCount",
+    "lightPosition", "lightColor" };
+
 void build(QOpenGLShaderProgram &program)
 {
     program.addShaderFromSourceCode(QOpenGLShader::Vertex, vertexShader);
@@ -99,6 +105,9 @@ kavoSceneRenderer::kavoSceneRenderer(kavoSceneGeometry &geometry)
     if (!m_gl.initializeOpenGLFunctions())
         throw std::runtime_error("OpenGL 2.1 is missing");
     build(m_program);
+    static_assert(std::size(uniforms) == UniformCount);
+    std::transform(std::begin(uniforms), std::end(uniforms), m_uniforms,
+        [this](const char *name) { return m_program.uniformLocation(name); });
 }
 
 void kavoSceneRenderer::invalidate(const kavoChanges &changes)
@@ -143,8 +152,8 @@ void kavoSceneRenderer::beginFrame(const View &view)
     m_gl.glEnable(GL_DEPTH_TEST);
     m_gl.glPointSize(3);
     m_program.bind();
-    m_program.setUniformValue("image", 0);
-    m_program.setUniformValue("eye", view.eye);
+    m_program.setUniformValue(m_uniforms[Image], 0);
+    m_program.setUniformValue(m_uniforms[Eye], view.eye);
     setLights(view);
 }
 
@@ -156,9 +165,9 @@ void kavoSceneRenderer::setLights(const View &view)
         positions[i] = view.lights[i].position;
         colors[i] = view.lights[i].color;
     }
-    m_program.setUniformValueArray("lightPosition", positions, kavoRenderLights::maximum);
-    m_program.setUniformValueArray("lightColor", colors, kavoRenderLights::maximum);
-    m_program.setUniformValue("lightCount", int(view.lights.size()));
+    m_program.setUniformValueArray(m_uniforms[LightPosition], positions, kavoRenderLights::maximum);
+    m_program.setUniformValueArray(m_uniforms[LightColor], colors, kavoRenderLights::maximum);
+    m_program.setUniformValue(m_uniforms[LightCount], int(view.lights.size()));
 }
 
 void kavoSceneRenderer::drawItems(bool transparent)
@@ -184,22 +193,22 @@ void kavoSceneRenderer::setLook(const kavoMaterialLook &look)
     QOpenGLTexture *image = texture(look.texture);
     if (image)
         image->bind(0);
-    m_program.setUniformValue("textured", image != nullptr);
-    m_program.setUniformValue("diffuse", look.diffuse);
-    m_program.setUniformValue("ambient", look.ambient);
-    m_program.setUniformValue("specular", look.specular);
-    m_program.setUniformValue("emission", look.emission);
-    m_program.setUniformValue("shininess", look.shininess);
-    m_program.setUniformValue("opacity", look.opacity);
-    m_program.setUniformValue("lit", look.lit);
+    m_program.setUniformValue(m_uniforms[Textured], image != nullptr);
+    m_program.setUniformValue(m_uniforms[Diffuse], look.diffuse);
+    m_program.setUniformValue(m_uniforms[Ambient], look.ambient);
+    m_program.setUniformValue(m_uniforms[Specular], look.specular);
+    m_program.setUniformValue(m_uniforms[Emission], look.emission);
+    m_program.setUniformValue(m_uniforms[Shininess], look.shininess);
+    m_program.setUniformValue(m_uniforms[Opacity], look.opacity);
+    m_program.setUniformValue(m_uniforms[Lit], look.lit);
 }
 
 void kavoSceneRenderer::drawMesh(const kavoRenderItem &item)
 {
     Mesh &drawn = mesh(item.geometry);
-    m_program.setUniformValue("toClip", m_viewProjection * item.toWorld);
-    m_program.setUniformValue("toWorld", item.toWorld);
-    m_program.setUniformValue("normalToWorld", item.toWorld.normalMatrix());
+    m_program.setUniformValue(m_uniforms[ToClip], m_viewProjection * item.toWorld);
+    m_program.setUniformValue(m_uniforms[ToWorld], item.toWorld);
+    m_program.setUniformValue(m_uniforms[NormalToWorld], item.toWorld.normalMatrix());
     drawn.buffer.bind();
     for (int i = 0; i < int(std::size(attributes)); ++i) {
         m_program.enableAttributeArray(i);

@@ -35,6 +35,26 @@ public:
     void invalidate();
 
 private:
+    enum Uniform {
+        ToClip,
+        ToWorld,
+        NormalToWorld,
+        Image,
+        Eye,
+        Diffuse,
+        Ambient,
+        Specular,
+        Emission,
+        Shininess,
+        Opacity,
+        Lit,
+        Textured,
+        LightCount,
+        LightPosition,
+        LightColor,
+        UniformCount
+    };
+
     struct Mesh
     {
         QOpenGLBuffer buffer { QOpenGLBuffer::VertexBuffer };
@@ -56,6 +76,7 @@ private:
     kavoSceneGeometry &m_geometry;
     QOpenGLFunctions_2_1 m_gl;
     QOpenGLShaderProgram m_program;
+    int m_uniforms[UniformCount]; // their numbers in the program
     QMatrix4x4 m_viewProjection;
     std::map<osg::UInt32, Mesh> m_meshes; // by geometry
     std::map<osg::UInt32, kavoMaterialLook> m_looks; // by material
