@@ -10,7 +10,7 @@ constexpr int sceneCleared = 0x10;
 constexpr int sceneLoaded = 0x20;
 /// A node is to be shown. Attribute "node": the node, an osg::NodePtr.
 constexpr int nodeShown = 0x100;
-/// Nodes were added, removed or moved. No attributes.
+/// Nodes were added, removed or moved, or got another core. No attributes.
 constexpr int sceneGraphChanged = 0x1000;
 /// kavoScenegraph::getSelectedNode() gives a new answer. No attributes.
 constexpr int selectionChanged = 0x80000;
