@@ -22,7 +22,7 @@ const char *skipDigits(const char *c)
 }
 
 // Digits with at most one separator among them, then perhaps an exponent.
-bool isNumber(const std::string &text, char separator)
+bool hasFormOfNumber(const std::string &text, char separator)
 {
     const char *begin = skipSign(text.c_str());
     const char *end = skipDigits(begin);
@@ -56,7 +56,7 @@ kavoCellText::kavoCellText(char decimalSeparator, bool guardsFormulas)
 
 std::string kavoCellText::encode(const std::string &text) const
 {
-    if (isNumber(text, '.'))
+    if (hasFormOfNumber(text, '.'))
         return replaced(text, '.', m_decimalSeparator);
     return guarded(kavoUtf8::valid(text));
 }
@@ -65,9 +65,14 @@ std::string kavoCellText::decode(const std::string &cell) const
 {
     if (isGuarded(cell))
         return cell.substr(1);
-    if (isNumber(cell, m_decimalSeparator))
+    if (isNumber(cell))
         return replaced(cell, m_decimalSeparator, '.');
     return cell;
+}
+
+bool kavoCellText::isNumber(const std::string &cell) const
+{
+    return hasFormOfNumber(cell, m_decimalSeparator);
 }
 
 std::string kavoCellText::encodeKey(const std::string &key) const
@@ -93,8 +98,8 @@ bool kavoCellText::isGuarded(const std::string &cell) const
 // An apostrophe of the text's own needs one as well, to be told from a guard.
 bool kavoCellText::needsGuard(const std::string &text) const
 {
-    static const std::string starters = "=+-@\t\r'";
+    static const std::string starters = "=+-@\t\r\n'";
     if (text.empty())
         return false;
-    return starters.find(text.front()) != std::string::npos || isNumber(text, m_decimalSeparator);
+    return starters.find(text.front()) != std::string::npos || isNumber(text);
 }

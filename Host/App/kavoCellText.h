@@ -17,8 +17,11 @@ public:
     /// with a decimal comma is taken for one.
     std::string decode(const std::string &cell) const;
 
-    /// The same for keys, at which columns are known again: the bytes of any key come back, and
-    /// none is taken for a number. kavoUtf8::escaped() tells how.
+    /// Whether the cell is a number as encode() writes it.
+    bool isNumber(const std::string &cell) const;
+
+    /// The same as encode() for keys, at which columns are known again: the bytes of any key come
+    /// back, and none is taken for a number. kavoUtf8::escaped() tells how.
     std::string encodeKey(const std::string &key) const;
     std::string decodeKey(const std::string &cell) const;
 

@@ -5,9 +5,7 @@ kavoCsvWriter::kavoCsvWriter(std::ostream &out, const kavoTableOptions &options)
     , m_cellText(options.decimalSeparator, options.guardsFormulas)
     , m_delimiter(options.delimiter)
     , m_startsWithByteOrderMark(options.startsWithByteOrderMark)
-    , m_quotable("\"\r\n")
 {
-    m_quotable += m_delimiter;
 }
 
 const std::vector<std::string> &kavoCsvWriter::fixedColumns()
@@ -46,7 +44,7 @@ void kavoCsvWriter::append(const std::string &text)
 
 void kavoCsvWriter::appendCell(const std::string &cell)
 {
-    if (cell.find_first_of(m_quotable) == std::string::npos) {
+    if (!needsQuotes(cell)) {
         m_line += cell;
     } else {
         m_line += '"';
@@ -55,6 +53,16 @@ void kavoCsvWriter::appendCell(const std::string &cell)
         m_line += '"';
     }
     m_line += m_delimiter;
+}
+
+// Text is split at no other delimiter either: what a spreadsheet takes for a cell of its own might
+// be a formula.
+bool kavoCsvWriter::needsQuotes(const std::string &cell) const
+{
+    if (cell.find_first_of("\"\r\n") != std::string::npos
+        || cell.find(m_delimiter) != std::string::npos)
+        return true;
+    return cell.find_first_of(",;\t") != std::string::npos && !m_cellText.isNumber(cell);
 }
 
 void kavoCsvWriter::endLine()

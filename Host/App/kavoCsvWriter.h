@@ -18,12 +18,12 @@ public:
 private:
     void append(const std::string &text);
     void appendCell(const std::string &cell);
+    bool needsQuotes(const std::string &cell) const;
     void endLine();
 
     std::ostream &m_out;
     kavoCellText m_cellText;
     char m_delimiter;
     bool m_startsWithByteOrderMark;
-    std::string m_quotable; ///< letters that a cell may have only between quotes
     std::string m_line;
 };

@@ -38,12 +38,14 @@ bool kavoTableExport::run(const QString &fileName, const kavoMonitor &monitor)
     const kavoNodePtr kept(m_root); // the monitor may let another scene take its place
     kavoOutputFile file(fileName);
     std::ofstream out(QFile::encodeName(file.path()), std::ios::binary);
+    if (!out)
+        file.fail(errno);
     kavoTaskProgress progress(m_root, 2, monitor);
     if (!collectColumns(progress))
         return false;
     const auto writer = kavoTableWriter::create(out, m_options);
     writer->writeHeader(m_columns.keys());
-    if (!writeRows(*writer, progress))
+    if (!writeRows(out, *writer, progress))
         return false;
     out.close();
     if (!out)
@@ -65,11 +67,13 @@ bool kavoTableExport::collectColumns(kavoTaskProgress &progress)
     return true;
 }
 
-bool kavoTableExport::writeRows(kavoTableWriter &writer, kavoTaskProgress &progress) const
+// Ends at the first error, before the monitor can have one of its own.
+bool kavoTableExport::writeRows(
+    const std::ostream &out, kavoTableWriter &writer, kavoTaskProgress &progress) const
 {
     kavoTableWriter::Cells cells;
     kavoPathWalk walk(m_root);
-    while (walk.next()) {
+    while (out && walk.next()) {
         if (!progress.advance())
             return false;
         const osg::ValuePairBase *pairs = pairsOfRow(walk);

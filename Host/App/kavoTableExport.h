@@ -9,6 +9,8 @@
 
 #include <QString>
 
+#include <ostream>
+
 class kavoPathWalk;
 
 /// Writes the value pairs of a scene as a table that spreadsheets open and kavoTableImport reads
@@ -27,7 +29,8 @@ public:
 
 private:
     bool collectColumns(kavoTaskProgress &progress);
-    bool writeRows(kavoTableWriter &writer, kavoTaskProgress &progress) const;
+    bool writeRows(
+        const std::ostream &out, kavoTableWriter &writer, kavoTaskProgress &progress) const;
     const osg::ValuePairBase *pairsOfRow(const kavoPathWalk &walk) const;
 
     osg::NodePtr m_root;

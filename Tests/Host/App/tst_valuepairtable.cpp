@@ -1,3 +1,4 @@
+#include "kavoFileSizeLimit.h"
 #include "kavoTableFixture.h"
 
 #include <kavoPathWalk.h>
@@ -7,6 +8,7 @@
 #include <QDir>
 #include <QTest>
 
+#include <cerrno>
 #include <memory>
 
 using kavoTestPairs::addNode;
@@ -44,6 +46,7 @@ private slots:
     void theEndingOfTheNameTellsTheFormat();
     void siblingsOfOneNameHaveNumbers();
     void aTableThatCannotBeWrittenIsExplained();
+    void aFailureInTheMiddleLeavesNothing();
     void cancelingLeavesNothing();
 
 private:
@@ -89,7 +92,9 @@ void tst_ValuePairTable::cellsAreQuotedWhereNeedBe_data()
 {
     QTest::addColumn<QByteArray>("value");
     QTest::addColumn<QByteArray>("cell");
-    QTest::newRow("plain") << QByteArray("a b;c") << QByteArray("a b;c");
+    QTest::newRow("plain") << QByteArray("a b:c") << QByteArray("a b:c");
+    QTest::newRow("semicolon") << QByteArray("a;=b") << QByteArray("\"a;=b\"");
+    QTest::newRow("tab") << QByteArray("a\t=b") << QByteArray("\"a\t=b\"");
     QTest::newRow("delimiter") << QByteArray("a,b") << QByteArray("\"a,b\"");
     QTest::newRow("quote") << QByteArray("a\"b") << QByteArray("\"a\"\"b\"");
     QTest::newRow("carriage return") << QByteArray("a\rb") << QByteArray("\"a\rb\"");
@@ -109,7 +114,7 @@ void tst_ValuePairTable::theDelimiterCanBeChosen()
     addNode(m_table->root, "Mast", { { "k", "a,b" }, { "l", "a;b" } });
     QVERIFY(m_table->options.setDelimiter("semicolon"));
     QCOMPARE(m_table->cells(0), QByteArray("k;l"));
-    QCOMPARE(m_table->cells(1), QByteArray("a,b;\"a;b\""));
+    QCOMPARE(m_table->cells(1), QByteArray("\"a,b\";\"a;b\""));
 }
 
 void tst_ValuePairTable::theDelimiterIsKnownByNameOrLetter_data()
@@ -146,7 +151,7 @@ void tst_ValuePairTable::numbersGetTheDecimalSeparator_data()
     QTest::newRow("version") << QByteArray("1.2.3") << QByteArray("1.2.3");
     QTest::newRow("point") << QByteArray(".") << QByteArray(".");
     QTest::newRow("vector") << QByteArray("1.5 2.5") << QByteArray("1.5 2.5");
-    QTest::newRow("no number with comma") << QByteArray("1,5") << QByteArray("'1,5");
+    QTest::newRow("no number with comma") << QByteArray("1,5") << QByteArray("\"'1,5\"");
 }
 
 void tst_ValuePairTable::numbersGetTheDecimalSeparator()
@@ -167,7 +172,8 @@ void tst_ValuePairTable::formulasAreGuarded_data()
     QTest::newRow("plus") << QByteArray("+A1") << QByteArray("'+A1");
     QTest::newRow("minus") << QByteArray("-1+cmd|'/C x'") << QByteArray("'-1+cmd|'/C x'");
     QTest::newRow("at sign") << QByteArray("@SUM(A1)") << QByteArray("'@SUM(A1)");
-    QTest::newRow("tab") << QByteArray("\t=1") << QByteArray("'\t=1");
+    QTest::newRow("tab") << QByteArray("\t=1") << QByteArray("\"'\t=1\"");
+    QTest::newRow("newline") << QByteArray("\n=1") << QByteArray("\"'");
     QTest::newRow("apostrophe") << QByteArray("'a") << QByteArray("''a");
     QTest::newRow("negative number") << QByteArray("-1.5e3") << QByteArray("-1.5e3");
     QTest::newRow("later") << QByteArray("a=1") << QByteArray("a=1");
@@ -308,6 +314,19 @@ void tst_ValuePairTable::aTableThatCannotBeWrittenIsExplained()
     }
 }
 
+void tst_ValuePairTable::aFailureInTheMiddleLeavesNothing()
+{
+    addNode(m_table->root, "Mast", { { "k", std::string(3 << 20, 'x') } });
+    const kavoFileSizeLimit limit(1 << 20);
+    try {
+        m_table->exported();
+        QFAIL("no error");
+    } catch (const kavoTaskError &error) {
+        QVERIFY(error.message().endsWith(qt_error_string(EFBIG)));
+    }
+    QVERIFY(QDir(m_table->folder.path()).entryList(QDir::Files | QDir::Hidden).isEmpty());
+}
+
 void tst_ValuePairTable::cancelingLeavesNothing()
 {
     for (int i = 0; i < 3000; ++i)
@@ -316,7 +335,7 @@ void tst_ValuePairTable::cancelingLeavesNothing()
     const auto cancel = [&](int) { return ++calls < 5; }; // while the rows are written
     QVERIFY(!kavoTableExport(m_table->root, m_table->options).run(m_table->path(), cancel));
     QCOMPARE(calls, 5);
-    QVERIFY(QDir(m_table->folder.path()).isEmpty());
+    QVERIFY(QDir(m_table->folder.path()).entryList(QDir::Files | QDir::Hidden).isEmpty());
 }
 
 KAVO_TEST_MAIN(tst_ValuePairTable)
