@@ -30,8 +30,7 @@ void kavoExportActions::exportValuePairs()
     kavoValuePairExportDialog dialog(m_window);
     if (dialog.exec() != QDialog::Accepted)
         return;
-    const QString file = QFileDialog::getSaveFileName(
-        m_window, dialog.windowTitle(), QString(), tr("Comma-separated values (*.csv)"));
+    const QString file = askForFile(dialog.windowTitle(), kavoTableOptions::Csv);
     if (file.isEmpty())
         return;
     run(dialog.windowTitle(), [&](const kavoMonitor &monitor) {
@@ -46,9 +45,7 @@ void kavoExportActions::exportTable()
     if (dialog.exec() != QDialog::Accepted)
         return;
     const kavoTableOptions options = dialog.options();
-    const bool isJson = options.format == kavoTableOptions::JsonLines;
-    const QString file = QFileDialog::getSaveFileName(m_window, dialog.windowTitle(), QString(),
-        isJson ? tr("JSON Lines (*.jsonl)") : tr("Comma-separated values (*.csv)"));
+    const QString file = askForFile(dialog.windowTitle(), options.format);
     if (file.isEmpty())
         return;
     run(dialog.windowTitle(), [&](const kavoMonitor &monitor) {
@@ -66,12 +63,22 @@ void kavoExportActions::importTable()
     if (dialog.exec() != QDialog::Accepted)
         return;
     run(dialog.windowTitle(), [&](const kavoMonitor &monitor) {
-        const auto report = kavoTableImport::run(
-            kavoScenegraph::getRoot(), file, dialog.options(file), monitor);
+        const auto report
+            = kavoTableImport::run(kavoScenegraph::getRoot(), file, dialog.options(file), monitor);
         if (report)
             show(*report);
         return report.has_value();
     });
+}
+
+QString kavoExportActions::askForFile(const QString &title, kavoTableOptions::Format format)
+{
+    const bool isJson = format == kavoTableOptions::JsonLines;
+    QFileDialog dialog(m_window, title, QString(),
+        isJson ? tr("JSON Lines (*.jsonl)") : tr("Comma-separated values (*.csv)"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(isJson ? QStringLiteral("jsonl") : QStringLiteral("csv"));
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().first() : QString();
 }
 
 void kavoExportActions::run(

@@ -32,6 +32,8 @@ private:
     void exportValuePairs();
     void exportTable();
     void importTable();
+    /// Where to export to, empty if the user cancels.
+    QString askForFile(const QString &title, kavoTableOptions::Format format);
 
     QWidget *m_window;
 };

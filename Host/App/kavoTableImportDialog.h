@@ -13,6 +13,7 @@ class kavoTableImportDialog : public kavoTaskDialog
 public:
     explicit kavoTableImportDialog(QWidget *parent = nullptr);
 
+    /// Options for reading that file.
     kavoTableOptions options(const QString &fileName) const;
 
 private:

@@ -2,6 +2,7 @@
 
 #include <kavoConsoleCapture.h>
 #include <kavoExportActions.h>
+#include <kavoMainWindow.h>
 #include <kavoRealInput.h>
 #include <kavoScenegraph.h>
 #include <kavoTaskError.h>
@@ -107,8 +108,11 @@ private slots:
     void withoutASelectionOnlyTheSceneCanBeExported();
     void aTableIsExportedAsChosen();
     void aTableIsImported();
+    void jsonLinesWithoutAnEndingCanBeImportedAgain();
     void rowsWithoutAPlaceAreShown();
     void aFailureIsSignaled();
+    void theMainWindowSaysWhyAFileCannotBeWritten_data();
+    void theMainWindowSaysWhyAFileCannotBeWritten();
     void theProgressDialogCancels();
 
 private:
@@ -211,6 +215,25 @@ void tst_ExportActions::aTableIsImported()
     box->close();
 }
 
+void tst_ExportActions::jsonLinesWithoutAnEndingCanBeImportedAgain()
+{
+    m_user->willDo([](QDialog &dialog) {
+        dialog.findChildren<QComboBox *>().at(0)->setCurrentText("JSON Lines");
+        accept(dialog);
+    });
+    m_user->willDo(chooseFile(m_table->path("t")));
+    m_user->trigger(*m_menu, "Table...");
+    QVERIFY(written("t.jsonl").endsWith("\"values\":{\"color\":\"red\"}}\n"));
+    QVERIFY(QFile::rename(m_table->path("t.jsonl"), m_table->path("t.txt")));
+    kavoTestPairs::attachment(m_mast)->getValues()[0] = "blue";
+    m_user->willDo(chooseFile(m_table->path("t.txt")));
+    m_user->willDo([](QDialog &dialog) { accept(dialog); });
+    m_user->trigger(*m_menu, "Import Table...");
+    QVERIFY(m_user->isDone());
+    QVERIFY(kavoTestPairs::of(m_mast) == (std::vector<kavoTestPairs::Pair> { { "color", "red" } }));
+    kavoTestHost::mainWindow().findChild<QMessageBox *>()->close();
+}
+
 void tst_ExportActions::rowsWithoutAPlaceAreShown()
 {
     kavoTableImport::Report report;
@@ -229,6 +252,28 @@ void tst_ExportActions::aFailureIsSignaled()
     m_actions->run("Try", [](const kavoMonitor &) -> bool { throw kavoTaskError("no way"); });
     QCOMPARE(failed.size(), 1);
     QCOMPARE(failed[0][0].toString(), QString("no way"));
+}
+
+void tst_ExportActions::theMainWindowSaysWhyAFileCannotBeWritten_data()
+{
+    QTest::addColumn<QString>("action");
+    QTest::newRow("value pairs") << "Value Pairs (CSV)...";
+    QTest::newRow("table") << "Table...";
+}
+
+void tst_ExportActions::theMainWindowSaysWhyAFileCannotBeWritten()
+{
+    kavoMainWindow window;
+    kavoScenegraph::setRoot(m_table->root);
+    const QString file = m_table->path("no such folder/a.csv");
+    m_user->willDo([](QDialog &dialog) { accept(dialog); });
+    m_user->willDo(chooseFile(file));
+    QFETCH(QString, action);
+    m_user->trigger(*window.menuBar()->findChild<QMenu *>(), action);
+    QVERIFY(m_user->isDone());
+    auto *box = window.findChild<QMessageBox *>();
+    QVERIFY(box && box->isVisible());
+    QCOMPARE(box->text(), "Cannot write '" + file + "': No such file or directory");
 }
 
 void tst_ExportActions::theProgressDialogCancels()
