@@ -1,5 +1,7 @@
 #include "kavoValuePairs.h"
 
+#include <algorithm>
+
 namespace {
 
 osg::ValuePairBasePtr find(const osg::NodePtr &node)
@@ -55,8 +57,10 @@ void kavoValuePairs::append(
         = osg::ValuePairBase::KeysFieldMask | osg::ValuePairBase::ValuesFieldMask;
     const osg::ValuePairBasePtr pairs = findOrAttach(node);
     osg::beginEditCP(pairs, both);
-    pairs->getValues().resize(pairs->getKeys().size()); // what stands there without a key is none
+    const std::size_t count = pairs->getKeys().size();
+    std::vector<std::string> &values = pairs->getValues().getValues();
+    values.resize(std::max(values.size(), count));
+    values.insert(values.begin() + std::ptrdiff_t(count), value);
     pairs->getKeys().push_back(key);
-    pairs->getValues().push_back(value);
     osg::endEditCP(pairs, both);
 }

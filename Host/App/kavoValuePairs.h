@@ -19,6 +19,6 @@ public:
     /// Changes the value of the pair with that index.
     static void setValue(const osg::NodePtr &node, int index, const std::string &value);
 
-    /// Adds a pair behind those that the node has.
+    /// Adds a pair behind those that the node has. Values for which there was no key stay so.
     static void append(const osg::NodePtr &node, const std::string &key, const std::string &value);
 };
