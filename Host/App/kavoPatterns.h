@@ -15,7 +15,6 @@ public:
     explicit kavoPatterns(const QString &patterns = QString());
 
     bool matches(const std::string &text) const;
-    bool matchEverything() const { return m_patterns.isEmpty(); }
 
 private:
     QList<QRegExp> m_patterns;

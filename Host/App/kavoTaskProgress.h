@@ -18,8 +18,6 @@ public:
     /// \returns false once the monitor has canceled the task
     bool advance(unsigned nodes = 1);
 
-    bool isCanceled() const { return m_isCanceled; }
-
 private:
     kavoMonitor m_monitor;
     unsigned m_total = 0;
