@@ -12,7 +12,6 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <cerrno>
 #include <memory>
 
 using kavoTestPairs::addNode;
@@ -57,10 +56,6 @@ private slots:
     void thePrintedLinesTellOfCreationAndEnd();
     void creatingByNamePrintsTheDestructorsLineToo();
     void thereAreNoParameters();
-    void aFileThatCannotBeOpenedIsToldOnStandardOutput();
-    void aFullDiskIsToldByTheSaveError();
-    void theMonitorIsCalledNowAndThen();
-    void theMonitorEndsTheTraversal();
 
 private:
     void traverse();
@@ -314,45 +309,6 @@ void tst_ValuePairCsv::thereAreNoParameters()
 {
     m_creator->setParams("csvtype=true");
     QCOMPARE(m_creator->usage(), std::string());
-}
-
-void tst_ValuePairCsv::aFileThatCannotBeOpenedIsToldOnStandardOutput()
-{
-    addNode(m_root, "a", { { "k", "1" } });
-    traverse();
-    QVERIFY(m_creator->save(m_folder.filePath("no/such/folder.csv").toStdString()));
-    QCOMPARE(m_console->text(), constructorLine + "File could not be opened\n");
-    QCOMPARE(m_creator->saveError(), ENOENT);
-    QCOMPARE(saved(), QByteArray("nodes\\keys,k,\n"));
-    QCOMPARE(m_creator->saveError(), 0);
-}
-
-void tst_ValuePairCsv::aFullDiskIsToldByTheSaveError()
-{
-    traverse();
-    QVERIFY(m_creator->save("/dev/full"));
-    QCOMPARE(m_creator->saveError(), ENOSPC);
-}
-
-void tst_ValuePairCsv::theMonitorIsCalledNowAndThen()
-{
-    for (osg::UInt32 i = 0; i < 2 * ValuePairCSVCreator::monitorInterval; ++i)
-        addNode(m_root, nullptr);
-    int calls = 0;
-    m_creator->setMonitor([&] { return ++calls > 0; });
-    traverse();
-    QCOMPARE(calls, 2);
-}
-
-void tst_ValuePairCsv::theMonitorEndsTheTraversal()
-{
-    for (osg::UInt32 i = 0; i < 2 * ValuePairCSVCreator::monitorInterval; ++i)
-        addNode(m_root, nullptr);
-    int calls = 0;
-    m_creator->setMonitor([&] { return ++calls < 1; });
-    osg::NodePtr root = m_root;
-    QVERIFY(!static_cast<osg::GraphOp &>(*m_creator).traverse(root));
-    QCOMPARE(calls, 1);
 }
 
 KAVO_TEST_MAIN(tst_ValuePairCsv)

@@ -142,12 +142,13 @@ bool ValuePairCSVCreator::save(const std::string &fileName)
 {
     errno = 0;
     std::ofstream file(fileName);
-    if (file.good())
+    const bool isOpen = file.good();
+    if (isOpen)
         m_table.write(file, UInt32(m_rowTotal));
-    else
-        std::cout << "File could not be opened" << std::endl;
     file.close();
     m_saveError = file.good() ? 0 : (errno ? errno : EIO);
+    if (!isOpen)
+        std::cout << "File could not be opened" << std::endl;
     m_rowCount = 0;
     m_rowTotal = 0;
     return true;

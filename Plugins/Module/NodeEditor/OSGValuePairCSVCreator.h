@@ -9,7 +9,7 @@
 #include <functional>
 #include <string>
 
-#define VALUE_PAIR_CSV_EXPORT __attribute__((visibility("default")))
+#define OSG_VALUE_PAIR_CSV_EXPORT __attribute__((visibility("default")))
 
 OSG_BEGIN_NAMESPACE
 
@@ -23,7 +23,7 @@ OSG_BEGIN_NAMESPACE
 /// Nodes without a core are passed over, null nodes too. A row comes out only if it has a value
 /// pair or one of the following rows does. Nothing is quoted; a newline in a value becomes a blank
 /// and swallows the byte that follows it.
-class VALUE_PAIR_CSV_EXPORT ValuePairCSVCreator : public SingleTypeGraphOp<NodeCore>
+class OSG_VALUE_PAIR_CSV_EXPORT ValuePairCSVCreator : public SingleTypeGraphOp<NodeCore>
 {
 public:
     explicit ValuePairCSVCreator(const char *name);
@@ -40,7 +40,8 @@ public:
     void setCsvType(bool takesAllNodes);
 
     /// A function that is called now and then during a traversal, every monitorInterval nodes.
-    /// When it returns false, the traversal ends, with false. None by default.
+    /// When it returns false, the traversal ends, with false, and so does every later one until a
+    /// monitor is set again. None by default.
     void setMonitor(std::function<bool()> monitor);
     static constexpr UInt32 monitorInterval = 1024;
 
