@@ -122,6 +122,7 @@ void TestNodeEditor::itDocksItsWindowInTheSceneGroup()
     QCOMPARE(docks.group("Node Editor"), QString("Scene"));
     QCOMPARE(docks.hintKey("Node Editor"), QString("Hintcard_Attributes"));
     QCOMPARE(docks.toggleAction("Node Editor")->text(), QString("Attributes"));
+    QVERIFY(!docks.toggleAction("Node Editor")->icon().isNull());
     QCOMPARE(docks.toggleAction("Node Editor")->icon().pixmap(16).toImage(),
         kavoIconManager::getIcon("ModuleNodeEditor", "").pixmap(16).toImage());
 }
