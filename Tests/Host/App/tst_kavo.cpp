@@ -20,6 +20,8 @@ private slots:
     void aFullDiskFailsTheJob();
     void theSceneWindowIsPrinted();
     void theNodeEditorIsPrintedForTheSelectedNode();
+    void nodesOfEveryFormatAreShownInTheNodeEditor_data();
+    void nodesOfEveryFormatAreShownInTheNodeEditor();
     void aNodeCanBeSelectedByItsId();
     void aScreenshotIsWritten();
     void theSceneIsSavedAndOpensAgain();
@@ -169,6 +171,51 @@ void tst_kavo::theNodeEditorIsPrintedForTheSelectedNode()
     QVERIFY(result.output.contains("\n  core Geometry ("));
     QVERIFY(result.output.contains("\n    material ChunkMaterial ("));
     QVERIFY(result.output.contains("\n       MaterialChunk ("));
+}
+
+void tst_kavo::nodesOfEveryFormatAreShownInTheNodeEditor_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QString>("node");
+    QTest::addColumn<QStringList>("rows"); // in their order, perhaps with others in between
+    const QStringList nodeRows { R"(  volume\t.+)", R"(  travMask\t-1)", R"(  parent\t\d+)" };
+    QTest::newRow("Collada, a light") << "Collada/lights.dae"
+                                      << "Lamp"
+                                      << QStringList { R"(Lamp Node \(\d+\)\t)" } + nodeRows
+            + QStringList { R"(  children\t<size = 1>)", R"(  core PointLight \(\d+\)\t)",
+                  R"(    diffuse\t1\.00 1\.00 1\.00 1\.00)", R"(    beacon Node \(\d+\)\t)",
+                  R"(          name\t"Lamp-beacon")", R"(    on\tTrue)" };
+    QTest::newRow("IFC, a geometry without a name")
+        << "IFC/AC14-FZK-Haus.ifc"
+        << "Geometry"
+        << QStringList { R"(Geometry Node \(\d+\)\t)" } + nodeRows
+            + QStringList { R"(  children\t<size = 0>)", R"(  core Geometry \(\d+\)\t)",
+                  R"(    material ChunkMaterial \(\d+\)\t)", R"(       MaterialChunk \(\d+\)\t)",
+                  R"(    positions GeoPositions3f \(\d+\)\t)" };
+    QTest::newRow("FBX, a node with properties")
+        << "FBX/spider.fbx"
+        << "OK"
+        << QStringList { R"(OK Node \(\d+\)\t)", R"(    1 ValuePairBase \(\d+\)\t)",
+               R"(      keys\t"UserProperties", "IsNull", "DefaultAttributeIndex", "InheritType")",
+               R"(      values\t"", "false", "0", "1")" }
+            + nodeRows + QStringList { R"(  core Transform \(\d+\)\t)", R"(    matrix\t.+)" };
+}
+
+void tst_kavo::nodesOfEveryFormatAreShownInTheNodeEditor()
+{
+    QFETCH(QString, file);
+    QFETCH(QString, node);
+    QFETCH(QStringList, rows);
+    const Result result
+        = run({ KAVO_TEST_MODELS "/" + file, "--select", node, "--print-window", "Node Editor" });
+    QCOMPARE(result.exitCode, 0);
+    const QStringList lines = result.output.split('\n');
+    int at = 0;
+    for (const QString &row : qAsConst(rows)) {
+        const QRegularExpression expected(QRegularExpression::anchoredPattern(row));
+        at = lines.indexOf(expected, at) + 1;
+        QVERIFY2(at > 0, qPrintable(row + " is not next in\n" + result.output));
+    }
 }
 
 void tst_kavo::aNodeCanBeSelectedByItsId()
