@@ -5,11 +5,19 @@
 #include <QString>
 #include <assimp/scene.h>
 
+#include <limits>
+
 namespace {
 
-std::string number(double value)
+// As few digits as tell the number from all others of its type.
+template <class Number> std::string number(Number value)
 {
-    return QString::number(value).toStdString();
+    using Limits = std::numeric_limits<Number>;
+    int digits = Limits::digits10;
+    QString text = QString::number(double(value), 'g', digits);
+    while (Number(text.toDouble()) != value && digits < Limits::max_digits10)
+        text = QString::number(double(value), 'g', ++digits);
+    return text.toStdString();
 }
 
 std::string toText(const aiVector3D &v)
@@ -32,7 +40,7 @@ std::string toText(const aiMetadataEntry &entry)
     case AI_UINT64:
         return std::to_string(valueOf<uint64_t>(entry));
     case AI_FLOAT:
-        return number(double(valueOf<float>(entry)));
+        return number(valueOf<float>(entry));
     case AI_DOUBLE:
         return number(valueOf<double>(entry));
     case AI_AISTRING:

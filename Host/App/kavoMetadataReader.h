@@ -8,7 +8,7 @@ struct aiMetadata;
 class kavoMetadataReader
 {
 public:
-    /// Adds an osg::ValuePairBase with one pair for each entry, values as text; nothing where
-    /// there are no entries.
+    /// Adds an osg::ValuePairBase with one pair for each entry, values as text, of which
+    /// numbers read back are the same; nothing where there are no entries.
     static void attach(const osg::NodePtr &node, const aiMetadata *metadata);
 };
