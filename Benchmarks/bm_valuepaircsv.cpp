@@ -142,18 +142,21 @@ void bench(const Size &size)
     BenchTable::figure((name + ": gather").c_str(), ours.gather, "ms");
 }
 
-// Four times the nodes, and so four times the cells, may take four times as long.
+double timeFor(const Size &size)
+{
+    const Cost cost = measure(makeScene(size), 5,
+        [] { return std::make_unique<ValuePairCSVCreator>("ValuePairCSVCreator"); });
+    return cost.gather + cost.save;
+}
+
+// Four times the cells may take four times as long, be there more nodes or more keys in each.
 void benchGrowth()
 {
-    double times[2];
-    for (int i = 0; i < 2; ++i) {
-        const Size size { "", i == 0 ? 50000 : 200000, 100, 10 };
-        const kavoNodePtr root = makeScene(size);
-        const Cost cost = measure(
-            root, 5, [] { return std::make_unique<ValuePairCSVCreator>("ValuePairCSVCreator"); });
-        times[i] = cost.gather + cost.save;
-    }
-    BenchTable::atMost("200,000 nodes to 50,000, 100 keys, 10 a node", times[1], times[0], 5, "ms");
+    const double time = timeFor({ "", 50000, 100, 10 });
+    BenchTable::atMost("200,000 nodes to 50,000, 100 keys, 10 a node",
+        timeFor({ "", 200000, 100, 10 }), time, 5, "ms");
+    BenchTable::atMost("400 keys, 40 a node, to 100 keys, 10 a node, 50,000 nodes",
+        timeFor({ "", 50000, 400, 40 }), time, 5, "ms");
 }
 
 }
