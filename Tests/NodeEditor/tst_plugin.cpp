@@ -20,6 +20,7 @@ private slots:
     void initPluginIsTheOnlyFunctionExported();
     void loadingAloneMakesNoModule();
     void loadingBringsTheValuePairOperationAlong();
+    void anExceptionLeavesInitPluginAndTheNextCallTriesAgain();
     void initPluginMakesTheModule();
     void initPluginTwiceMakesOneModuleAndOneWindow();
     void theTypeOfTheStoredModuleIsTheEditor();
@@ -69,6 +70,23 @@ void TestPlugin::loadingBringsTheValuePairOperationAlong()
     void *operation = ::dlopen("libValuePairCSVCreator.so", RTLD_NOW | RTLD_NOLOAD);
     QVERIFY2(operation, "no such library is loaded");
     ::dlclose(operation);
+}
+
+// The window was complete when the host threw: it stays, and goes with the main window.
+void TestPlugin::anExceptionLeavesInitPluginAndTheNextCallTriesAgain()
+{
+    const auto initPlugin = reinterpret_cast<InitPlugin>(m_library.resolve("initPlugin"));
+    const auto throwing = connect(
+        &kavoTestHost::docks(), &QKAVODockWindowManager::windowsChanged, this, [] { throw 1; });
+    for (int i = 0; i < 2; ++i) {
+        QVERIFY_EXCEPTION_THROWN(initPlugin(), int);
+        QVERIFY(kavoModuleBase::modules().empty());
+        QWidget *window = kavoTestHost::docks().window("Node Editor");
+        QVERIFY(kavoTestHost::mainWindow().isAncestorOf(window));
+        const QSignalBlocker silent(kavoTestHost::docks());
+        delete window;
+    }
+    disconnect(throwing);
 }
 
 void TestPlugin::initPluginMakesTheModule()
