@@ -16,7 +16,7 @@
 #include <QtTest>
 
 // Both custom editors in rows of the real property tree.
-class tst_RowEditorsOnScreen : public QObject
+class TestRowEditorsOnScreen : public QObject
 {
     Q_OBJECT
 private slots:
@@ -50,7 +50,7 @@ private:
     QtProperty *m_diffuse = nullptr;
 };
 
-void tst_RowEditorsOnScreen::initTestCase()
+void TestRowEditorsOnScreen::initTestCase()
 {
     QCoreApplication::setOrganizationName("kavotest");
     QCoreApplication::setApplicationName("roweditorsonscreen");
@@ -58,7 +58,7 @@ void tst_RowEditorsOnScreen::initTestCase()
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_settings.path());
 }
 
-void tst_RowEditorsOnScreen::init()
+void TestRowEditorsOnScreen::init()
 {
     m_browser = new QtTreePropertyBrowser;
     m_enums = new QtGLenumPropertyManager(m_browser);
@@ -77,19 +77,19 @@ void tst_RowEditorsOnScreen::init()
     QVERIFY(QTest::qWaitForWindowActive(m_browser));
 }
 
-void tst_RowEditorsOnScreen::cleanup()
+void TestRowEditorsOnScreen::cleanup()
 {
     delete m_browser;
 }
 
-void tst_RowEditorsOnScreen::clickValue(int row)
+void TestRowEditorsOnScreen::clickValue(int row)
 {
     const QTreeWidget *view = tree();
     const QRect rect = view->visualRect(view->model()->index(row, 1));
     kavoRealInput::click(view->viewport()->mapToGlobal(rect.center()));
 }
 
-void tst_RowEditorsOnScreen::anEnumerationIsChosenWithTheMouse()
+void TestRowEditorsOnScreen::anEnumerationIsChosenWithTheMouse()
 {
     clickValue(0);
     auto *editor = qobject_cast<QComboBox *>(QApplication::focusWidget());
@@ -104,7 +104,7 @@ void tst_RowEditorsOnScreen::anEnumerationIsChosenWithTheMouse()
     QCOMPARE(valueText(0), QStringLiteral("GL_LINEAR"));
 }
 
-void tst_RowEditorsOnScreen::anEnumerationIsChosenWithTheKeyboard()
+void TestRowEditorsOnScreen::anEnumerationIsChosenWithTheKeyboard()
 {
     clickValue(0);
     kavoRealInput::press({ "alt+Down", "Down", "Down", "Return" });
@@ -114,7 +114,7 @@ void tst_RowEditorsOnScreen::anEnumerationIsChosenWithTheKeyboard()
     QCOMPARE(valueText(0), QStringLiteral("GL_NEAREST_MIPMAP_NEAREST"));
 }
 
-void tst_RowEditorsOnScreen::aColorIsChosenWithTheMouse()
+void TestRowEditorsOnScreen::aColorIsChosenWithTheMouse()
 {
     clickValue(1);
     QVERIFY(picker());
@@ -128,7 +128,7 @@ void tst_RowEditorsOnScreen::aColorIsChosenWithTheMouse()
     QVERIFY(popup()->isVisible());
 }
 
-void tst_RowEditorsOnScreen::aColorIsChosenWithTheKeyboard()
+void TestRowEditorsOnScreen::aColorIsChosenWithTheKeyboard()
 {
     clickValue(1);
     kavoRealInput::press({ "alt+Down" });
@@ -139,7 +139,7 @@ void tst_RowEditorsOnScreen::aColorIsChosenWithTheKeyboard()
     QVERIFY(!popup()->isVisible());
 }
 
-void tst_RowEditorsOnScreen::escapeInThePopupKeepsTheEditorAndTheOldColor()
+void TestRowEditorsOnScreen::escapeInThePopupKeepsTheEditorAndTheOldColor()
 {
     clickValue(1);
     kavoRealInput::press({ "space" });
@@ -154,7 +154,7 @@ void tst_RowEditorsOnScreen::escapeInThePopupKeepsTheEditorAndTheOldColor()
     QVERIFY(tree()->hasFocus());
 }
 
-void tst_RowEditorsOnScreen::enterInTheEditorClosesIt()
+void TestRowEditorsOnScreen::enterInTheEditorClosesIt()
 {
     clickValue(1);
     QVERIFY(picker());
@@ -163,7 +163,7 @@ void tst_RowEditorsOnScreen::enterInTheEditorClosesIt()
     QCOMPARE(m_colors->value(m_diffuse).a, 0.5f);
 }
 
-void tst_RowEditorsOnScreen::anotherRowEndsTheEditing()
+void TestRowEditorsOnScreen::anotherRowEndsTheEditing()
 {
     clickValue(1);
     kavoRealInput::press({ "F4", "Escape" });
@@ -172,7 +172,7 @@ void tst_RowEditorsOnScreen::anotherRowEndsTheEditing()
     QVERIFY(qobject_cast<QComboBox *>(QApplication::focusWidget()));
 }
 
-void tst_RowEditorsOnScreen::removingThePropertyClosesThePopup()
+void TestRowEditorsOnScreen::removingThePropertyClosesThePopup()
 {
     clickValue(1);
     kavoRealInput::press({ "alt+Down" });
@@ -184,5 +184,5 @@ void tst_RowEditorsOnScreen::removingThePropertyClosesThePopup()
     QVERIFY(qobject_cast<QComboBox *>(QApplication::focusWidget()));
 }
 
-QTEST_MAIN(tst_RowEditorsOnScreen)
+QTEST_MAIN(TestRowEditorsOnScreen)
 #include "tst_roweditorsonscreen.moc"

@@ -10,7 +10,7 @@
 #include <QVBoxLayout>
 #include <QtTest>
 
-class tst_ColorManipulatorOnScreen : public QObject
+class TestColorManipulatorOnScreen : public QObject
 {
     Q_OBJECT
 private slots:
@@ -36,7 +36,7 @@ private:
     QKAVOColorManipulator *m_picker = nullptr;
 };
 
-void tst_ColorManipulatorOnScreen::initTestCase()
+void TestColorManipulatorOnScreen::initTestCase()
 {
     QCoreApplication::setOrganizationName("kavotest");
     QCoreApplication::setApplicationName("colormanipulatoronscreen");
@@ -44,7 +44,7 @@ void tst_ColorManipulatorOnScreen::initTestCase()
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_settings.path());
 }
 
-void tst_ColorManipulatorOnScreen::init()
+void TestColorManipulatorOnScreen::init()
 {
     m_window = new QWidget;
     m_target = new QWidget(m_window);
@@ -61,18 +61,18 @@ void tst_ColorManipulatorOnScreen::init()
     QVERIFY(QTest::qWaitForWindowActive(m_window));
 }
 
-void tst_ColorManipulatorOnScreen::cleanup()
+void TestColorManipulatorOnScreen::cleanup()
 {
     delete m_window;
 }
 
-void tst_ColorManipulatorOnScreen::open()
+void TestColorManipulatorOnScreen::open()
 {
     kavoRealInput::press({ "alt+Down" });
     QTRY_VERIFY(child("colorPopup") && child("colorPopup")->isVisible());
 }
 
-void tst_ColorManipulatorOnScreen::aSecondClickClosesThePopup()
+void TestColorManipulatorOnScreen::aSecondClickClosesThePopup()
 {
     kavoRealInput::click(m_picker);
     QTRY_VERIFY(child("colorPopup") && child("colorPopup")->isVisible());
@@ -80,7 +80,7 @@ void tst_ColorManipulatorOnScreen::aSecondClickClosesThePopup()
     QTRY_VERIFY(!child("colorPopup")->isVisible());
 }
 
-void tst_ColorManipulatorOnScreen::aClickOutsideKeepsTheColor()
+void TestColorManipulatorOnScreen::aClickOutsideKeepsTheColor()
 {
     open();
     kavoRealInput::type("#00ff00");
@@ -89,7 +89,7 @@ void tst_ColorManipulatorOnScreen::aClickOutsideKeepsTheColor()
     QCOMPARE(m_picker->getColor()[0], 120.0f);
 }
 
-void tst_ColorManipulatorOnScreen::focusReturnsWhenThePopupCloses()
+void TestColorManipulatorOnScreen::focusReturnsWhenThePopupCloses()
 {
     open();
     QVERIFY(!m_picker->hasFocus());
@@ -98,7 +98,7 @@ void tst_ColorManipulatorOnScreen::focusReturnsWhenThePopupCloses()
     open();
 }
 
-void tst_ColorManipulatorOnScreen::tabGoesThroughTheFields()
+void TestColorManipulatorOnScreen::tabGoesThroughTheFields()
 {
     QSettings().setValue("ColorPicker/recent", QVariantList { QColor(Qt::red) });
     open();
@@ -113,7 +113,7 @@ void tst_ColorManipulatorOnScreen::tabGoesThroughTheFields()
     QCOMPARE(QApplication::focusWidget(), child("hex"));
 }
 
-void tst_ColorManipulatorOnScreen::thePopupStaysOnTheScreen()
+void TestColorManipulatorOnScreen::thePopupStaysOnTheScreen()
 {
     const QRect available = m_window->screen()->availableGeometry();
     m_window->move(available.bottomRight() - QPoint(220, 60));
@@ -123,7 +123,7 @@ void tst_ColorManipulatorOnScreen::thePopupStaysOnTheScreen()
     QVERIFY(child("colorPopup")->geometry().bottom() < m_picker->mapToGlobal(QPoint()).y());
 }
 
-void tst_ColorManipulatorOnScreen::theEyedropperTakesTheClickedPixel()
+void TestColorManipulatorOnScreen::theEyedropperTakesTheClickedPixel()
 {
     open();
     kavoRealInput::click(child("eyedropper"));
@@ -137,7 +137,7 @@ void tst_ColorManipulatorOnScreen::theEyedropperTakesTheClickedPixel()
     QVERIFY(child("colorPopup")->isVisible());
 }
 
-void tst_ColorManipulatorOnScreen::theEyedropperIsMovedAndUsedByKeys()
+void TestColorManipulatorOnScreen::theEyedropperIsMovedAndUsedByKeys()
 {
     open();
     kavoRealInput::press({ "Tab", "space" });
@@ -150,7 +150,7 @@ void tst_ColorManipulatorOnScreen::theEyedropperIsMovedAndUsedByKeys()
     QCOMPARE(qRound(m_picker->getColor()[0]), 210);
 }
 
-void tst_ColorManipulatorOnScreen::escapeGivesTheEyedropperUpAlone()
+void TestColorManipulatorOnScreen::escapeGivesTheEyedropperUpAlone()
 {
     open();
     kavoRealInput::click(child("eyedropper"));
@@ -161,5 +161,5 @@ void tst_ColorManipulatorOnScreen::escapeGivesTheEyedropperUpAlone()
     QCOMPARE(m_picker->getColor()[0], 0.0f);
 }
 
-QTEST_MAIN(tst_ColorManipulatorOnScreen)
+QTEST_MAIN(TestColorManipulatorOnScreen)
 #include "tst_colormanipulatoronscreen.moc"
