@@ -12,6 +12,7 @@
 #include <OpenSG/OSGMaterial.h>
 
 #include <QAction>
+#include <QTreeWidget>
 #include <QtTest>
 
 using namespace kavoTreeRows;
@@ -32,6 +33,7 @@ private slots:
     void nodeShownWithAnotherTypePrintsAndEmptiesTheEditor();
     void selectionChangedToNothingEmptiesTheEditor();
     void selectionChangedToANodeLeavesTheEditor();
+    void severalSelectionsInOneRoundFillTheEditorOnce();
     void otherMessagesLeaveTheEditor_data();
     void otherMessagesLeaveTheEditor();
     void everyMessageEmptiesAHiddenEditor_data();
@@ -162,6 +164,19 @@ void TestNodeEditorMessages::selectionChangedToANodeLeavesTheEditor()
     kavoScenegraph::setSelectedNode(osg::NodePtr(m_node)->getChild(0));
     QVERIFY(!send(0x80000));
     QCOMPARE(top(editor()), before);
+}
+
+void TestNodeEditorMessages::severalSelectionsInOneRoundFillTheEditorOnce()
+{
+    int fillings = 0;
+    connect(editor().findChild<QTreeWidget *>()->model(), &QAbstractItemModel::rowsInserted, this,
+        [&](const QModelIndex &parent) { fillings += !parent.isValid(); });
+    const osg::NodePtr wheel = osg::NodePtr(m_node)->getChild(0);
+    for (const osg::NodePtr &node : { wheel, osg::NodePtr(m_node), wheel->getChild(0), wheel })
+        kavoScenegraph::setSelectedNode(node);
+    QTRY_COMPARE(title(), titleOf(wheel, "Wheel"));
+    QCoreApplication::processEvents();
+    QCOMPARE(fillings, 1);
 }
 
 void TestNodeEditorMessages::otherMessagesLeaveTheEditor_data()
