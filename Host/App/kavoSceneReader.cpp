@@ -49,6 +49,7 @@ kavoSceneReader::Scene kavoSceneReader::read(const QString &file)
 {
     const kavoLibraryLog log;
     const QByteArray path = QFile::encodeName(file);
+    kavoSceneSaver::useFaithfulFormat();
     const kavoNodePtr root(osg::SceneFileHandler::the().read(path.constData(), nullptr));
     if (root == osg::NullFC)
         throw kavoTaskError(reasonOfFailure(file));

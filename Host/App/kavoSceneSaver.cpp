@@ -48,13 +48,18 @@ bool kavoSceneSaver::canSave(const QString &file)
     return QFileInfo(file).suffix().compare(suffix(), Qt::CaseInsensitive) == 0;
 }
 
+void kavoSceneSaver::useFaithfulFormat()
+{
+    osg::SceneFileHandler::the().setOptions("osg", "whitespace=keep lists=replace");
+}
+
 void kavoSceneSaver::save(const osg::NodePtr &root, const QString &file)
 {
     if (root == osg::NullFC)
         throw kavoTaskError(tr("There is no scene to save"));
     if (!canSave(file))
         throw kavoTaskError(tr("Cannot save '%1': scenes are saved in .osg files").arg(file));
-    osg::SceneFileHandler::the().setOptions("osg", "whitespace=keep");
+    useFaithfulFormat();
     kavoOutputFile output(file);
     write(root, output);
     output.commit();

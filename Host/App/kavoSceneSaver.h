@@ -13,6 +13,9 @@ public:
     static QString suffix();
     static bool canSave(const QString &file);
 
+    /// Lets the library write and read such files so that everything comes back as it was.
+    static void useFaithfulFormat();
+
     /// The file is there as a whole or as it was before. What the format cannot express is in the
     /// log.
     /// \throws kavoTaskError

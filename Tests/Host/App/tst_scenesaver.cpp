@@ -13,6 +13,7 @@
 #include <OSGTransformVariantList.h>
 #include <OSGValuePairBase.h>
 #include <OpenSG/OSGGroup.h>
+#include <OpenSG/OSGRegisterCombinersChunk.h>
 #include <OpenSG/OSGSimpleAttachments.h>
 
 #include <QRegularExpression>
@@ -37,6 +38,7 @@ private slots:
     void animationsComeBackWithTheirNodes();
     void variantsComeBackReferenced();
     void textsComeBackAsTheyWere();
+    void listsComeBackAsTheyWere();
 
     void otherSuffixesAreRefused();
     void withoutASceneNothingIsSaved();
@@ -220,6 +222,14 @@ void tst_scenesaver::textsComeBackAsTheyWere()
     show(node);
     const osg::NodePtr copy = reload(path("a.osg"));
     QCOMPARE(osg::getName(copy), "tab\t  blanks\n\\path\\ \"quote\"");
+}
+
+// A new chunk of this kind has values in its lists.
+void tst_scenesaver::listsComeBackAsTheyWere()
+{
+    show(groupWith(osg::RegisterCombinersChunk::create()));
+    const auto read = attachment<osg::RegisterCombinersChunk>(reload(path("a.osg")));
+    QCOMPARE(read->getMFVariableArgb()->size(), 27u);
 }
 
 void tst_scenesaver::otherSuffixesAreRefused()
