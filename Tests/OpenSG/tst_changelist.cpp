@@ -6,7 +6,6 @@
 #include <OpenSG/OSGGroup.h>
 #include <OpenSG/OSGSimpleAttachments.h>
 #include <OpenSG/OSGThread.h>
-#include <OpenSG/OSGThreadManager.h>
 
 #include <QtTest>
 
@@ -97,7 +96,6 @@ private slots:
     void aReadOnlyListIgnoresEverything();
     void mergeAppendsAndSwapExchanges();
     void aListCanBeGivenAnAspect();
-    void thereIsOneAspect();
     void afterTheEndThereIsNone();
 };
 
@@ -328,13 +326,6 @@ void tst_ChangeList::aListCanBeGivenAnAspect()
     const auto list = newList();
     list->setAspect(1);
     QCOMPARE(list->getAspect(), UInt32(1));
-}
-
-void tst_ChangeList::thereIsOneAspect()
-{
-    NOT_IN_STOCK("stock 1.8 has two aspects");
-    QCOMPARE(ThreadManager::getNumAspects(), UInt32(1));
-    QCOMPARE(Thread::getAspect(), UInt32(0));
 }
 
 void tst_ChangeList::afterTheEndThereIsNone()
