@@ -1,4 +1,5 @@
 #include "LogCapture.h"
+#include "NotInStock.h"
 
 #include <OpenSG/OSGBaseFunctions.h>
 #include <OpenSG/OSGFieldContainerFactory.h>
@@ -120,6 +121,7 @@ void tst_Materials::chunksAreFoundByExactType()
 
 void tst_Materials::nullChunksAreRefused()
 {
+    NOT_IN_STOCK("stock 1.8 takes them");
     const ChunkMaterialRefPtr material(ChunkMaterial::create());
     QVERIFY(!material->addChunk(NullFC));
     QVERIFY(material->getChunks().empty());
@@ -147,6 +149,7 @@ void tst_Materials::clearingReleasesTheChunks()
 
 void tst_Materials::chunksThatCameWithoutSetterAreHeldOnce()
 {
+    NOT_IN_STOCK("stock 1.8 counts each chunk at every edit");
     ChunkMaterialPtr material = ChunkMaterial::create();
     addRefCP(material);
     const MaterialChunkRefPtr chunk(MaterialChunk::create());

@@ -175,6 +175,7 @@ void tst_SceneFileRoundTrip::aSampleIsReadWithoutAnyMessage_data()
 
 void tst_SceneFileRoundTrip::aSampleIsReadWithoutAnyMessage()
 {
+    NOT_IN_STOCK("stock 1.8 stumbles over lists of GLenum that it wrote itself");
     QFETCH(QByteArray, name);
     QVERIFY(m_text->read(sample(name)) != NullFC);
     QCOMPARE(m_text->takeLog(), std::string());
@@ -187,6 +188,7 @@ void tst_SceneFileRoundTrip::aSampleIsWrittenAsItStands_data()
 
 void tst_SceneFileRoundTrip::aSampleIsWrittenAsItStands()
 {
+    NOT_IN_STOCK("stock 1.8 loses what it stumbled over");
     QFETCH(QByteArray, name);
     QString expected = QString::fromStdString(sample(name));
     for (const auto &difference : differences) {

@@ -1,3 +1,4 @@
+#include "NotInStock.h"
 #include "SceneText.h"
 
 #include <OpenSG/OSGBaseFunctions.h>
@@ -192,6 +193,7 @@ void tst_SceneFileWriter::namesThatTheFormatCannotTellAreReplaced_data()
 
 void tst_SceneFileWriter::namesThatTheFormatCannotTellAreReplaced()
 {
+    NOT_IN_STOCK("stock 1.8 writes such names as they are");
     QFETCH(QByteArray, name);
     const NodeRefPtr root(makeCoredNode<Group>());
     const SwitchPtr twin = Switch::create();
@@ -230,6 +232,7 @@ void tst_SceneFileWriter::emptyPlacesInAListStay()
 
 void tst_SceneFileWriter::fieldsThatReadersStumbleOverAreWrittenOnlyIfNeeded()
 {
+    NOT_IN_STOCK("stock 1.8 writes every field");
     const MaterialGroupPtr core = MaterialGroup::create();
     const ChunkMaterialPtr material = ChunkMaterial::create();
     const SHLChunkPtr chunk = SHLChunk::create();
@@ -243,6 +246,7 @@ void tst_SceneFileWriter::fieldsThatReadersStumbleOverAreWrittenOnlyIfNeeded()
 
 void tst_SceneFileWriter::aSceneTooDeepIsNotWritten()
 {
+    NOT_IN_STOCK("stock 1.8 knows no limit");
     const NodeRefPtr node(chain(1001));
     QCOMPARE(m_text->write(node.get()), std::string());
     QVERIFY(contains(m_text->takeLog(), "WARNING:  Scene file: more than 1000 containers"));
