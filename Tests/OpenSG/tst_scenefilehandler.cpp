@@ -43,7 +43,8 @@ private slots:
 
     void equalMaterialsAreMergedByDefault();
     void equalChunksAreMergedByDefault();
-    void differentNamesKeepMaterialsApart();
+    void differentValuesKeepMaterialsApart_data();
+    void differentValuesKeepMaterialsApart();
     void withoutSequenceTheSceneIsAsInTheFile();
     void theDefaultSequenceCanBeReplaced();
     void unknownOperationsOfASequenceAreLeftOut();
@@ -283,10 +284,26 @@ void tst_SceneFileHandler::equalChunksAreMergedByDefault()
     QVERIFY(first->getChunks(0) == second->getChunks(1));
 }
 
-void tst_SceneFileHandler::differentNamesKeepMaterialsApart()
+void tst_SceneFileHandler::differentValuesKeepMaterialsApart_data()
 {
-    const NodePtr root = readWithDefaults(
-        materialNode("DEF A SimpleMaterial { }") + materialNode("DEF B SimpleMaterial { }"));
+    QTest::addColumn<QByteArray>("first");
+    QTest::addColumn<QByteArray>("second");
+
+    QTest::newRow("names") << QByteArray("DEF A SimpleMaterial { }")
+                           << QByteArray("DEF B SimpleMaterial { }");
+    QTest::newRow("last digits") << QByteArray("SimpleMaterial { shininess 0.12345678 }")
+                                 << QByteArray("SimpleMaterial { shininess 0.12345677 }");
+    QTest::newRow("number of strings")
+        << QByteArray(R"(SimpleMaterial { attachments StringAttributeMap { keys "a\", \"b" } })")
+        << QByteArray(R"(SimpleMaterial { attachments StringAttributeMap { keys [ "a" "b" ] } })");
+}
+
+void tst_SceneFileHandler::differentValuesKeepMaterialsApart()
+{
+    QFETCH(QByteArray, first);
+    QFETCH(QByteArray, second);
+    const NodePtr root
+        = readWithDefaults(materialNode(first.toStdString()) + materialNode(second.toStdString()));
     QVERIFY(materialOf(root, 0) != materialOf(root, 1));
 }
 

@@ -3,6 +3,7 @@
 #include "OSGFieldSyntax.h"
 #include "OSGSharedContainers.h"
 
+#include <OpenSG/OSGBinaryDataHandler.h>
 #include <OpenSG/OSGFieldContainerFactory.h>
 #include <OpenSG/OSGFieldFactory.h>
 #include <OpenSG/OSGGraphOpFactory.h>
@@ -23,37 +24,47 @@ struct Registration
     SharePtrGraphOp prototype;
 } registration;
 
-void appendKey(const FieldContainerPtr &container, std::string &key);
+void appendKey(const FieldContainerPtr &container, BinaryDataHandler &key);
 
-void appendFieldKey(const Field &field, std::string &key)
+// Everything is preceded by its size, or is followed by what cannot begin another of its kind: no
+// two fields run into each other.
+void appendFieldKey(Field &field, BinaryDataHandler &key)
 {
     const FieldSyntax::Kind kind = FieldSyntax::of(field.getType()).kind;
-    std::string text;
     if (kind == FieldSyntax::Attachments) {
         forEachAttachment(
             field, [&](const FieldContainerPtr &attachment) { appendKey(attachment, key); });
+        key.putValue(UInt32(0));
     } else if (kind == FieldSyntax::Pointers) {
+        key.putValue(field.getSize());
         for (UInt32 i = 0; i < field.getSize(); ++i) {
-            const FieldContainerPtr target = field.getFieldContainer(i);
-            key += std::to_string(target ? target.getFieldContainerId() : 0) + ' ';
+            key.putValue(field.getFieldContainer(i).getFieldContainerId());
         }
-    } else if (kind != FieldSyntax::None) {
-        key += field.getValueByStr(text);
+    } else {
+        field.copyToBin(key);
     }
-    key += '\n';
 }
 
-// The same for equal containers only.
-void appendKey(const FieldContainerPtr &container, std::string &key)
+void appendKey(const FieldContainerPtr &container, BinaryDataHandler &key)
 {
     const FieldContainerType &type = container->getType();
-    key.append(type.getCName()).append("\n");
+    key.putValue(type.getId());
     for (UInt32 id = 1; id <= type.getNumFieldDescs(); ++id) {
         const bool isInternal = type.getFieldDescription(id)->isInternal();
-        if (const Field *field = isInternal ? nullptr : container->getField(id)) {
+        if (Field *field = isInternal ? nullptr : container->getField(id)) {
             appendFieldKey(*field, key);
         }
     }
+}
+
+// The same for equal containers only.
+std::string keyOf(const FieldContainerPtr &container)
+{
+    BinaryDataHandler bytes;
+    appendKey(container, bytes);
+    std::string key(bytes.getSize(), '\0');
+    bytes.get(key.data(), key.size());
+    return key;
 }
 
 } // namespace
@@ -145,9 +156,7 @@ FieldContainerPtr SharePtrGraphOp::shared(const FieldContainerPtr &container)
     if (!container || !isIncluded(container->getType())) {
         return container;
     }
-    std::string key;
-    appendKey(container, key);
-    return _sharedByKey.emplace(key, container).first->second;
+    return _sharedByKey.emplace(keyOf(container), container).first->second;
 }
 
 bool SharePtrGraphOp::isIncluded(const FieldContainerType &type) const
