@@ -4,10 +4,12 @@
 #include <OpenSG/OSGNodeBase.h>
 #include <OpenSG/OSGNodeCore.h>
 
+#include <vector>
+
 OSG_BEGIN_NAMESPACE
 
 /// A place in the scene. A node holds references to its core and children; it has one parent at
-/// most, its core may be shared by several nodes.
+/// most, its core may be shared by several nodes. Trees may be of any depth.
 class Node : public NodeBase
 {
     typedef NodeBase Inherited;
@@ -81,7 +83,11 @@ private:
     void setParent(const NodePtr &parent);
     void markVolumeInvalid();
     void takeAsChild(const NodePtr &child);
-    void releaseChild(const NodePtr &child);
+    static void releaseChild(const NodePtr &child);
+    static void leaveParent(const NodePtr &child);
+    void orphanChildren(std::vector<NodePtr> &orphans);
+    bool needsVolume() const;
+    void computeVolume();
 
     UInt8 _occlusionMask = 0;
 };

@@ -15,6 +15,9 @@ OSG_BEGIN_NAMESPACE
 /// Reads and writes scene files. The format is told by what follows the last dot of a name, in
 /// any letter case; it may also be given bare. There is one: "osg", the ASCII format.
 ///
+/// Containers inside each other, nodes and what they refer to, are read and written up to 1000
+/// levels deep; what is deeper is reported and left out by the reader, and not written at all.
+///
 /// What comes of a read has no references yet: the caller takes the first, or destroys it.
 class SceneFileHandler
 {

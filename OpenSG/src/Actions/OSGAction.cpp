@@ -1,5 +1,7 @@
 #include <OpenSG/OSGAction.h>
 
+#include <vector>
+
 OSG_BEGIN_NAMESPACE
 
 namespace {
@@ -9,6 +11,7 @@ Action::ResultE keepResult(NodePtr &, Action::ResultE result)
     return result;
 }
 
+/// Trees may be deeper than the stack.
 class Traversal
 {
 public:
@@ -18,18 +21,18 @@ public:
     {
     }
 
-    Action::ResultE visit(NodePtr node)
+    Action::ResultE visit(const NodePtr &root)
     {
-        if (!node) {
-            return Action::Continue;
+        Action::ResultE result = Action::Continue;
+        enter(root);
+        while (!_path.empty()) {
+            if (NodePtr child; takeChild(child)) {
+                enter(child);
+            } else {
+                result = leave();
+            }
         }
-        Action::ResultE result = _enter.call(node);
-        if (result == Action::Continue) {
-            result = visitChildren(node);
-        } else if (result == Action::Skip) {
-            result = Action::Continue;
-        }
-        return _leave.call(node, result);
+        return result;
     }
 
     template <class List> Action::ResultE visitAll(const List &nodes)
@@ -43,19 +46,51 @@ public:
     }
 
 private:
-    // By index: a callback may change the list that it is called from.
-    Action::ResultE visitChildren(const NodePtr &node)
+    /// A node that was entered and not left yet.
+    struct Level
     {
-        for (UInt32 i = 0; i < node->getNChildren(); ++i) {
-            if (visit(node->getChild(i)) == Action::Quit) {
-                return Action::Quit;
-            }
+        NodePtr node;
+        Action::ResultE result;
+        bool hasChildrenToVisit;
+        UInt32 nextChild = 0;
+    };
+
+    void enter(NodePtr node)
+    {
+        if (node) {
+            const Action::ResultE result = _enter.call(node);
+            const bool goesOn = result == Action::Continue;
+            _path.push_back({ node, result == Action::Skip ? Action::Continue : result, goesOn });
         }
-        return Action::Continue;
+    }
+
+    // By index: a callback may change the list that it is called from.
+    bool takeChild(NodePtr &child)
+    {
+        Level &level = _path.back();
+        const bool hasNext
+            = level.hasChildrenToVisit && level.nextChild < level.node->getNChildren();
+        if (hasNext) {
+            child = level.node->getChild(level.nextChild++);
+        }
+        return hasNext;
+    }
+
+    Action::ResultE leave()
+    {
+        Level level = _path.back();
+        _path.pop_back();
+        const Action::ResultE result = _leave.call(level.node, level.result);
+        if (result == Action::Quit && !_path.empty()) {
+            _path.back().result = Action::Quit;
+            _path.back().hasChildrenToVisit = false;
+        }
+        return result;
     }
 
     TraverseEnterFunctor _enter;
     TraverseLeaveFunctor _leave;
+    std::vector<Level> _path;
 };
 
 } // namespace

@@ -4,6 +4,8 @@
 #include <OpenSG/OSGLog.h>
 
 #include <algorithm>
+#include <utility>
+#include <vector>
 
 OSG_BEGIN_NAMESPACE
 
@@ -33,14 +35,30 @@ Node::Node(const Node &source)
     exchangeCore(source.getCore());
 }
 
+// Node by node, however deep the tree is: those that go with this one have no children any more.
 Node::~Node()
 {
-    while (!_mfChildren.empty()) {
-        const NodePtr last = _mfChildren.back();
-        _mfChildren.getValues().pop_back();
-        releaseChild(last);
+    std::vector<NodePtr> released;
+    orphanChildren(released);
+    while (!released.empty()) {
+        const NodePtr node = released.back();
+        released.pop_back();
+        if (node.getRefCount() == 1) {
+            node->orphanChildren(released);
+        }
+        subRefCP(node);
     }
     exchangeCore(NullFC);
+}
+
+// The references go with the children.
+void Node::orphanChildren(std::vector<NodePtr> &orphans)
+{
+    const std::vector<NodePtr> children = std::exchange(_mfChildren.getValues(), {});
+    for (const NodePtr &child : children) {
+        leaveParent(child);
+        orphans.push_back(child);
+    }
 }
 
 void Node::onCreate(const Node *)
@@ -157,10 +175,15 @@ void Node::takeAsChild(const NodePtr &child)
 void Node::releaseChild(const NodePtr &child)
 {
     const NodePtr released = child;
-    beginEditCP(released, ParentFieldMask);
-    released->setParent(NullFC);
-    endEditCP(released, ParentFieldMask);
+    leaveParent(released);
     subRefCP(released);
+}
+
+void Node::leaveParent(const NodePtr &child)
+{
+    beginEditCP(child, ParentFieldMask);
+    child->setParent(NullFC);
+    endEditCP(child, ParentFieldMask);
 }
 
 Matrix Node::getToWorld()
@@ -172,13 +195,15 @@ Matrix Node::getToWorld()
 
 void Node::getToWorld(Matrix &result)
 {
-    if (const NodePtr parent = getParent()) {
-        parent->getToWorld(result);
-    } else {
-        result.setIdentity();
+    std::vector<Node *> path;
+    for (Node *node = this; node; node = node->getParent().getCPtr()) {
+        path.push_back(node);
     }
-    if (const NodeCorePtr core = getCore()) {
-        core->accumulateMatrix(result);
+    result.setIdentity();
+    for (auto node = path.rbegin(); node != path.rend(); ++node) {
+        if (const NodeCorePtr core = (*node)->getCore()) {
+            core->accumulateMatrix(result);
+        }
     }
 }
 
@@ -198,16 +223,36 @@ void Node::getWorldVolume(DynamicVolume &result)
     }
 }
 
+// Children stand behind their parents in the list, so that from its end each is ready in time.
 void Node::updateVolume()
 {
-    DynamicVolume &volume = _sfVolume.getValue();
-    if (volume.isValid() || getTravMask() == 0) {
-        return;
+    std::vector<Node *> outdated;
+    if (needsVolume()) {
+        outdated.push_back(this);
     }
+    for (std::size_t i = 0; i < outdated.size(); ++i) {
+        for (const NodePtr &child : outdated[i]->_mfChildren) {
+            if (child->needsVolume()) {
+                outdated.push_back(child.getCPtr());
+            }
+        }
+    }
+    for (auto node = outdated.rbegin(); node != outdated.rend(); ++node) {
+        (*node)->computeVolume();
+    }
+}
+
+bool Node::needsVolume() const
+{
+    return !getVolume().isValid() && getTravMask() != 0;
+}
+
+void Node::computeVolume()
+{
+    DynamicVolume &volume = _sfVolume.getValue();
     volume.getInstance().setEmpty();
     for (const NodePtr &child : _mfChildren) {
         if (child->getTravMask() != 0) {
-            child->updateVolume();
             volume.getInstance().extendBy(child->getVolume());
         }
     }
@@ -220,12 +265,9 @@ void Node::updateVolume()
 // A volume that is invalid already says that those above it are, too.
 void Node::invalidateVolume()
 {
-    if (!getVolume().isValid()) {
-        return;
-    }
-    markVolumeInvalid();
-    if (const NodePtr parent = getParent()) {
-        parent->invalidateVolume();
+    for (Node *node = this; node && node->getVolume().isValid();
+         node = node->getParent().getCPtr()) {
+        node->markVolumeInvalid();
     }
 }
 
@@ -265,11 +307,16 @@ NodePtr cloneTree(const NodePtr &root)
     if (!root) {
         return NullFC;
     }
-    const NodePtr copy = NodePtr::dcast(root->shallowCopy());
-    for (UInt32 i = 0; i < root->getNChildren(); ++i) {
-        copy->addChild(cloneTree(root->getChild(i)));
+    const auto copyOf = [](const NodePtr &node) { return NodePtr::dcast(node->shallowCopy()); };
+    std::vector<std::pair<NodePtr, NodePtr>> copies { { root, copyOf(root) } };
+    for (std::size_t i = 0; i < copies.size(); ++i) {
+        const auto [original, copy] = copies[i];
+        for (UInt32 child = 0; child < original->getNChildren(); ++child) {
+            copies.emplace_back(original->getChild(child), copyOf(original->getChild(child)));
+            copy->addChild(copies.back().second);
+        }
     }
-    return copy;
+    return copies.front().second;
 }
 
 OSG_END_NAMESPACE
