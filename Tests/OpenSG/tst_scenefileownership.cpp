@@ -34,6 +34,8 @@ private slots:
     void theSecondValueOfAPointerReplacesTheFirst();
     void aMaterialAtTheTopCanBeUsedFurtherDown();
     void topNodesSurviveTheOperations();
+    void whatIsPointedToSurvivesTheOperations_data();
+    void whatIsPointedToSurvivesTheOperations();
     void containersWithoutPlaceAreNoScene();
 
 private:
@@ -172,6 +174,33 @@ void tst_SceneFileOwnership::topNodesSurviveTheOperations()
     QCOMPARE(top[0].getRefCount(), 0);
     subRefCP(top[0]);
     subRefCP(top[1]);
+}
+
+void tst_SceneFileOwnership::whatIsPointedToSurvivesTheOperations_data()
+{
+    QTest::addColumn<QByteArray>("text");
+
+    const QByteArray named = "Node { core MaterialGroup { material SimpleMaterial { "
+                             "attachments [ Name { name \"m\" } ] } } } ";
+    QTest::newRow("after it") << "Node { children [ " + named
+            + "Node { core MaterialGroup { material DEF m SimpleMaterial { attachments [ "
+              "Name { name \"m\" } ] } } } ] attachments [ "
+              "FCPtrAttributeMap { keys [ \"k\" ] values [ USE m ] } ] }";
+    QTest::newRow("before it") << "Node { attachments [ FCPtrAttributeMap { keys [ \"k\" ] "
+                                  "values [ DEF m SimpleMaterial { attachments [ "
+                                  "Name { name \"m\" } ] } ] } ] children [ "
+            + named + "Node { core MaterialGroup { material USE m } } ] }";
+}
+
+void tst_SceneFileOwnership::whatIsPointedToSurvivesTheOperations()
+{
+    QFETCH(QByteArray, text);
+    std::istringstream stream(text.toStdString());
+    const NodeRefPtr root(SceneFileHandler::the().read(stream, "osg"));
+    const std::string written = m_text->write(root.get());
+    QVERIFY(written.find("FCPtrAttributeMap") != std::string::npos);
+    QVERIFY(m_text->read(written) != NullFC);
+    QCOMPARE(m_text->takeLog(), std::string());
 }
 
 void tst_SceneFileOwnership::containersWithoutPlaceAreNoScene()

@@ -89,24 +89,28 @@ NodePtr gather(const FCPtrStore &containers)
     return root;
 }
 
-NodePtr withOperations(NodePtr root, GraphOpSeq *operations)
+// What the operations take out of the scene lives as long as they run: a pointer that counts
+// nothing may lead to it.
+FCPtrStore withOperations(FCPtrStore containers, GraphOpSeq *operations)
 {
-    if (root && operations) {
-        operations->traverse(root);
+    if (!operations) {
+        return containers;
     }
-    return root;
-}
-
-FCPtrStore withOperations(const FCPtrStore &containers, GraphOpSeq *operations)
-{
     ContainerKeeper keeper;
-    std::for_each(containers.begin(), containers.end(),
-        [&](const FieldContainerPtr &container) { keeper.keep(container); });
-    for (const FieldContainerPtr &container : containers) {
-        withOperations(NodePtr::dcast(container), operations);
+    keeper.keepAllFrom(containers);
+    for (FieldContainerPtr &container : containers) {
+        if (NodePtr root = NodePtr::dcast(container)) {
+            operations->traverse(root);
+            container = root;
+        }
     }
     keeper.release(containers);
     return containers;
+}
+
+NodePtr withOperations(const NodePtr &root, GraphOpSeq *operations)
+{
+    return NodePtr::dcast(withOperations(FCPtrStore { root }, operations).front());
 }
 
 void reportNoScene(const Char8 *name)
