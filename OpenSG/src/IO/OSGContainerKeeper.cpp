@@ -79,6 +79,9 @@ void ContainerKeeper::keepAllFrom(const Containers &starts)
 // marks: then there is no need to look at what leads where.
 void ContainerKeeper::release(const Containers &results)
 {
+    if (_kept.empty()) {
+        return;
+    }
     std::for_each(results.begin(), results.end(), [this](const auto &result) { keep(result); });
     const bool areAllOwned = std::all_of(
         _kept.begin(), _kept.end(), [](const auto &container) { return refCount(container) > 1; });
