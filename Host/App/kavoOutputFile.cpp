@@ -3,6 +3,7 @@
 #include "kavoTaskError.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
 
 #include <cerrno>
@@ -21,14 +22,27 @@ mode_t permissionsOf(const QString &file)
     return 0666 & ~mask;
 }
 
+constexpr int maximumOfLinks = 40; // as the system allows
+
 // Links stay links, also those to a file that is not there yet.
 QString linkedFile(const QString &file)
 {
-    constexpr int maximum = 40; // as the system allows
     QFileInfo info(file);
-    for (int links = 0; links < maximum && info.isSymLink(); ++links)
+    for (int links = 0; links < maximumOfLinks && info.isSymLink(); ++links)
         info.setFile(info.symLinkTarget());
     return info.filePath();
+}
+
+// Such as /dev/stdout, which leads through /proc to the file that it is redirected to.
+bool isOpenStream(const QString &file)
+{
+    QFileInfo info(file);
+    for (int links = 0; links < maximumOfLinks && info.isSymLink(); ++links) {
+        if (info.dir().canonicalPath().startsWith(QLatin1String("/proc/")))
+            return true;
+        info.setFile(info.symLinkTarget());
+    }
+    return false;
 }
 
 }
@@ -45,6 +59,9 @@ kavoOutputFile::kavoOutputFile(const QString &target)
         m_path = target;
         return;
     }
+    if (isOpenStream(target))
+        fail(QCoreApplication::translate(
+            "kavoOutputFile", "It is redirected to a file: name the file instead"));
     m_target = linkedFile(target);
     if (QFileInfo(m_target).isSymLink())
         fail(ELOOP);

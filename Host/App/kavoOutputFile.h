@@ -6,7 +6,9 @@
 /// A file that comes into being as a whole or not at all: it is written under another name in the
 /// folder of the target, which it replaces at the end.
 ///
-/// A target that is no regular file, such as a pipe or a device, is written to directly.
+/// A target that is no regular file, such as a pipe or a device, is written to directly. A stream
+/// that is redirected to a regular file, such as /dev/stdout, is refused: what others write there
+/// would be lost.
 class kavoOutputFile
 {
 public:

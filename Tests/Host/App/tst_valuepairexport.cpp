@@ -40,6 +40,7 @@ private slots:
     void aLinkToItselfIsExplained();
     void aDeviceIsWrittenToDirectly();
     void aPipeIsWrittenToDirectly();
+    void aStreamRedirectedToAFileIsRefused();
     void aNameMayBeAsLongAsNamesCanBe();
     void aFileThatCannotBeWrittenIsExplained_data();
     void aFileThatCannotBeWrittenIsExplained();
@@ -180,6 +181,16 @@ void tst_ValuePairExport::aPipeIsWrittenToDirectly()
     QFile pipe;
     QVERIFY(pipe.open(ends[0], QIODevice::ReadOnly, QFile::AutoCloseHandle));
     QCOMPARE(pipe.readAll(), QByteArray("nodes\\keys,color,\nHull,red,\nMast,blue,\n"));
+}
+
+void tst_ValuePairExport::aStreamRedirectedToAFileIsRefused()
+{
+    QFile file(path("log.txt"));
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    file.write("precious");
+    file.flush();
+    QVERIFY(reasonOf(QString("/dev/fd/%1").arg(file.handle())).contains("name the file instead"));
+    QCOMPARE(contentOf(path("log.txt")), QByteArray("precious"));
 }
 
 void tst_ValuePairExport::aNameMayBeAsLongAsNamesCanBe()
