@@ -24,10 +24,9 @@ QImage kavoImageConverter::toImage(const osg::ImagePtr &image)
     if (image == osg::NullFC || image->getDataType() != osg::Image::OSG_UINT8_IMAGEDATA)
         return QImage();
     const QImage::Format pixels = format(image->getPixelFormat());
-    const int width = image->getWidth(), height = image->getHeight();
-    const int rowBytes = width * QImage::toPixelFormat(pixels).bitsPerPixel() / 8;
-    if (rowBytes <= 0 || height <= 0
-        || image->getMFPixel()->getSize() < osg::UInt32(rowBytes) * osg::UInt32(height))
+    const qint64 width = image->getWidth(), height = image->getHeight();
+    const qint64 rowBytes = width * QImage::toPixelFormat(pixels).bitsPerPixel() / 8;
+    if (rowBytes <= 0 || height <= 0 || qint64(image->getMFPixel()->getSize()) / height < rowBytes)
         return QImage();
-    return QImage(image->getData(), width, height, rowBytes, pixels).mirrored();
+    return QImage(image->getData(), int(width), int(height), int(rowBytes), pixels).mirrored();
 }

@@ -285,8 +285,9 @@ QOpenGLTexture *kavoSceneRenderer::texture(const osg::ImagePtr &image)
 {
     if (image == osg::NullFC)
         return nullptr;
-    auto &texture = m_textures[kavoContainers::id(image)];
-    const QImage pixels = texture ? QImage() : kavoImageConverter::toImage(image);
+    const auto [entry, isNew] = m_textures.try_emplace(kavoContainers::id(image));
+    auto &texture = entry->second; // stays null for an image that cannot be shown
+    const QImage pixels = isNew ? kavoImageConverter::toImage(image) : QImage();
     if (!pixels.isNull()) { // the first row is the lowest here as well
         texture = std::make_unique<QOpenGLTexture>(pixels.mirrored());
         texture->setMinMagFilters(QOpenGLTexture::LinearMipMapLinear, QOpenGLTexture::Linear);

@@ -47,6 +47,14 @@ public:
     {
     }
 
+    /// Corners that there are, whatever the lengths of the primitives say.
+    osg::UInt32 count() const
+    {
+        const osg::GeoIndicesPtr indices = m_geometry->getIndices();
+        return indices == osg::NullFC ? size(m_geometry->getPositions())
+                                      : size(indices) / m_columns;
+    }
+
     Vertex corner(osg::UInt32 number) const
     {
         Vertex vertex;
@@ -86,7 +94,7 @@ private:
 
 void addTriangle(kavoTriangleSoup &soup, Vertex a, Vertex b, Vertex c)
 {
-    if (a.normal.isNull()) {
+    if (a.normal.isNull() || b.normal.isNull() || c.normal.isNull()) {
         const QVector3D flat = QVector3D::normal(a.position, b.position, c.position);
         a.normal = b.normal = c.normal = flat;
     }
@@ -187,7 +195,8 @@ kavoTriangleSoup kavoTriangleSoup::of(const osg::GeometryPtr &geometry)
         = std::min(geometry->getTypes()->getSize(), geometry->getLengths()->getSize());
     osg::UInt32 number = 0;
     for (osg::UInt32 i = 0; i < count; ++i) {
-        std::vector<Vertex> corners(geometry->getLengths()->getValue(i));
+        const osg::UInt32 left = reader.count() - number;
+        std::vector<Vertex> corners(std::min(left, geometry->getLengths()->getValue(i)));
         for (Vertex &corner : corners)
             corner = reader.corner(number++);
         addPrimitive(soup, osg::UInt8(geometry->getTypes()->getValue(i)), corners);

@@ -13,6 +13,7 @@
 #include <QOpenGLContext>
 #include <QtMath>
 #include <algorithm>
+#include <kavoGuarded.h>
 #include <kavoLog.h>
 #include <kavoScenegraph.h>
 
@@ -116,6 +117,11 @@ void kavoViewport::paintGL()
 {
     if (!m_renderer)
         return;
+    kavoGuarded("Drawing the scene", [this] { draw(); });
+}
+
+void kavoViewport::draw()
+{
     const QVector3D eye = m_camera.eye();
     m_renderer->draw({ m_camera.view(), m_camera.projection(size()), eye,
         kavoRenderLights::of(m_index.lights(), eye),

@@ -50,6 +50,7 @@ protected:
 private:
     void showScene();
     void react(const kavoChanges &changes);
+    void draw();
     void dropRenderer();
 
     const kavoSceneIndex &m_index;

@@ -154,6 +154,15 @@ private slots:
         const kavoContainerRef<osg::ImagePtr> empty(osg::Image::create());
         QVERIFY(kavoImageConverter::toImage(empty.get()).isNull());
     }
+
+    void anImageWithFewerPixelsThanItSaysGivesNoPicture()
+    {
+        const kavoContainerRef<osg::ImagePtr> image(
+            kavoMaterialBuilder::buildImage(twoRows(QImage::Format_RGBA8888), "a.png"));
+        image.get()->setWidth(16384);
+        image.get()->setHeight(65536);
+        QVERIFY(kavoImageConverter::toImage(image.get()).isNull());
+    }
 };
 
 KAVO_TEST_MAIN(tst_materialbuilder)

@@ -122,9 +122,34 @@ private slots:
         const auto geometry = makeCorners(0, 3);
         const kavoNodePtr holder(makeNode("holder", geometry));
         auto indices = osg::GeoIndicesUI32::create();
-        indices->push_back(4711);
+        for (int i = 0; i < 3; ++i)
+            indices->push_back(4711);
         geometry->setIndices(indices);
         QCOMPARE(int(kavoTriangleSoup::of(geometry).points.size()), 3);
+    }
+
+    void lengthsBeyondThePropertiesAreHarmless()
+    {
+        const auto geometry = makeCorners(0, 3);
+        const kavoNodePtr holder(makeNode("holder", geometry));
+        geometry->getLengths()->setValue(4294967295u, 0);
+        QCOMPARE(int(kavoTriangleSoup::of(geometry).points.size()), 3);
+        auto indices = osg::GeoIndicesUI32::create();
+        indices->push_back(1);
+        geometry->setIndices(indices);
+        QCOMPARE(int(kavoTriangleSoup::of(geometry).points.size()), 1);
+    }
+
+    void oneMissingNormalMakesTheTriangleFlat()
+    {
+        const auto geometry = makeCorners(4, 3);
+        const kavoNodePtr holder(makeNode("holder", geometry));
+        auto normals = osg::GeoNormals3f::create();
+        normals->push_back(osg::Vec3f(0, 1, 0));
+        geometry->setNormals(normals);
+        const kavoTriangleSoup soup = kavoTriangleSoup::of(geometry);
+        for (const auto &vertex : soup.triangles)
+            QCOMPARE(vertex.normal, QVector3D(0, 0, -1));
     }
 
     void aGeometryWithoutPropertiesIsEmpty()
