@@ -30,7 +30,10 @@ void kavoDocument::setFiles(const QStringList &files)
 
 QString kavoDocument::title() const
 {
-    return QFileInfo(m_files.join(QStringLiteral(", "))).fileName();
+    QStringList names;
+    for (const QString &file : m_files)
+        names << QFileInfo(file).fileName();
+    return names.join(QStringLiteral(", "));
 }
 
 QString kavoDocument::suggestedFile() const

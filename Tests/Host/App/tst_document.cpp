@@ -37,6 +37,7 @@ private slots:
     void modifyingIsToldOnce();
     void savingMakesItUnmodified();
     void aFailedSaveKeepsItModified();
+    void theTitleNamesAllFiles();
     void onlySceneFilesAreSavedInPlace_data();
     void onlySceneFilesAreSavedInPlace();
     void theSuggestedFileIsBesideTheOpenedOne();
@@ -191,6 +192,12 @@ void tst_document::aFailedSaveKeepsItModified()
         m_document->save(m_folder.filePath("no folder/ship.osg")), kavoTaskError);
     QVERIFY(m_document->isModified());
     QCOMPARE(m_document->file(), QStringLiteral("/models/ship.osg"));
+}
+
+void tst_document::theTitleNamesAllFiles()
+{
+    m_document->setFiles({ "/models/ship.osg", "/others/tank.fbx" });
+    QCOMPARE(m_document->title(), QStringLiteral("ship.osg, tank.fbx"));
 }
 
 void tst_document::onlySceneFilesAreSavedInPlace_data()
