@@ -20,3 +20,9 @@ kavoTableOptions kavoTableExportDialog::options() const
     options.takesAllNodes = m_scope->takesAllNodes();
     return options;
 }
+
+void kavoTableExportDialog::accept()
+{
+    m_format->remember();
+    kavoTaskDialog::accept();
+}

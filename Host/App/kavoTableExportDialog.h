@@ -17,6 +17,7 @@ public:
 
     const kavoExportScopeBox &scope() const { return *m_scope; }
     kavoTableOptions options() const;
+    void accept() override;
 
 private:
     kavoExportScopeBox *m_scope;

@@ -3,6 +3,25 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFormLayout>
+#include <QSettings>
+
+namespace {
+
+const char settingsGroup[] = "tableFormat";
+
+void recall(const QSettings &settings, QComboBox &box, const char *key)
+{
+    const int place = box.findData(settings.value(key));
+    if (place >= 0)
+        box.setCurrentIndex(place);
+}
+
+void recall(const QSettings &settings, QCheckBox &box, const char *key)
+{
+    box.setChecked(settings.value(key, box.isChecked()).toBool());
+}
+
+}
 
 kavoTableFormatBox::kavoTableFormatBox(Purpose purpose, QWidget *parent)
     : QGroupBox(tr("Format"), parent)
@@ -28,6 +47,7 @@ kavoTableFormatBox::kavoTableFormatBox(Purpose purpose, QWidget *parent)
         exportOnly->setVisible(purpose == Export);
     layout->addRow(tr("&Decimal separator:"), m_decimalSeparator);
     layout->addRow(m_guardsFormulas);
+    recall();
 }
 
 void kavoTableFormatBox::addExportRows(QFormLayout *layout)
@@ -35,6 +55,28 @@ void kavoTableFormatBox::addExportRows(QFormLayout *layout)
     layout->addRow(tr("F&ormat:"), m_format);
     layout->addRow(tr("De&limiter:"), m_delimiter);
     layout->addRow(m_byteOrderMark);
+}
+
+void kavoTableFormatBox::recall()
+{
+    QSettings settings;
+    settings.beginGroup(settingsGroup);
+    ::recall(settings, *m_format, "format");
+    ::recall(settings, *m_delimiter, "delimiter");
+    ::recall(settings, *m_decimalSeparator, "decimalSeparator");
+    ::recall(settings, *m_byteOrderMark, "byteOrderMark");
+    ::recall(settings, *m_guardsFormulas, "guardsFormulas");
+}
+
+void kavoTableFormatBox::remember() const
+{
+    QSettings settings;
+    settings.beginGroup(settingsGroup);
+    settings.setValue("format", m_format->currentData());
+    settings.setValue("delimiter", m_delimiter->currentData());
+    settings.setValue("decimalSeparator", m_decimalSeparator->currentData());
+    settings.setValue("byteOrderMark", m_byteOrderMark->isChecked());
+    settings.setValue("guardsFormulas", m_guardsFormulas->isChecked());
 }
 
 void kavoTableFormatBox::apply(kavoTableOptions &options) const

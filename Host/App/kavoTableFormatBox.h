@@ -17,12 +17,16 @@ class kavoTableFormatBox : public QGroupBox
 public:
     enum Purpose { Export, Import };
 
+    /// Begins with what was remembered last.
     explicit kavoTableFormatBox(Purpose purpose, QWidget *parent = nullptr);
 
     /// Sets what was chosen here; leaves the rest alone.
     void apply(kavoTableOptions &options) const;
+    /// Keeps the choices for the next box, in this run and in later ones.
+    void remember() const;
 
 private:
+    void recall();
     void addExportRows(QFormLayout *layout);
 
     QComboBox *m_format;

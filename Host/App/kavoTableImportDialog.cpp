@@ -15,3 +15,9 @@ kavoTableOptions kavoTableImportDialog::options(const QString &fileName) const
     options.format = kavoTableOptions::formatOf(fileName);
     return options;
 }
+
+void kavoTableImportDialog::accept()
+{
+    m_format->remember();
+    kavoTaskDialog::accept();
+}

@@ -15,6 +15,7 @@ public:
 
     /// Options for reading that file.
     kavoTableOptions options(const QString &fileName) const;
+    void accept() override;
 
 private:
     kavoTableFormatBox *m_format;

@@ -20,7 +20,9 @@
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSettings>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 
@@ -107,6 +109,7 @@ private slots:
     void valuePairsOfTheSelectionAreExported();
     void withoutASelectionOnlyTheSceneCanBeExported();
     void aTableIsExportedAsChosen();
+    void theFormatChosenLastIsOfferedAgain();
     void aTableIsImported();
     void jsonLinesWithoutAnEndingCanBeImportedAgain();
     void rowsWithoutAPlaceAreShown();
@@ -118,6 +121,7 @@ private slots:
 private:
     QByteArray written(const QString &name) const;
 
+    std::unique_ptr<QTemporaryDir> m_settings;
     std::unique_ptr<kavoTableFixture> m_table;
     std::unique_ptr<kavoConsoleCapture> m_console;
     std::unique_ptr<QMenu> m_menu;
@@ -130,6 +134,8 @@ void tst_ExportActions::init()
 {
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QVERIFY(kavoTestHost::show());
+    m_settings = std::make_unique<QTemporaryDir>();
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_settings->path());
     m_console = std::make_unique<kavoConsoleCapture>(kavoConsoleCapture::StandardOutput);
     m_table = std::make_unique<kavoTableFixture>();
     m_mast = addNode(m_table->root, "Mast", { { "color", "red" } });
@@ -196,6 +202,23 @@ void tst_ExportActions::aTableIsExportedAsChosen()
     QVERIFY(m_user->isDone());
     QVERIFY(written("t.csv").startsWith("id;path;name;type;color\r\n"));
     QVERIFY(written("t.csv").endsWith(";/Hull/Mast;Mast;Group;red\r\n"));
+}
+
+void tst_ExportActions::theFormatChosenLastIsOfferedAgain()
+{
+    QString offered;
+    m_user->willDo([](QDialog &dialog) {
+        dialog.findChildren<QComboBox *>().at(1)->setCurrentText("Semicolon");
+        accept(dialog);
+    });
+    m_user->willDo(chooseFile(m_table->path("t.csv")));
+    m_user->trigger(*m_menu, "Table...");
+    m_user->willDo([&](QDialog &dialog) {
+        offered = dialog.findChildren<QComboBox *>().at(1)->currentText();
+        dialog.reject();
+    });
+    m_user->trigger(*m_menu, "Table...");
+    QCOMPARE(offered, QString("Semicolon"));
 }
 
 void tst_ExportActions::aTableIsImported()
