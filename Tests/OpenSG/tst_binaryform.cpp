@@ -29,6 +29,12 @@ private slots:
     void theSizeIsThatOfTheBytes_data();
     void theSizeIsThatOfTheBytes();
     void bytesThatEndTooSoonAreZeros();
+    void aListEndsWithTheBytes();
+    void aStringEndsWithTheBytes();
+    void whatNodesKnowOfEachOtherIsLeftOut();
+    void aPointerToAnotherClassReadsAsNull();
+    void volumesLoseNothing_data();
+    void volumesLoseNothing();
 };
 
 void tst_BinaryForm::fieldsComeBack()
@@ -148,6 +154,79 @@ void tst_BinaryForm::bytesThatEndTooSoonAreZeros()
     BinaryDataHandler bytes;
     light->copyFromBin(bytes, FieldBits::AllFields);
     QCOMPARE(light->getPosition(), Pnt3f(0, 0, 0));
+}
+
+void tst_BinaryForm::aListEndsWithTheBytes()
+{
+    BinaryDataHandler bytes;
+    bytes.putValue(UInt32(0xffffffff));
+    bytes.putValue(Int32(7));
+    MFInt32 list;
+    list.copyFromBin(bytes);
+    QCOMPARE(list.getSize(), UInt32(1));
+    QCOMPARE(list[0], 7);
+}
+
+void tst_BinaryForm::aStringEndsWithTheBytes()
+{
+    BinaryDataHandler bytes;
+    bytes.putValue(UInt32(0xffffffff));
+    bytes.put("ab", 2);
+    SFString text;
+    text.copyFromBin(bytes);
+    QCOMPARE(text.getValue(), std::string("ab"));
+}
+
+void tst_BinaryForm::whatNodesKnowOfEachOtherIsLeftOut()
+{
+    const NodeRefPtr node(makeCoredNode<Group>());
+    node->addChild(Node::create());
+    node->setTravMask(5);
+    BinaryDataHandler bytes;
+    node->copyToBin(bytes, FieldBits::AllFields);
+    {
+        const NodeRefPtr copy(Node::create());
+        copy->copyFromBin(bytes, FieldBits::AllFields);
+        QCOMPARE(copy->getTravMask(), UInt32(5));
+        QVERIFY(copy->getCore() == NullFC && copy->getNChildren() == 0);
+    }
+    QCOMPARE(node->getCore().getRefCount(), 1);
+    QCOMPARE(node->getChild(0).getRefCount(), 1);
+}
+
+void tst_BinaryForm::aPointerToAnotherClassReadsAsNull()
+{
+    const RefPtr<PointLightPtr> light(PointLight::create());
+    const RefPtr<MaterialGroupPtr> group(MaterialGroup::create());
+    BinaryDataHandler bytes;
+    bytes.putValue(light.get().getFieldContainerId());
+    bytes.putValue(light.get().getFieldContainerId());
+    group->copyFromBin(bytes, MaterialGroup::MaterialFieldMask);
+    QVERIFY(group->getMaterial() == NullFC);
+    light->copyFromBin(bytes, PointLight::BeaconFieldMask);
+    QVERIFY(light->getBeacon() == NullFC);
+}
+
+void tst_BinaryForm::volumesLoseNothing_data()
+{
+    QTest::addColumn<bool>("isSphere");
+    QTest::newRow("box") << false;
+    QTest::newRow("sphere") << true;
+}
+
+void tst_BinaryForm::volumesLoseNothing()
+{
+    QFETCH(bool, isSphere);
+    SFDynamicVolume field, back;
+    field.getValue().setValue(isSphere ? "1 2 3 4" : "1 2 3 4 5 1e-9");
+    field.getValue().setStatic();
+    BinaryDataHandler bytes;
+    field.copyToBin(bytes);
+    back.copyFromBin(bytes);
+    QCOMPARE(back.getValue().getType(), field.getValue().getType());
+    QCOMPARE(back.getValue().getState(), field.getValue().getState());
+    QCOMPARE(back.getValue().getMin(), field.getValue().getMin());
+    QCOMPARE(back.getValue().getMax(), field.getValue().getMax());
 }
 
 QTEST_APPLESS_MAIN(tst_BinaryForm)

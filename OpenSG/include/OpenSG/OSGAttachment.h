@@ -29,6 +29,9 @@ protected:
     /// The copy hangs nowhere yet.
     Attachment(const Attachment &source);
     ~Attachment() override = default;
+
+private:
+    BitVector getMutualFields() const override { return ParentsFieldMask; }
 };
 
 OSG_END_NAMESPACE

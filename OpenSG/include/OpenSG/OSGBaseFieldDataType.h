@@ -5,6 +5,9 @@
 #include <OpenSG/OSGPlane.h>
 #include <OpenSG/OSGTime.h>
 #include <OpenSG/OSGValueFieldTypes.h>
+#include <OpenSG/OSGVolumeBytes.h>
+
+#include <algorithm>
 
 OSG_BEGIN_NAMESPACE
 
@@ -42,8 +45,8 @@ template <class T> struct StringFieldTraits : FieldTraitsList<T, StringFieldTrai
     {
         UInt32 size = 0;
         source.getValue(size);
-        object.resize(size);
-        source.get(object.data(), size);
+        object.resize(std::min<std::size_t>(size, source.getRest()));
+        source.get(object.data(), object.size());
     }
 };
 
@@ -65,11 +68,16 @@ template <class T> struct ColorFieldTraits : TextFieldTraits<T>
 };
 
 /// Six numbers of a box, lower corner first. A sphere is written as four.
-template <class T> struct VolumeFieldTraits : FieldTraitsRecurseBase<T>
+template <class T> struct VolumeFieldTraits : FieldTraitsList<T, VolumeFieldTraits<T>>
 {
+    typedef const T &ArgumentType;
+    typedef FieldTraitsList<T, VolumeFieldTraits<T>> Lists;
     enum {
         StringConvertable = FieldTraits::ToStringConvertable | FieldTraits::FromStringConvertable
     };
+    using Lists::copyFromBin;
+    using Lists::copyToBin;
+    using Lists::getBinSize;
 
     static T getDefault() { return T(); }
     static bool getFromString(T &outVal, const Char8 *&inVal)
@@ -78,6 +86,18 @@ template <class T> struct VolumeFieldTraits : FieldTraitsRecurseBase<T>
         return true;
     }
     static void putToString(const T &inVal, std::string &outStr) { outStr = volumeText(inVal); }
+
+    static UInt32 getBinSize(const T &) { return sizeof(VolumeBytes); }
+    static void copyToBin(BinaryDataHandler &target, const T &object)
+    {
+        target.putValue(VolumeBytes::of(object));
+    }
+    static void copyFromBin(BinaryDataHandler &source, T &object)
+    {
+        VolumeBytes bytes;
+        source.getValue(bytes);
+        bytes.assignTo(object);
+    }
 
 private:
     static std::string volumeText(const Volume &volume);

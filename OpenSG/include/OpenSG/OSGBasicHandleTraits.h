@@ -6,7 +6,8 @@
 OSG_BEGIN_NAMESPACE
 
 /// Traits of the five handles at the top of the tree: they have a text form, the address, which
-/// can only be written. In binary form a handle is the id of its container.
+/// can only be written. In binary form a handle is the id of its container; one of another class
+/// reads as null.
 template <class PtrT> struct BasicHandleTraits : public FieldTraits
 {
     typedef const PtrT &ArgumentType;
@@ -30,11 +31,12 @@ template <class PtrT> struct BasicHandleTraits : public FieldTraits
             copyToBin(target, objects[i]);
         }
     }
-    static void copyFromBin(BinaryDataHandler &source, FieldContainerPtrBase &object)
+    template <class HandleT> static void copyFromBin(BinaryDataHandler &source, HandleT &object)
     {
         UInt32 id = 0;
         source.getValue(id);
-        object = HandleText::containerOf(id);
+        FieldContainerPtrBase &handle = object;
+        handle = HandleText::containerOf(id, FieldDataTraits<HandleT>::getType());
     }
     static void copyFromBin(BinaryDataHandler &source, PtrT *objects, UInt32 count)
     {

@@ -21,6 +21,8 @@ public:
 
     /// Bytes written so far.
     std::size_t getSize() const { return _bytes.size(); }
+    /// Bytes still to be read.
+    std::size_t getRest() const { return _bytes.size() - _readPosition; }
 
 private:
     std::vector<UInt8> _bytes;

@@ -49,8 +49,9 @@ public:
     virtual void changed(BitVector whichField, UInt32 origin);
 
     /// Binary form of the masked fields, in the order of their ids; the same mask has to be given
-    /// to write and to read it. A pointer is the id of its container. Attachments are left out.
-    /// Nothing follows what was read until the edit is ended.
+    /// to write and to read it. A pointer is the id of its container, and null if that is none
+    /// of its class when it is read. Left out are attachments, and what nodes, cores and
+    /// attachments know of each other. Nothing follows what was read until the edit is ended.
     virtual UInt32 getBinSize(const BitVector &whichField);
     virtual void copyToBin(BinaryDataHandler &target, const BitVector &whichField);
     virtual void copyFromBin(BinaryDataHandler &source, const BitVector &whichField);
@@ -97,6 +98,8 @@ private:
     template <class Function> void forEachField(BitVector whichField, const Function &function);
     static void enterInStore(const FieldContainerPtr &container);
     void destroy();
+    /// The fields whose containers know this one in return: only methods may set them.
+    virtual BitVector getMutualFields() const { return FieldBits::NoField; }
 
     static FieldContainerType _type;
 };

@@ -7,6 +7,9 @@
 
 OSG_BEGIN_NAMESPACE
 
+class DataType;
+class FieldContainerType;
+
 /// Handle to a container of any type.
 class FieldContainerPtr : public FieldContainerPtrBase
 {
@@ -126,7 +129,11 @@ namespace HandleText {
 std::ostream &write(std::ostream &os, const Char8 *kind, const FieldContainerPtrBase &handle);
 /// The container's address as printf's %p has it.
 std::string address(const FieldContainerPtrBase &handle);
-FieldContainerPtr containerOf(UInt32 id);
+/// Whether handles of a content type may refer to containers of a type: the content type is called
+/// after a container type, with "Ptr" behind it.
+bool leadsTo(const DataType &handle, const FieldContainerType &target);
+/// The container with this id; null if handles of the content type may not refer to it.
+FieldContainerPtr containerOf(UInt32 id, const DataType &handle);
 
 } // namespace HandleText
 

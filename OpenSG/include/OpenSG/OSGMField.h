@@ -177,13 +177,14 @@ void MField<FieldTypeT, fieldNameSpace>::copyToBin(BinaryDataHandler &target)
     }
 }
 
+/// The list ends with the bytes, whatever length they promise.
 template <class FieldTypeT, Int32 fieldNameSpace>
 void MField<FieldTypeT, fieldNameSpace>::copyFromBin(BinaryDataHandler &source)
 {
     UInt32 count = 0;
     source.getValue(count);
     _values.clear();
-    for (UInt32 i = 0; i < count; ++i) {
+    for (UInt32 i = 0; i < count && source.getRest() > 0; ++i) {
         FieldTypeT value {};
         MFieldTraits::copyFromBin(source, value);
         _values.push_back(value);

@@ -79,6 +79,10 @@ protected:
 private:
     static constexpr UInt32 allBits = 0xffffffff;
 
+    BitVector getMutualFields() const override
+    {
+        return ParentFieldMask | ChildrenFieldMask | CoreFieldMask;
+    }
     void exchangeCore(const NodeCorePtr &core);
     void setParent(const NodePtr &parent);
     void markVolumeInvalid();

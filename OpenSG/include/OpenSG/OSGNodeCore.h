@@ -33,6 +33,7 @@ protected:
     virtual void adjustVolume(Volume &volume);
 
 private:
+    BitVector getMutualFields() const override { return ParentsFieldMask; }
     void addParent(const NodePtr &parent);
     void subParent(const NodePtr &parent);
 };

@@ -80,18 +80,21 @@ void FieldContainer::dump(UInt32 uiIndent, const BitVector bvFlags) const
 UInt32 FieldContainer::getBinSize(const BitVector &whichField)
 {
     UInt32 size = 0;
-    forEachField(whichField, [&](UInt32 id) { size += getField(id)->getBinSize(); });
+    forEachField(
+        whichField & ~getMutualFields(), [&](UInt32 id) { size += getField(id)->getBinSize(); });
     return size;
 }
 
 void FieldContainer::copyToBin(BinaryDataHandler &target, const BitVector &whichField)
 {
-    forEachField(whichField, [&](UInt32 id) { getField(id)->copyToBin(target); });
+    forEachField(
+        whichField & ~getMutualFields(), [&](UInt32 id) { getField(id)->copyToBin(target); });
 }
 
 void FieldContainer::copyFromBin(BinaryDataHandler &source, const BitVector &whichField)
 {
-    forEachField(whichField, [&](UInt32 id) { getField(id)->copyFromBin(source); });
+    forEachField(
+        whichField & ~getMutualFields(), [&](UInt32 id) { getField(id)->copyFromBin(source); });
 }
 
 void FieldContainer::executeSync(FieldContainer &other, const BitVector &whichField)

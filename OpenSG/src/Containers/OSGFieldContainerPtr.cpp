@@ -3,8 +3,10 @@
 #include <OpenSG/OSGFieldContainerFactory.h>
 #include <OpenSG/OSGThread.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <ostream>
+#include <string_view>
 
 OSG_BEGIN_NAMESPACE
 
@@ -65,9 +67,23 @@ std::string HandleText::address(const FieldContainerPtrBase &handle)
     return text;
 }
 
-FieldContainerPtr HandleText::containerOf(UInt32 id)
+bool HandleText::leadsTo(const DataType &handle, const FieldContainerType &target)
 {
-    return FieldContainerFactory::the()->getContainer(id);
+    constexpr std::string_view suffix = "Ptr";
+    std::string name = handle.getCName();
+    const std::size_t end = name.size() - std::min(name.size(), suffix.size());
+    if (name.compare(end, suffix.size(), suffix) != 0) {
+        return false;
+    }
+    const FieldContainerType *type
+        = FieldContainerFactory::the()->findType(name.erase(end).c_str());
+    return type && target.isDerivedFrom(*type);
+}
+
+FieldContainerPtr HandleText::containerOf(UInt32 id, const DataType &handle)
+{
+    const FieldContainerPtr container = FieldContainerFactory::the()->getContainer(id);
+    return container && leadsTo(handle, container->getType()) ? container : FieldContainerPtr();
 }
 
 std::ostream &operator<<(std::ostream &os, const FieldContainerPtr &handle)
