@@ -8,6 +8,7 @@
 #include <OpenSG/OSGFieldFactory.h>
 #include <OpenSG/OSGGraphOpFactory.h>
 #include <OpenSG/OSGNode.h>
+#include <OpenSG/OSGSFBaseTypes.h>
 
 #include <algorithm>
 #include <memory>
@@ -26,8 +27,16 @@ struct Registration
 
 void appendKey(const FieldContainerPtr &container, BinaryDataHandler &key);
 
-// Everything is preceded by its size, or is followed by what cannot begin another of its kind: no
-// two fields run into each other.
+void appendText(const Field &field, BinaryDataHandler &key)
+{
+    SFString text;
+    field.getValueByStr(text.getValue());
+    text.copyToBin(key);
+}
+
+// A type of others may have a binary form that does not tell its values apart, or none at all; then
+// its text may do so. Everything is preceded by its size, or is followed by what cannot begin
+// another of its kind: no two fields run into each other.
 void appendFieldKey(Field &field, BinaryDataHandler &key)
 {
     const FieldSyntax::Kind kind = FieldSyntax::of(field.getType()).kind;
@@ -42,6 +51,9 @@ void appendFieldKey(Field &field, BinaryDataHandler &key)
         }
     } else {
         field.copyToBin(key);
+        if (kind == FieldSyntax::Text) {
+            appendText(field, key);
+        }
     }
 }
 
