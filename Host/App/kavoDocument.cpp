@@ -8,6 +8,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <utility>
+
 kavoDocument::kavoDocument(kavoChangeMonitor &changes, QObject *parent)
     : QObject(parent)
     , m_changes(changes)
@@ -25,6 +27,7 @@ void kavoDocument::setFiles(const QStringList &files)
     m_file = isSaved ? files.first() : QString();
     m_changes.drain(); // of what happened while it was built
     m_edits.reset();
+    m_hasDiscardedEdits = false;
     setModified(false);
 }
 
@@ -42,6 +45,20 @@ QString kavoDocument::suggestedFile() const
         return m_file;
     const QFileInfo first(m_files.value(0, tr("Scene")));
     return first.dir().filePath(first.completeBaseName() + '.' + kavoSceneSaver::suffix());
+}
+
+void kavoDocument::discardEdits()
+{
+    if (!m_isModified)
+        return;
+    m_hasDiscardedEdits = true;
+    setModified(false);
+}
+
+void kavoDocument::keepEdits()
+{
+    if (std::exchange(m_hasDiscardedEdits, false))
+        setModified(true);
 }
 
 void kavoDocument::save(const QString &file)

@@ -27,6 +27,12 @@ public:
     QString suggestedFile() const;
     bool isModified() const { return m_isModified; }
 
+    /// The scene makes way for another, with its edits so far: it counts as unmodified until it is
+    /// edited again.
+    void discardEdits();
+    /// It stays after all, and so do the edits, unless they have been saved meanwhile.
+    void keepEdits();
+
     /// \throws kavoTaskError; then everything is as before
     void save(const QString &file);
 
@@ -42,4 +48,5 @@ private:
     QStringList m_files;
     QString m_file;
     bool m_isModified = false;
+    bool m_hasDiscardedEdits = false;
 };

@@ -101,7 +101,8 @@ void kavoMainWindow::open(const QStringList &files)
 {
     m_loader->load(files);
     m_files = files;
-    m_dropsEdits = m_document->isModified();
+    if (m_loader->isLoading())
+        m_document->discardEdits();
 }
 
 bool kavoMainWindow::select(const QString &nameOrId)
@@ -241,6 +242,8 @@ void kavoMainWindow::connectLoader()
     connect(m_loader, &kavoSceneLoader::progress, m_progress, &kavoLoadProgress::report);
     m_loader->setGate([this] { return mayReplaceScene(); });
     connect(m_loader, &kavoSceneLoader::loaded, this, &kavoMainWindow::showScene);
+    connect(m_loader, &kavoSceneLoader::canceled, m_document, &kavoDocument::keepEdits);
+    connect(m_loader, &kavoSceneLoader::failed, m_document, &kavoDocument::keepEdits);
     connect(m_loader, &kavoSceneLoader::canceled, this, [this] {
         m_progress->hide();
         statusBar()->showMessage(tr("Loading canceled"), 5000);
@@ -281,7 +284,7 @@ void kavoMainWindow::openInstead(const QStringList &files)
 bool kavoMainWindow::mayReplaceScene()
 {
     m_changes->drain(); // of the edits of this round
-    return m_dropsEdits || m_saving->mayClose();
+    return m_saving->mayClose();
 }
 
 void kavoMainWindow::rememberFile(const QString &file)

@@ -96,5 +96,4 @@ private:
     kavoPluginLoader m_plugins;
     QStringList m_files;
     bool m_usesSettings = false;
-    bool m_dropsEdits = false; // those made before the load under way began
 };

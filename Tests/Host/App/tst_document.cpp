@@ -36,6 +36,9 @@ private slots:
     void withoutASceneNothingIsModified();
     void modifyingIsToldOnce();
     void savingMakesItUnmodified();
+    void discardedEditsAreBackWhenTheSceneStays();
+    void discardedEditsThatAreSavedAreNotBack();
+    void editsAfterDiscardingModifyIt();
     void aFailedSaveKeepsItModified();
     void theTitleNamesAllFiles();
     void onlySceneFilesAreSavedInPlace_data();
@@ -43,6 +46,8 @@ private slots:
     void theSuggestedFileIsBesideTheOpenedOne();
 
 private:
+    void edit();
+
     std::unique_ptr<kavoChangeMonitor> m_changes;
     std::unique_ptr<kavoDocument> m_document;
     QTemporaryDir m_folder;
@@ -73,6 +78,12 @@ void tst_document::cleanup()
 {
     m_document.reset();
     m_changes.reset();
+}
+
+void tst_document::edit()
+{
+    osg::endEditCP(m_root, osg::Node::TravMaskFieldMask);
+    m_changes->drain();
 }
 
 void tst_document::anOpenedSceneIsNotModified()
@@ -166,17 +177,14 @@ void tst_document::withoutASceneNothingIsModified()
 void tst_document::modifyingIsToldOnce()
 {
     QSignalSpy changed(m_document.get(), &kavoDocument::changed);
-    for (int i = 0; i < 3; ++i) {
-        osg::endEditCP(m_root, osg::Node::TravMaskFieldMask);
-        m_changes->drain();
-    }
+    for (int i = 0; i < 3; ++i)
+        edit();
     QCOMPARE(changed.size(), 1);
 }
 
 void tst_document::savingMakesItUnmodified()
 {
-    osg::endEditCP(m_root, osg::Node::TravMaskFieldMask);
-    m_changes->drain();
+    edit();
     m_document->save(m_folder.filePath("ship.osg"));
     m_changes->drain();
     QVERIFY(!m_document->isModified());
@@ -184,10 +192,40 @@ void tst_document::savingMakesItUnmodified()
     QCOMPARE(m_document->title(), QStringLiteral("ship.osg"));
 }
 
+void tst_document::discardedEditsAreBackWhenTheSceneStays()
+{
+    m_document->discardEdits();
+    m_document->keepEdits();
+    QVERIFY(!m_document->isModified());
+    edit();
+    m_document->discardEdits();
+    QVERIFY(!m_document->isModified());
+    m_document->keepEdits();
+    QVERIFY(m_document->isModified());
+}
+
+void tst_document::discardedEditsThatAreSavedAreNotBack()
+{
+    edit();
+    m_document->discardEdits();
+    m_document->save(m_folder.filePath("ship.osg"));
+    m_document->keepEdits();
+    QVERIFY(!m_document->isModified());
+}
+
+void tst_document::editsAfterDiscardingModifyIt()
+{
+    edit();
+    m_document->discardEdits();
+    edit();
+    QVERIFY(m_document->isModified());
+    m_document->keepEdits();
+    QVERIFY(m_document->isModified());
+}
+
 void tst_document::aFailedSaveKeepsItModified()
 {
-    osg::endEditCP(m_root, osg::Node::TravMaskFieldMask);
-    m_changes->drain();
+    edit();
     QVERIFY_EXCEPTION_THROWN(
         m_document->save(m_folder.filePath("no folder/ship.osg")), kavoTaskError);
     QVERIFY(m_document->isModified());
