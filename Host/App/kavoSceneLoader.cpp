@@ -9,11 +9,14 @@
 
 #include <kavoLog.h>
 
+#include <QApplication>
 #include <QFileInfo>
+#include <QPointer>
 
 namespace {
 
 constexpr int parsingShare = 70; // per cent of a load, as far as the progress shows
+constexpr int retryMilliseconds = 100;
 
 QString baseName(const QString &file)
 {
@@ -27,6 +30,9 @@ kavoSceneLoader::kavoSceneLoader(QObject *parent)
     , m_importer(new kavoSceneImporter(this))
 {
     qRegisterMetaType<osg::NodePtr>();
+    m_retry.setSingleShot(true);
+    m_retry.setInterval(retryMilliseconds);
+    connect(&m_retry, &QTimer::timeout, this, &kavoSceneLoader::conclude);
     connect(m_importer, &kavoSceneImporter::finished, this, &kavoSceneLoader::addFile);
     connect(m_importer, &kavoSceneImporter::failed, this, &kavoSceneLoader::fail);
     connect(m_importer, &kavoSceneImporter::progress, this, [this](int percent) {
@@ -102,6 +108,8 @@ void kavoSceneLoader::build()
 
 void kavoSceneLoader::conclude()
 {
+    if (QApplication::activeModalWidget())
+        return m_retry.start();
     m_cameras = m_builder->cameras();
     kavoNodePtr root = m_builder->root();
     for (const QString &file : QStringList(m_sceneFiles)) {
@@ -111,12 +119,23 @@ void kavoSceneLoader::conclude()
             return fail(file, error.message());
         }
     }
-    if (!m_mayReplaceScene())
-        return cancel();
+    if (!mayReplaceScene())
+        return;
     kavoSceneCameras::set(m_cameras);
     reset();
     emit progress(100, QString());
     emit loaded(root);
+}
+
+// The gate may run an event loop, in which this load ends or another begins.
+bool kavoSceneLoader::mayReplaceScene()
+{
+    const QPointer<kavoSceneBuilder> builder = m_builder.get();
+    const bool mayReplace = m_mayReplaceScene();
+    const bool isSameLoad = builder && builder == m_builder.get();
+    if (isSameLoad && !mayReplace)
+        cancel();
+    return isSameLoad && mayReplace;
 }
 
 // Below what was built of other files; a scene file on its own is the scene.
@@ -139,6 +158,7 @@ void kavoSceneLoader::fail(const QString &file, const QString &reason)
 
 void kavoSceneLoader::reset()
 {
+    m_retry.stop();
     m_files.clear();
     m_sceneFiles.clear();
     m_cameras.clear();

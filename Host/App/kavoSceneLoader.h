@@ -8,6 +8,7 @@
 
 #include <QObject>
 #include <QStringList>
+#include <QTimer>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -30,7 +31,8 @@ public:
     ~kavoSceneLoader() override;
 
     /// Begins to load; a load under way is canceled first. Ends in exactly one of `loaded`,
-    /// `failed` and `canceled`; an empty list loads nothing. The open scene is not touched.
+    /// `failed` and `canceled`; an empty list loads nothing. The open scene is not touched. As
+    /// long as a modal dialog is open, which is about that scene, the new one waits.
     void load(const QStringList &files);
 
     /// Ends a load under way at once, with `canceled`; otherwise nothing happens.
@@ -65,6 +67,7 @@ private:
     void addFile(const std::shared_ptr<kavoImportedScene> &file);
     void build();
     void conclude();
+    bool mayReplaceScene();
     kavoNodePtr withSceneFile(const kavoNodePtr &root, const QString &file);
     void fail(const QString &file, const QString &reason);
     void reset();
@@ -76,4 +79,5 @@ private:
     std::function<bool()> m_mayReplaceScene = [] { return true; };
     kavoSceneImporter *m_importer;
     std::unique_ptr<kavoSceneBuilder> m_builder;
+    QTimer m_retry; ///< of concluding
 };

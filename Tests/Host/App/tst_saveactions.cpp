@@ -30,18 +30,23 @@ private slots:
     void lookingAtAModelIsNoChange();
     void ctrlSSavesAnOpenedSceneFile();
     void saveAsAsksForTheFileAndAddsTheSuffix();
+    void anotherSceneWaitsUntilTheSaveDialogIsGone();
     void quittingWithoutChangesAsksNothing();
     void quittingAsksAboutUnsavedChanges_data();
     void quittingAsksAboutUnsavedChanges();
     void openingAnotherSceneAsksToo();
     void editsMadeWhileAnotherSceneLoadsAreAskedAbout_data();
     void editsMadeWhileAnotherSceneLoadsAreAskedAbout();
+    void editsMadeAfterDiscardingAreAskedAbout();
+    void aCanceledLoadKeepsDiscardedEdits();
     void aSaveThatFailsIsShownAndKeepsTheWindow();
     void cleanupTestCase();
 
 private:
     void edit();
+    void writeScene(const QString &file, const QByteArray &rootName) const;
     QByteArray saved() const;
+    void answerSaveDialog(const QString &file);
     void drop(const QString &file);
     void answerNextQuestion(QMessageBox::StandardButton button);
 
@@ -63,10 +68,7 @@ void tst_saveactions::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
     m_file = m_folder->filePath("ship.osg");
-    QFile file(m_file);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("DEF Ship Node { }");
-    file.close();
+    writeScene(m_file, "Ship");
     QSignalSpy opened(m_window, &kavoMainWindow::opened);
     m_window->open({ m_file });
     QVERIFY(opened.wait());
@@ -80,10 +82,28 @@ void tst_saveactions::edit()
     QTRY_VERIFY(m_window->isWindowModified());
 }
 
+void tst_saveactions::writeScene(const QString &file, const QByteArray &rootName) const
+{
+    QFile scene(file);
+    QVERIFY(scene.open(QIODevice::WriteOnly));
+    scene.write("DEF " + rootName + " Node { }");
+}
+
 QByteArray tst_saveactions::saved() const
 {
     QFile file(m_file);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void tst_saveactions::answerSaveDialog(const QString &file)
+{
+    QTimer::singleShot(300, this, [file] {
+        auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+        QVERIFY(dialog);
+        auto *name = dialog->findChild<QLineEdit *>();
+        name->setText(file);
+        QTest::keyClick(name, Qt::Key_Return);
+    });
 }
 
 void tst_saveactions::drop(const QString &file)
@@ -141,17 +161,26 @@ void tst_saveactions::ctrlSSavesAnOpenedSceneFile()
 void tst_saveactions::saveAsAsksForTheFileAndAddsTheSuffix()
 {
     edit();
-    QTimer::singleShot(300, this, [this] {
-        auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
-        QVERIFY(dialog);
-        auto *name = dialog->findChild<QLineEdit *>();
-        name->setText(m_folder->filePath("copy"));
-        QTest::keyClick(name, Qt::Key_Return);
-    });
+    answerSaveDialog(m_folder->filePath("copy"));
     QTest::keyClick(m_window, Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
     QCOMPARE(m_window->document().file(), m_folder->filePath("copy.osg"));
     QVERIFY(QFile::exists(m_folder->filePath("copy.osg")));
     QVERIFY(saved().contains("DEF Ship"));
+}
+
+void tst_saveactions::anotherSceneWaitsUntilTheSaveDialogIsGone()
+{
+    const QString tank = m_folder->filePath("tank.osg");
+    writeScene(tank, "Tank");
+    m_window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_window));
+    QSignalSpy opened(m_window, &kavoMainWindow::opened);
+    m_window->open({ tank });
+    answerSaveDialog(m_file = m_folder->filePath("copy.osg"));
+    QTest::keyClick(m_window, Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+    QVERIFY(saved().contains("Ship"));
+    QVERIFY(opened.count() == 1 || opened.wait());
+    QCOMPARE(m_window->document().file(), tank);
 }
 
 void tst_saveactions::quittingWithoutChangesAsksNothing()
@@ -210,6 +239,29 @@ void tst_saveactions::editsMadeWhileAnotherSceneLoadsAreAskedAbout()
     QCOMPARE(m_question, QStringLiteral("'ship.osg' has changes that are not saved."));
     QTEST(opened.count() == 1, "opens");
     QCOMPARE(kavoScenegraph::getRoot() == before, canceled.count() == 1);
+}
+
+void tst_saveactions::editsMadeAfterDiscardingAreAskedAbout()
+{
+    edit();
+    QSignalSpy canceled(m_window, &kavoMainWindow::openCanceled);
+    answerNextQuestion(QMessageBox::Discard);
+    drop(m_file);
+    osg::setName(kavoScenegraph::getRoot(), "Yacht");
+    answerNextQuestion(QMessageBox::Cancel);
+    QTRY_COMPARE(canceled.count(), 1);
+    QVERIFY(!m_question.isEmpty());
+    QVERIFY(m_window->isWindowModified());
+}
+
+void tst_saveactions::aCanceledLoadKeepsDiscardedEdits()
+{
+    edit();
+    answerNextQuestion(QMessageBox::Discard);
+    drop(m_file);
+    QVERIFY(!m_window->isWindowModified());
+    m_window->findChild<QAbstractButton *>("cancel")->click();
+    QVERIFY(m_window->isWindowModified());
 }
 
 void tst_saveactions::aSaveThatFailsIsShownAndKeepsTheWindow()

@@ -15,6 +15,14 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <atomic>
+#include <chrono>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <thread>
+#include <unistd.h>
+#include <utility>
+
 using namespace kavoTestLoad;
 
 namespace {
@@ -44,6 +52,39 @@ QString damagedFile(const QTemporaryDir &folder, Damage damage)
     Assimp::Exporter().Export(scene.get(), "assbin", file.toStdString());
     return file;
 }
+
+/// A pipe that keeps its readers waiting for a moment, then is empty whenever they look.
+class SlowPipe
+{
+public:
+    explicit SlowPipe(const std::string &pipe)
+        : m_writer([this, pipe] { release(pipe); })
+    {
+    }
+
+    ~SlowPipe()
+    {
+        m_isOver = true;
+        m_writer.join();
+    }
+
+    bool isReleased() const { return m_isReleased; }
+
+private:
+    void release(const std::string &pipe)
+    {
+        std::this_thread::sleep_for(std::chrono::milliseconds(200));
+        m_isReleased = true;
+        while (!m_isOver) {
+            ::close(::open(pipe.c_str(), O_WRONLY | O_NONBLOCK));
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        }
+    }
+
+    std::atomic_bool m_isReleased { false };
+    std::atomic_bool m_isOver { false };
+    std::thread m_writer;
+};
 
 } // namespace
 
@@ -168,6 +209,18 @@ private slots:
         QCOMPARE(loaded.count() + failed.count(), 0);
     }
 
+    void shuttingDownWaitsForTheWorker()
+    {
+        const QTemporaryDir folder;
+        const std::string pipe = folder.filePath("pipe.obj").toStdString();
+        QCOMPARE(mkfifo(pipe.c_str(), 0600), 0);
+        kavoSceneLoader loader;
+        loader.load({ QString::fromStdString(pipe) });
+        const SlowPipe writer(pipe);
+        loader.shutDown();
+        QVERIFY(writer.isReleased());
+    }
+
     void aSceneUnderConstructionCanBeCanceled()
     {
         kavoSceneLoader loader;
@@ -195,6 +248,37 @@ private slots:
         QCOMPARE(canceled.count(), 1);
         QTest::qWait(600);
         QCOMPARE(loaded.count(), 1);
+    }
+
+    void aLoadCanceledByItsGateIsOver()
+    {
+        kavoSceneLoader loader;
+        QSignalSpy canceled(&loader, &kavoSceneLoader::canceled);
+        QSignalSpy loaded(&loader, &kavoSceneLoader::loaded);
+        loader.setGate([&] {
+            loader.cancel();
+            return true;
+        });
+        loader.load({ model(lights) });
+        QTRY_VERIFY(!loader.isLoading());
+        QCOMPARE(canceled.count(), 1);
+        QCOMPARE(loaded.count(), 0);
+    }
+
+    void aLoadReplacedByItsGateIsOver()
+    {
+        kavoSceneLoader loader;
+        connect(&loader, &kavoSceneLoader::loaded, &kavoTestLoad::show);
+        bool isAsked = false;
+        loader.setGate([&] {
+            if (!std::exchange(isAsked, true))
+                loader.load({ model(truck) });
+            return true;
+        });
+        loader.load({ model(lights) });
+        QTRY_VERIFY(!loader.isLoading());
+        QVERIFY(find("Geometry-mesh002Node") != osg::NullFC);
+        QVERIFY(find("Lamp") == osg::NullFC);
     }
 
     void progressRisesToAHundred()
