@@ -145,20 +145,25 @@ void QKAVODockWindowManager::show(const QString &key)
 {
     if (!m_windows.contains(key))
         return;
-    m_windows[key].dock->toggleView(true);
-    m_windows[key].dock->raise();
+    ads::CDockWidget *dock = m_windows[key].dock;
+    dock->toggleView(true);
+    dock->raise();
 }
 
 void QKAVODockWindowManager::toggle(const QString &key)
 {
-    const Window &window = m_windows[key];
-    if (!window.dock->isClosed() && window.dock->isCurrentTab()) {
-        window.dock->toggleView(false);
-    } else {
+    if (!m_windows.contains(key))
+        return; // deleted by a receiver of the action's other signals
+    ads::CDockWidget *dock = m_windows[key].dock;
+    if (!dock->isClosed() && dock->isCurrentTab())
+        dock->toggleView(false);
+    else
         show(key);
-        focusFirstIn(window.widget);
-    }
-    window.dock->toggleViewAction()->setChecked(!window.dock->isClosed());
+    if (!m_windows.contains(key))
+        return; // deleted by a receiver of the dock's
+    if (!dock->isClosed())
+        focusFirstIn(m_windows[key].widget);
+    dock->toggleViewAction()->setChecked(!dock->isClosed());
 }
 
 bool QKAVODockWindowManager::areTabbed(const QString &key, const QString &otherKey) const

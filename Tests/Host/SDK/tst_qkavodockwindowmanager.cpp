@@ -17,6 +17,9 @@ class tst_QKAVODockWindowManager : public QObject
 {
     Q_OBJECT
 
+public slots:
+    void deleteScene() { delete m_docks->window("Scene"); }
+
 private slots:
     void init();
     void cleanup();
@@ -35,6 +38,8 @@ private slots:
     void theMenuReceivesTheToggleAction();
     void theHintKeyIsKept();
     void aDeletedWindowLeaves();
+    void aWindowMayBeDeletedWhenItIsHidden_data();
+    void aWindowMayBeDeletedWhenItIsHidden();
     void aKeyIsFreeAgainOnceItsWindowIsDeleted();
     void theStateRemembersClosedWindows();
     void theStateRemembersWhichTabIsInFront();
@@ -201,6 +206,29 @@ void tst_QKAVODockWindowManager::aDeletedWindowLeaves()
     delete scene;
     QCOMPARE(m_docks->keys(), QStringList { "Log" });
     QCOMPARE(changes.count(), 1);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(m_docks->window("Log")->isVisible());
+}
+
+void tst_QKAVODockWindowManager::aWindowMayBeDeletedWhenItIsHidden_data()
+{
+    QTest::addColumn<bool>("isAction");
+    QTest::addColumn<QByteArray>("signal");
+    QTest::newRow("by its action") << true << QByteArray(SIGNAL(toggled(bool)));
+    QTest::newRow("by its dock") << false << QByteArray(SIGNAL(closed()));
+}
+
+void tst_QKAVODockWindowManager::aWindowMayBeDeletedWhenItIsHidden()
+{
+    QFETCH(bool, isAction);
+    QFETCH(QByteArray, signal);
+    add("Log", "Log");
+    QObject *dock = add("Scene", "Scene")->parent();
+    QAction *action = m_docks->toggleAction("Scene");
+    QVERIFY(connect(isAction ? action : dock, signal, this, SLOT(deleteScene())));
+    action->trigger();
+    QCOMPARE(m_docks->keys(), QStringList { "Log" });
+    QVERIFY(!m_docks->window("Scene"));
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY(m_docks->window("Log")->isVisible());
 }
