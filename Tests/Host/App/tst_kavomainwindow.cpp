@@ -18,6 +18,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QPushButton>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -190,7 +191,16 @@ void tst_kavoMainWindow::escapeInTheSceneTreeCancelsALoadFirst()
 void tst_kavoMainWindow::theEditMenuDeletesNodes()
 {
     const QList<QAction *> offered = m_window->menuBar()->actions().at(1)->menu()->actions();
-    QVERIFY(offered.contains(action("Delete Node...")));
+    QAction *deletion = action("Delete Node...");
+    QVERIFY(offered.contains(deletion));
+    QVERIFY(m_window->select("Tyre"));
+    QTimer::singleShot(200, this, [] {
+        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        QVERIFY(box);
+        QTest::mouseClick(static_cast<QWidget *>(box->button(QMessageBox::Yes)), Qt::LeftButton);
+    });
+    deletion->trigger();
+    QTRY_VERIFY(!m_window->select("Tyre"));
 }
 
 void tst_kavoMainWindow::droppedFilesAreOpened()
