@@ -20,6 +20,7 @@ private slots:
 
     void filesBeginWithTheTopRow();
     void commentsInTheHeaderArePassedOver();
+    void theHeaderMayBeOneLine();
     void writtenImagesReadBack_data();
     void writtenImagesReadBack();
     void whatIsNoImageIsRefused_data();
@@ -61,6 +62,13 @@ void tst_ImageFile::commentsInTheHeaderArePassedOver()
     QVERIFY(m_image->read(fileWith("P6\n# made by hand\n1\n# one\n1 255\nrgb")));
     QCOMPARE(m_image->getPixelFormat(), UInt32(Image::OSG_RGB_PF));
     QCOMPARE(m_image->getSize(), UInt32(3));
+}
+
+void tst_ImageFile::theHeaderMayBeOneLine()
+{
+    QVERIFY(m_image->read(fileWith("P5 2 1 255\nab")));
+    QCOMPARE(m_image->getWidth(), 2);
+    QCOMPARE(QByteArray(reinterpret_cast<const char *>(m_image->getData()), 2), QByteArray("ab"));
 }
 
 void tst_ImageFile::writtenImagesReadBack_data()

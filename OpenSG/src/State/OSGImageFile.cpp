@@ -38,8 +38,8 @@ void readRows(std::istream &in, Image &image, std::streamsize rowSize)
 
 bool readImage(std::istream &in, Image &image)
 {
-    std::string magic;
-    std::getline(in, magic, '\n');
+    std::string magic(2, '\0');
+    in.read(magic.data(), 2);
     const bool isGrey = magic == "P5";
     const Int32 width = readNumber(in);
     const Int32 height = readNumber(in);
