@@ -1,26 +1,19 @@
 #include "OSGFieldSampler.h"
 #include "kavoMetaMethods.h"
-#include "kavoTreeRows.h"
+#include "kavoModuleFixture.h"
 
-#include <QKAVODockWindowManager.h>
 #include <kavoConsoleCapture.h>
 #include <kavoController.h>
 #include <kavoIconManager.h>
-#include <kavoNodeEditor.h>
 #include <kavoNodeEditorGUI.h>
-#include <kavoScenegraph.h>
-#include <kavoTestHost.h>
-#include <kavoTestScene.h>
 
-#include <QAction>
 #include <QGridLayout>
 #include <QStatusBar>
-#include <QtTest>
 
 using namespace kavoTreeRows;
 
 // The module, its window and what they show.
-class TestNodeEditor : public QObject
+class TestNodeEditor : public kavoModuleFixture
 {
     Q_OBJECT
 
@@ -44,15 +37,6 @@ private slots:
     void aNullNodeLeavesTheBareTitle();
     void anExceptionOnShowingTheWindowIsLoggedAndOver();
     void destructionPrintsItsNameAndLeavesTheHost();
-
-private:
-    kavoFCEditorWidget &editor() const;
-    QString title() const;
-    static QString titleOf(const osg::NodePtr &node, const char *name = "Root");
-    void setVisible(bool visible);
-
-    kavoNodeEditor *m_module = nullptr;
-    kavoNodePtr m_node;
 };
 
 void TestNodeEditor::initTestCase()
@@ -68,41 +52,12 @@ void TestNodeEditor::cleanupTestCase()
 
 void TestNodeEditor::init()
 {
-    m_module = new kavoNodeEditor;
-    setVisible(true);
-    m_module->setNode(m_node);
+    start();
 }
 
 void TestNodeEditor::cleanup()
 {
-    kavoScenegraph::setSelectedNode(osg::NullFC);
-    QCoreApplication::processEvents();
-    delete m_module;
-}
-
-kavoFCEditorWidget &TestNodeEditor::editor() const
-{
-    return *m_module->getWidget()->findChild<kavoFCEditorWidget *>();
-}
-
-QString TestNodeEditor::title() const
-{
-    return editor().properties().isEmpty() ? QString() : top(editor())->propertyName();
-}
-
-QString TestNodeEditor::titleOf(const osg::NodePtr &node, const char *name)
-{
-    return QStringLiteral("%1 Node (%2)").arg(name).arg(node.getFieldContainerId());
-}
-
-void TestNodeEditor::setVisible(bool visible)
-{
-    QKAVODockWindowManager &docks = kavoTestHost::docks();
-    if (visible)
-        docks.show("Node Editor");
-    else
-        docks.toggleAction("Node Editor")->trigger();
-    QCOMPARE(m_module->getWidget()->isVisible(), visible);
+    stop();
 }
 
 void TestNodeEditor::itRegistersWithTheHost()

@@ -1,24 +1,17 @@
 #include "OSGFieldSampler.h"
-#include "kavoTreeRows.h"
+#include "kavoModuleFixture.h"
 
-#include <QKAVODockWindowManager.h>
 #include <kavoConsoleCapture.h>
 #include <kavoController.h>
-#include <kavoNodeEditor.h>
-#include <kavoScenegraph.h>
-#include <kavoTestHost.h>
-#include <kavoTestScene.h>
 
 #include <OpenSG/OSGMaterial.h>
 
-#include <QAction>
 #include <QTreeWidget>
-#include <QtTest>
 
 using namespace kavoTreeRows;
 
 // What the module does at the host's messages and its call.
-class TestNodeEditorMessages : public QObject
+class TestNodeEditorMessages : public kavoModuleFixture
 {
     Q_OBJECT
 
@@ -46,15 +39,8 @@ private slots:
     void anExceptionInTheDispatchIsLoggedAndOver();
 
 private:
-    kavoFCEditorWidget &editor() const;
-    QString title() const;
-    static QString titleOf(const osg::NodePtr &node, const char *name = "Root");
     bool send(int id, const boost::any &node = boost::any());
     void updateByMaterial(const boost::any &material);
-    void setVisible(bool visible);
-
-    kavoNodeEditor *m_module = nullptr;
-    kavoNodePtr m_node;
 };
 
 void TestNodeEditorMessages::initTestCase()
@@ -70,31 +56,12 @@ void TestNodeEditorMessages::cleanupTestCase()
 
 void TestNodeEditorMessages::init()
 {
-    m_module = new kavoNodeEditor;
-    setVisible(true);
-    m_module->setNode(m_node);
+    start();
 }
 
 void TestNodeEditorMessages::cleanup()
 {
-    kavoScenegraph::setSelectedNode(osg::NullFC);
-    QCoreApplication::processEvents();
-    delete m_module;
-}
-
-kavoFCEditorWidget &TestNodeEditorMessages::editor() const
-{
-    return *m_module->getWidget()->findChild<kavoFCEditorWidget *>();
-}
-
-QString TestNodeEditorMessages::title() const
-{
-    return editor().properties().isEmpty() ? QString() : top(editor())->propertyName();
-}
-
-QString TestNodeEditorMessages::titleOf(const osg::NodePtr &node, const char *name)
-{
-    return QStringLiteral("%1 Node (%2)").arg(name).arg(node.getFieldContainerId());
+    stop();
 }
 
 bool TestNodeEditorMessages::send(int id, const boost::any &node)
@@ -111,16 +78,6 @@ void TestNodeEditorMessages::updateByMaterial(const boost::any &material)
     if (!material.empty())
         message.set("material", material);
     QCOMPARE(kavoController::call("updateNodeEditorByMaterial", message, 0), 1);
-}
-
-void TestNodeEditorMessages::setVisible(bool visible)
-{
-    QKAVODockWindowManager &docks = kavoTestHost::docks();
-    if (visible)
-        docks.show("Node Editor");
-    else
-        docks.toggleAction("Node Editor")->trigger();
-    QCOMPARE(m_module->getWidget()->isVisible(), visible);
 }
 
 void TestNodeEditorMessages::sceneClearedEmptiesTheEditor()
