@@ -2,9 +2,11 @@
 
 #include <OpenSG/OSGBaseFunctions.h>
 #include <OpenSG/OSGFieldContainerFactory.h>
+#include <OpenSG/OSGGraphOpFactory.h>
 #include <OpenSG/OSGGroup.h>
 #include <OpenSG/OSGMaterialGroup.h>
 #include <OpenSG/OSGPointLight.h>
+#include <OpenSG/OSGSimpleAttachments.h>
 #include <OpenSG/OSGSimpleMaterial.h>
 #include <OpenSG/OSGSwitch.h>
 
@@ -12,8 +14,38 @@
 
 #include <algorithm>
 #include <sstream>
+#include <utility>
 
 using namespace osg;
+
+namespace {
+
+/// Takes the first two nodes out of the tree, and keeps the first.
+class TakingOp : public GraphOp
+{
+public:
+    TakingOp()
+        : GraphOp("Take")
+    {
+    }
+    GraphOp *create() override { return new TakingOp; }
+    void setParams(const std::string) override { }
+    std::string usage() override { return "no parameters"; }
+    bool traverse(NodePtr &root) override
+    {
+        const NodePtr parent = root->getChild(0);
+        taken = NodeRefPtr(parent->getChild(0));
+        parent->subChild(taken.get());
+        parent->subChild(0u);
+        return true;
+    }
+
+    static NodeRefPtr taken;
+};
+
+NodeRefPtr TakingOp::taken;
+
+}
 
 /// Who holds the containers of a file, while it is read and afterwards.
 class tst_SceneFileOwnership : public QObject
@@ -36,6 +68,7 @@ private slots:
     void topNodesSurviveTheOperations();
     void whatIsPointedToSurvivesTheOperations_data();
     void whatIsPointedToSurvivesTheOperations();
+    void whatAnOperationHoldsStaysWhole();
     void containersWithoutPlaceAreNoScene();
 
 private:
@@ -201,6 +234,22 @@ void tst_SceneFileOwnership::whatIsPointedToSurvivesTheOperations()
     QVERIFY(written.find("FCPtrAttributeMap") != std::string::npos);
     QVERIFY(m_text->read(written) != NullFC);
     QCOMPARE(m_text->takeLog(), std::string());
+}
+
+void tst_SceneFileOwnership::whatAnOperationHoldsStaysWhole()
+{
+    TakingOp prototype;
+    GraphOpFactory::the().registerOp(&prototype);
+    GraphOpSeq sequence("Take()");
+    std::istringstream text("Node { children [ Node { attachments [ Name { name \"a\" } ] "
+                            "children [ Node { attachments [ Name { name \"b\" } ] } ] } "
+                            "Node { } ] }");
+    const NodeRefPtr root(SceneFileHandler::the().read(text, "osg", &sequence));
+    const NodeRefPtr taken = std::exchange(TakingOp::taken, NodeRefPtr());
+    GraphOpFactory::the().unRegisterOp(&prototype);
+    QCOMPARE(taken.get().getRefCount(), 1);
+    QCOMPARE(getName(taken.get()), "a");
+    QCOMPARE(getName(taken->getChild(0)), "b");
 }
 
 void tst_SceneFileOwnership::containersWithoutPlaceAreNoScene()

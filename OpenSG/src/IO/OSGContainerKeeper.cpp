@@ -6,6 +6,8 @@
 #include <OpenSG/OSGAttachmentContainer.h>
 
 #include <algorithm>
+#include <iterator>
+#include <unordered_map>
 #include <unordered_set>
 
 OSG_BEGIN_NAMESPACE
@@ -20,7 +22,9 @@ void forEachReachedDirectly(const FieldContainerPtr &container, const TargetFunc
     forEachTarget(container, function);
     if (const auto owner = AttachmentContainerPtr::dcast(container)) {
         for (const auto &[key, attachment] : owner->getSFAttachments()->getValue()) {
-            function(attachment);
+            if (attachment->getInternal().getValue()) {
+                function(attachment);
+            }
         }
     }
 }
@@ -94,11 +98,36 @@ void ContainerKeeper::release(const Containers &results)
     _kept.clear();
 }
 
+// Of those that have not been reached: the ones with more references than the keeper's own and
+// those that they give each other.
+Containers ContainerKeeper::heldElsewhere(const std::unordered_set<UInt32> &reached) const
+{
+    std::unordered_map<UInt32, Int32> known;
+    const auto count = [&](const FieldContainerPtr &container) {
+        if (container) {
+            ++known[container.getFieldContainerId()];
+        }
+    };
+    Containers unreached;
+    std::copy_if(_kept.begin(), _kept.end(), std::back_inserter(unreached),
+        [&](const auto &container) { return !reached.count(container.getFieldContainerId()); });
+    for (const FieldContainerPtr &container : unreached) {
+        count(container);
+        forEachReachedDirectly(container, count);
+    }
+    const auto isHeld = [&](const FieldContainerPtr &container) {
+        return refCount(container) > known[container.getFieldContainerId()];
+    };
+    unreached.erase(std::partition(unreached.begin(), unreached.end(), isHeld), unreached.end());
+    return unreached;
+}
+
 // Containers that refer to each other in a circle do so by attachments somewhere.
 void ContainerKeeper::destroyAllButReachedFrom(const Containers &results)
 {
     std::unordered_set<UInt32> ids;
     reachedFrom(results, ids);
+    reachedFrom(heldElsewhere(ids), ids);
     const auto lost = std::stable_partition(
         _kept.begin(), _kept.end(), [&](const FieldContainerPtr &container) {
             return ids.count(container.getFieldContainerId()) > 0;

@@ -2,6 +2,7 @@
 
 #include <OpenSG/OSGFieldContainer.h>
 
+#include <unordered_set>
 #include <vector>
 
 OSG_BEGIN_NAMESPACE
@@ -24,12 +25,14 @@ public:
     /// With all that they refer to, directly or through others.
     void keepAllFrom(const std::vector<FieldContainerPtr> &containers);
 
-    /// Lets all go. Those that neither anybody has a reference to nor lead the results to are
-    /// destroyed, the results never.
+    /// Lets all go. Destroyed are those that neither the results nor others whom somebody else has
+    /// a reference to lead to, the results never. When every one has a reference they are not
+    /// looked at: a circle that nothing leads to goes only together with another container.
     void release(const std::vector<FieldContainerPtr> &results);
 
 private:
     void destroyAllButReachedFrom(const std::vector<FieldContainerPtr> &results);
+    std::vector<FieldContainerPtr> heldElsewhere(const std::unordered_set<UInt32> &reached) const;
     static Int32 &refCount(const FieldContainerPtr &container);
 
     std::vector<FieldContainerPtr> _kept;
