@@ -120,14 +120,24 @@ NodePtr makeSceneNode(int index)
     return node;
 }
 
-int countNodes(const NodePtr &root)
+struct NodeCounter
 {
-    int count = 0;
-    traverse(root, TraverseEnterFunctor([&](NodePtr &) {
+    Action::ResultE enter(NodePtr &)
+    {
         ++count;
         return Action::Continue;
-    }));
-    return count;
+    }
+
+    int count = 0;
+};
+
+int countNodes(const NodePtr &root)
+{
+    NodeCounter counter;
+    traverse(root,
+        osgTypedMethodFunctor1ObjPtrCPtrRef<Action::ResultE, NodeCounter, NodePtr>(
+            &counter, &NodeCounter::enter));
+    return counter.count;
 }
 
 void nodes()
