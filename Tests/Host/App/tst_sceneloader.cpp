@@ -214,9 +214,9 @@ private slots:
         const QTemporaryDir folder;
         const std::string pipe = folder.filePath("pipe.obj").toStdString();
         QCOMPARE(mkfifo(pipe.c_str(), 0600), 0);
+        const SlowPipe writer(pipe);
         kavoSceneLoader loader;
         loader.load({ QString::fromStdString(pipe) });
-        const SlowPipe writer(pipe);
         loader.shutDown();
         QVERIFY(writer.isReleased());
     }
