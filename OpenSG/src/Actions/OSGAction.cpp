@@ -23,14 +23,10 @@ public:
 
     Action::ResultE visit(const NodePtr &root)
     {
-        Action::ResultE result = Action::Continue;
-        enter(root);
+        Action::ResultE result = enter(root);
         while (!_path.empty()) {
-            if (NodePtr child; takeChild(child)) {
-                enter(child);
-            } else {
-                result = leave();
-            }
+            NodePtr child;
+            result = takeChild(child) ? enter(child) : leave();
         }
         return result;
     }
@@ -50,18 +46,23 @@ private:
     struct Level
     {
         NodePtr node;
-        Action::ResultE result;
-        bool hasChildrenToVisit;
+        Action::ResultE result = Action::Continue;
+        bool hasChildrenToVisit = true;
         UInt32 nextChild = 0;
     };
 
-    void enter(NodePtr node)
+    // Leaves are left at once: most nodes are, and they need no place on the path.
+    Action::ResultE enter(NodePtr node)
     {
-        if (node) {
-            const Action::ResultE result = _enter.call(node);
-            const bool goesOn = result == Action::Continue;
-            _path.push_back({ node, result == Action::Skip ? Action::Continue : result, goesOn });
+        if (!node) {
+            return Action::Continue;
         }
+        const Action::ResultE result = _enter.call(node);
+        if (result == Action::Continue && node->getNChildren() > 0) {
+            _path.push_back({ node });
+            return result;
+        }
+        return leave(node, result == Action::Skip ? Action::Continue : result);
     }
 
     // By index: a callback may change the list that it is called from.
@@ -78,9 +79,14 @@ private:
 
     Action::ResultE leave()
     {
-        Level level = _path.back();
+        const Level level = _path.back();
         _path.pop_back();
-        const Action::ResultE result = _leave.call(level.node, level.result);
+        return leave(level.node, level.result);
+    }
+
+    Action::ResultE leave(NodePtr node, Action::ResultE entered)
+    {
+        const Action::ResultE result = _leave.call(node, entered);
         if (result == Action::Quit && !_path.empty()) {
             _path.back().result = Action::Quit;
             _path.back().hasChildrenToVisit = false;
