@@ -129,10 +129,23 @@ def protected_part(c):
     parts.append(f"    ~{c.cpp_name}() override = default;\n")
     parts += [accessors(c, f) for f in c.fields if f.protected]
     parts += [forgotten(c, f) for f in c.fields if f.numbered]
+    parts.append(counted_fields(c))
     parts.append("\n" if c.fields else "")
     parts += [f"    {f.type} {f.member}{f.initializer()};\n" for f in c.fields]
     parts += [f"    {holder(f)} _held{f.title};\n" for f in c.fields if f.counted]
     return "".join(parts)
+
+
+def counted_fields(c):
+    masks = [f"{f.title}FieldMask" for f in c.fields if f.counted]
+    if not masks:
+        return ""
+    return f"""
+    BitVector getCountedFields() const override
+    {{
+        return {" | ".join(["Inherited::getCountedFields()", *masks])};
+    }}
+"""
 
 
 def forgotten(c, f):

@@ -3,13 +3,16 @@
 #include "OSGWagon.h"
 
 #include <OpenSG/OSGAttachmentContainer.h>
+#include <OpenSG/OSGRefPtr.h>
+
+#include <vector>
 
 OSG_BEGIN_NAMESPACE
 
 class Train;
 typedef FCPtr<AttachmentContainerPtr, Train> TrainPtr;
 
-/// Holds wagons. Pointer fields count no references, so the class does.
+/// Holds wagons. Pointer fields count no references, so the class does, from the end of an edit on.
 class Train : public AttachmentContainer
 {
     typedef AttachmentContainer Inherited;
@@ -24,8 +27,14 @@ public:
     MFWagonPtr &getWagons(void) { return _mfWagons; }
     void addWagon(const WagonPtr &wagon)
     {
-        addRefCP(wagon);
         _mfWagons.push_back(wagon);
+        hold();
+    }
+
+    virtual void changed(BitVector whichField, UInt32 origin)
+    {
+        hold();
+        Inherited::changed(whichField, origin);
     }
 
     virtual void dump(UInt32 = 0, const BitVector = 0) const { }
@@ -38,18 +47,11 @@ protected:
     }
     Train(const Train &source)
         : Inherited(source)
-        , _mfWagons()
+        , _mfWagons(source._mfWagons)
     {
-        for (UInt32 i = 0; i < source._mfWagons.size(); ++i) {
-            addWagon(source._mfWagons[i]);
-        }
+        hold();
     }
-    virtual ~Train(void)
-    {
-        for (UInt32 i = 0; i < _mfWagons.size(); ++i) {
-            subRefCP(_mfWagons[i]);
-        }
-    }
+    virtual ~Train(void) { }
 
     virtual void executeSync(FieldContainer &other, const BitVector &which)
     {
@@ -63,6 +65,13 @@ private:
     static FieldDescription *_desc[];
     static FieldContainerType _type;
     void operator=(const Train &);
+
+    void hold(void)
+    {
+        std::vector<RefPtr<WagonPtr>>(_mfWagons.begin(), _mfWagons.end()).swap(_held);
+    }
+
+    std::vector<RefPtr<WagonPtr>> _held;
 };
 
 OSG_FIELD_CONTAINER_INL_DEF(Train, TrainPtr)

@@ -68,6 +68,7 @@ private slots:
     void topNodesSurviveTheOperations();
     void whatIsPointedToSurvivesTheOperations_data();
     void whatIsPointedToSurvivesTheOperations();
+    void whatAnOperationHoldsStaysWhole_data();
     void whatAnOperationHoldsStaysWhole();
     void containersWithoutPlaceAreNoScene();
 
@@ -146,6 +147,8 @@ void tst_SceneFileOwnership::whatTheSceneDoesNotLeadToIsDestroyed_data()
     QTest::newRow("circle") << QByteArray(
         "Node { core PointLight { beacon Node { attachments [ DEF t TextureChunk { "
         "image Image { attachments [ USE t ] } } ] } } core Group { } }");
+    QTest::newRow("what a class holds without saying so")
+        << QByteArray("Train { wagons [ Wagon { } Wagon { } ] } Node { }");
     QTest::newRow("containers without place")
         << QByteArray("SimpleMaterial { } Image { } State { }");
 }
@@ -236,14 +239,25 @@ void tst_SceneFileOwnership::whatIsPointedToSurvivesTheOperations()
     QCOMPARE(m_text->takeLog(), std::string());
 }
 
+void tst_SceneFileOwnership::whatAnOperationHoldsStaysWhole_data()
+{
+    QTest::addColumn<QByteArray>("second");
+
+    QTest::newRow("nothing leads to it") << QByteArray("Node { }");
+    QTest::newRow("a lost pointer without reference leads to it")
+        << QByteArray("Node { attachments [ FCPtrAttributeMap { keys [ \"k\" ] "
+                      "values [ USE a ] } ] }");
+}
+
 void tst_SceneFileOwnership::whatAnOperationHoldsStaysWhole()
 {
+    QFETCH(QByteArray, second);
     TakingOp prototype;
     GraphOpFactory::the().registerOp(&prototype);
     GraphOpSeq sequence("Take()");
-    std::istringstream text("Node { children [ Node { attachments [ Name { name \"a\" } ] "
+    std::istringstream text("Node { children [ DEF a Node { attachments [ Name { name \"a\" } ] "
                             "children [ Node { attachments [ Name { name \"b\" } ] } ] } "
-                            "Node { } ] }");
+        + second.toStdString() + " ] }");
     const NodeRefPtr root(SceneFileHandler::the().read(text, "osg", &sequence));
     const NodeRefPtr taken = std::exchange(TakingOp::taken, NodeRefPtr());
     GraphOpFactory::the().unRegisterOp(&prototype);

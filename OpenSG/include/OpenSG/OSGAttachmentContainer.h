@@ -30,6 +30,8 @@ protected:
     AttachmentContainer(const AttachmentContainer &source);
     ~AttachmentContainer() override;
 
+    BitVector getCountedFields() const override { return AttachmentsFieldMask; }
+
 private:
     void unlink(AttachmentMap::iterator entry);
 };

@@ -83,6 +83,10 @@ protected:
     /// Called when the last reference has gone, before the destructors.
     virtual void onDestroy() { }
 
+    /// The fields by which it holds references to other containers. References of classes that
+    /// do not say so are taken for those of somebody else.
+    virtual BitVector getCountedFields() const { return FieldBits::NoField; }
+
     /// Takes over the masked fields of another container of the same type.
     virtual void executeSync(FieldContainer &other, const BitVector &whichField);
     void executeSyncImpl(FieldContainer *pOther, const BitVector &whichField);

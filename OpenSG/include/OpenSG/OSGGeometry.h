@@ -81,6 +81,7 @@ protected:
     ~Geometry() override;
 
     void adjustVolume(Volume &volume) override;
+    BitVector getCountedFields() const override;
 
 private:
     static constexpr UInt32 propertyCount = IndicesFieldId - TypesFieldId + 1;

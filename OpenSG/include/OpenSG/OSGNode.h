@@ -76,6 +76,11 @@ protected:
 
     void onCreate(const Node *source = nullptr);
 
+    BitVector getCountedFields() const override
+    {
+        return Inherited::getCountedFields() | ChildrenFieldMask | CoreFieldMask;
+    }
+
 private:
     static constexpr UInt32 allBits = 0xffffffff;
 

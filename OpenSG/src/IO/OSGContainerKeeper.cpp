@@ -4,6 +4,7 @@
 #include "OSGSharedContainers.h"
 
 #include <OpenSG/OSGAttachmentContainer.h>
+#include <OpenSG/OSGNode.h>
 
 #include <algorithm>
 #include <iterator>
@@ -17,9 +18,10 @@ namespace {
 typedef std::vector<FieldContainerPtr> Containers;
 
 /// Internal attachments belong to their containers like all others.
-void forEachReachedDirectly(const FieldContainerPtr &container, const TargetFunction &function)
+void forEachReachedDirectly(const FieldContainerPtr &container, const TargetFunction &function,
+    BitVector whichField = FieldBits::AllFields)
 {
-    forEachTarget(container, function);
+    forEachTarget(container, function, whichField);
     if (const auto owner = AttachmentContainerPtr::dcast(container)) {
         for (const auto &[key, attachment] : owner->getSFAttachments()->getValue()) {
             if (attachment->getInternal().getValue()) {
@@ -54,6 +56,18 @@ void removeAttachments(const FieldContainerPtr &container)
             owner->subAttachment(attachment, static_cast<UInt16>(key));
         }
     }
+}
+
+/// Takes away those whose ids are not among these.
+Containers takeAllBut(const std::unordered_set<UInt32> &ids, Containers &containers)
+{
+    const auto others = std::stable_partition(
+        containers.begin(), containers.end(), [&](const FieldContainerPtr &container) {
+            return ids.count(container.getFieldContainerId()) > 0;
+        });
+    const Containers taken(others, containers.end());
+    containers.erase(others, containers.end());
+    return taken;
 }
 
 } // namespace
@@ -98,9 +112,8 @@ void ContainerKeeper::release(const Containers &results)
     _kept.clear();
 }
 
-// Of those that have not been reached: the ones with more references than the keeper's own and
-// those that they give each other.
-Containers ContainerKeeper::heldElsewhere(const std::unordered_set<UInt32> &reached) const
+// Those that have more references than the keeper's and the ones that they give each other.
+Containers ContainerKeeper::heldElsewhere(const Containers &containers)
 {
     std::unordered_map<UInt32, Int32> known;
     const auto count = [&](const FieldContainerPtr &container) {
@@ -108,33 +121,38 @@ Containers ContainerKeeper::heldElsewhere(const std::unordered_set<UInt32> &reac
             ++known[container.getFieldContainerId()];
         }
     };
-    Containers unreached;
-    std::copy_if(_kept.begin(), _kept.end(), std::back_inserter(unreached),
-        [&](const auto &container) { return !reached.count(container.getFieldContainerId()); });
-    for (const FieldContainerPtr &container : unreached) {
+    for (const FieldContainerPtr &container : containers) {
         count(container);
-        forEachReachedDirectly(container, count);
+        forEachReachedDirectly(container, count, container->getCountedFields());
     }
-    const auto isHeld = [&](const FieldContainerPtr &container) {
-        return refCount(container) > known[container.getFieldContainerId()];
-    };
-    unreached.erase(std::partition(unreached.begin(), unreached.end(), isHeld), unreached.end());
-    return unreached;
+    Containers held;
+    std::copy_if(containers.begin(), containers.end(), std::back_inserter(held),
+        [&](const FieldContainerPtr &container) {
+            return refCount(container) > known[container.getFieldContainerId()];
+        });
+    return held;
 }
 
 // Containers that refer to each other in a circle do so by attachments somewhere.
+bool ContainerKeeper::destroyLost(Containers &containers)
+{
+    std::unordered_set<UInt32> ids;
+    reachedFrom(heldElsewhere(containers), ids);
+    const Containers lost = takeAllBut(ids, containers);
+    std::for_each(lost.begin(), lost.end(), removeAttachments);
+    std::for_each(lost.begin(), lost.end(), [](const FieldContainerPtr &c) { subRefCP(c); });
+    return !lost.empty();
+}
+
+// What is held by a lost container that does not say so seems to be held elsewhere until that one
+// has gone.
 void ContainerKeeper::destroyAllButReachedFrom(const Containers &results)
 {
     std::unordered_set<UInt32> ids;
     reachedFrom(results, ids);
-    reachedFrom(heldElsewhere(ids), ids);
-    const auto lost = std::stable_partition(
-        _kept.begin(), _kept.end(), [&](const FieldContainerPtr &container) {
-            return ids.count(container.getFieldContainerId()) > 0;
-        });
-    std::for_each(lost, _kept.end(), removeAttachments);
-    std::for_each(lost, _kept.end(), [](const FieldContainerPtr &c) { subRefCP(c); });
-    _kept.erase(lost, _kept.end());
+    Containers unreached = takeAllBut(ids, _kept);
+    while (destroyLost(unreached)) { }
+    _kept.insert(_kept.end(), unreached.begin(), unreached.end());
 }
 
 OSG_END_NAMESPACE

@@ -2,7 +2,6 @@
 
 #include <OpenSG/OSGFieldContainer.h>
 
-#include <unordered_set>
 #include <vector>
 
 OSG_BEGIN_NAMESPACE
@@ -32,7 +31,10 @@ public:
 
 private:
     void destroyAllButReachedFrom(const std::vector<FieldContainerPtr> &results);
-    std::vector<FieldContainerPtr> heldElsewhere(const std::unordered_set<UInt32> &reached) const;
+    /// False if all of them are still needed, or none is left.
+    static bool destroyLost(std::vector<FieldContainerPtr> &containers);
+    static std::vector<FieldContainerPtr> heldElsewhere(
+        const std::vector<FieldContainerPtr> &containers);
     static Int32 &refCount(const FieldContainerPtr &container);
 
     std::vector<FieldContainerPtr> _kept;

@@ -32,12 +32,14 @@ void forEachPointer(const Field &field, const TargetFunction &function)
 
 } // namespace
 
-void forEachTarget(const FieldContainerPtr &container, const TargetFunction &function)
+void forEachTarget(
+    const FieldContainerPtr &container, const TargetFunction &function, BitVector whichField)
 {
     const FieldContainerType &type = container->getType();
     for (UInt32 id = 1; id <= type.getNumFieldDescs(); ++id) {
-        const bool isInternal = type.getFieldDescription(id)->isInternal();
-        const Field *field = isInternal ? nullptr : container->getField(id);
+        const FieldDescription &description = *type.getFieldDescription(id);
+        const bool isAsked = !description.isInternal() && (description.getFieldMask() & whichField);
+        const Field *field = isAsked ? container->getField(id) : nullptr;
         const auto kind = field ? FieldSyntax::of(field->getType()).kind : FieldSyntax::None;
         if (kind == FieldSyntax::Attachments) {
             forEachAttachment(*field, function);

@@ -44,6 +44,12 @@ void Geometry::adjustVolume(Volume &volume)
     }
 }
 
+BitVector Geometry::getCountedFields() const
+{
+    constexpr BitVector properties = (TypeTraits<BitVector>::One << propertyCount) - 1;
+    return Inherited::getCountedFields() | properties << TypesFieldId;
+}
+
 void Geometry::hold(UInt32 fieldId, const AttachmentPtr &property)
 {
     AttachmentRefPtr &held = _held[fieldId - TypesFieldId];
