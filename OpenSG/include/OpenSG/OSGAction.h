@@ -23,6 +23,9 @@ typedef TypedFunctor2Base<Action::ResultE, CPtrRefCallArg<NodePtr>, ArgsCollecto
 /// for every node that was entered, also on the way out of a Quit, with the result so far: that
 /// of the node's children, or of entering it. What it returns counts from there on. Null nodes
 /// are passed over. The result is Continue or Quit.
+///
+/// Callbacks may change the tree. A node that they destroy, be it the one that is visited or one
+/// above it, is passed over from there on: neither are its other children visited nor is it left.
 Action::ResultE traverse(NodePtr root, TraverseEnterFunctor enter);
 Action::ResultE traverse(std::vector<NodePtr> &nodeList, TraverseEnterFunctor enter);
 Action::ResultE traverse(NodePtr root, TraverseEnterFunctor enter, TraverseLeaveFunctor leave);

@@ -41,8 +41,9 @@ public:
     void subChild(const NodePtr &child);
     void subChild(UInt32 childIndex);
 
-    /// Traversals skip a node whose mask has no bit in common with theirs; an active node has
-    /// all. Setting it announces no edit.
+    /// For renderers and exports, which leave out a node whose mask has no bit in common with
+    /// theirs; `traverse` does not look at it. An active node has all bits, one without any counts
+    /// in no volume. Setting it announces no edit.
     void setTravMask(UInt32 mask) { _sfTravMask.setValue(mask); }
     UInt32 getTravMask() const { return _sfTravMask.getValue(); }
     void setActive(bool active) { setTravMask(active ? allBits : 0); }

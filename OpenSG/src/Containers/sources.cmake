@@ -29,6 +29,7 @@ set(container_sources
     src/Actions/OSGAction.cpp
     src/Actions/OSGGraphOp.cpp
     src/Actions/OSGGraphOpFactory.cpp
+    src/Actions/OSGTraversal.cpp
     src/Actions/OSGTreeCopy.cpp
     src/Containers/OSGChangeList.cpp
     src/Containers/OSGContainerListing.cpp

@@ -1,5 +1,7 @@
 #include <OpenSG/OSGNode.h>
 
+#include "../Actions/OSGTraversal.h"
+
 #include <OpenSG/OSGCNodePtr.h>
 #include <OpenSG/OSGLog.h>
 
@@ -38,6 +40,7 @@ Node::Node(const Node &source)
 // Node by node, however deep the tree is: those that go with this one have no children any more.
 Node::~Node()
 {
+    Traversal::forget(NodePtr(this));
     std::vector<NodePtr> released;
     orphanChildren(released);
     while (!released.empty()) {

@@ -1,0 +1,123 @@
+#include "OSGTraversal.h"
+
+#include <algorithm>
+#include <utility>
+
+OSG_BEGIN_NAMESPACE
+
+namespace {
+
+/// The one that runs, started perhaps by a callback of the next outer one.
+thread_local Traversal *innermost = nullptr;
+
+constexpr UInt32 fetchedAhead = 4;
+
+// Nodes lie scattered in memory: waiting for them is what a traversal mostly does. Those that come
+// next are on their way while others are visited.
+void fetchChild(const NodePtr &node, UInt32 index)
+{
+    if (index < node->getNChildren()) {
+        __builtin_prefetch(node->getChild(index)->getMFChildren());
+    }
+}
+
+} // namespace
+
+Traversal::Traversal(TraverseEnterFunctor enter, TraverseLeaveFunctor leave)
+    : _enter(std::move(enter))
+    , _leave(std::move(leave))
+    , _outer(std::exchange(innermost, this))
+{
+}
+
+Traversal::~Traversal()
+{
+    innermost = _outer;
+}
+
+Action::ResultE Traversal::visit(const NodePtr &root)
+{
+    Action::ResultE result = enter(root);
+    while (!_path.empty()) {
+        const NodePtr child = takeChild();
+        result = child ? enter(child) : leave();
+    }
+    return result;
+}
+
+// By index: a callback may add to the list.
+Action::ResultE Traversal::visitAll(const std::vector<NodePtr> &nodes)
+{
+    for (std::size_t i = 0; i < nodes.size(); ++i) {
+        if (visit(nodes[i]) == Action::Quit) {
+            return Action::Quit;
+        }
+    }
+    return Action::Continue;
+}
+
+void Traversal::forget(const NodePtr &node)
+{
+    for (Traversal *traversal = innermost; traversal; traversal = traversal->_outer) {
+        if (traversal->_entering == node) {
+            traversal->_entering = NullFC;
+        }
+        const auto level = std::find_if(traversal->_path.begin(), traversal->_path.end(),
+            [&](const Level &candidate) { return candidate.node == node; });
+        if (level != traversal->_path.end()) {
+            level->node = NullFC;
+        }
+    }
+}
+
+// Leaves are left at once: most nodes are, and they need no place on the path.
+Action::ResultE Traversal::enter(const NodePtr &node)
+{
+    if (!node) {
+        return Action::Continue;
+    }
+    _entering = node;
+    NodePtr argument = node;
+    const Action::ResultE result = _enter.call(argument);
+    if (result != Action::Continue || !_entering || _entering->getNChildren() == 0) {
+        return leave(_entering, result == Action::Skip ? Action::Continue : result);
+    }
+    for (UInt32 i = 0; i < fetchedAhead; ++i) {
+        fetchChild(_entering, i);
+    }
+    _path.push_back({ _entering });
+    return result;
+}
+
+// The next one to visit; null behind the last. A null child is passed over.
+NodePtr Traversal::takeChild()
+{
+    Level &level = _path.back();
+    while (level.node && level.result != Action::Quit
+        && level.nextChild < level.node->getNChildren()) {
+        const NodePtr child = level.node->getChild(level.nextChild++);
+        if (child) {
+            fetchChild(level.node, level.nextChild + fetchedAhead - 1);
+            return child;
+        }
+    }
+    return NullFC;
+}
+
+Action::ResultE Traversal::leave()
+{
+    const Level level = _path.back();
+    _path.pop_back();
+    return leave(level.node, level.result);
+}
+
+Action::ResultE Traversal::leave(NodePtr node, Action::ResultE entered)
+{
+    const Action::ResultE result = node ? _leave.call(node, entered) : entered;
+    if (result == Action::Quit && !_path.empty()) {
+        _path.back().result = Action::Quit;
+    }
+    return result;
+}
+
+OSG_END_NAMESPACE
