@@ -147,6 +147,11 @@ void tst_SceneFileOwnership::whatTheSceneDoesNotLeadToIsDestroyed_data()
     QTest::newRow("circle") << QByteArray(
         "Node { core PointLight { beacon Node { attachments [ DEF t TextureChunk { "
         "image Image { attachments [ USE t ] } } ] } } core Group { } }");
+    QTest::newRow("chunk, which its material's state holds, too")
+        << QByteArray("ChunkMaterial { chunks BlendChunk { } } Node { }");
+    QTest::newRow("chunk of a material that was replaced")
+        << QByteArray("Node { core MaterialGroup { "
+                      "material ChunkMaterial { chunks BlendChunk { } } material NULL } }");
     QTest::newRow("what a class holds without saying so")
         << QByteArray("Train { wagons [ Wagon { } Wagon { } ] } Node { }");
     QTest::newRow("containers without place")

@@ -145,13 +145,14 @@ bool ContainerKeeper::destroyLost(Containers &containers)
 }
 
 // What is held by a lost container that does not say so seems to be held elsewhere until that one
-// has gone.
+// has gone. More rounds would be needed only by long chains of such containers.
 void ContainerKeeper::destroyAllButReachedFrom(const Containers &results)
 {
     std::unordered_set<UInt32> ids;
     reachedFrom(results, ids);
     Containers unreached = takeAllBut(ids, _kept);
-    while (destroyLost(unreached)) { }
+    constexpr int maxRounds = 8;
+    for (int round = 0; round < maxRounds && destroyLost(unreached); ++round) { }
     _kept.insert(_kept.end(), unreached.begin(), unreached.end());
 }
 

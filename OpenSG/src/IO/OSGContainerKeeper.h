@@ -26,7 +26,9 @@ public:
 
     /// Lets all go. Destroyed are those that neither the results nor others whom somebody else has
     /// a reference to lead to, the results never. When every one has a reference they are not
-    /// looked at: a circle that nothing leads to goes only together with another container.
+    /// looked at: a circle that nothing leads to goes only together with another container. What is
+    /// left of a long chain of containers that hold one another without saying so
+    /// (FieldContainer::getCountedFields) stays, too.
     void release(const std::vector<FieldContainerPtr> &results);
 
 private:
