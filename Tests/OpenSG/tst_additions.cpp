@@ -121,6 +121,16 @@ Action::ResultE leaveByValue(NodePtr, Action::ResultE result)
     return result;
 }
 
+struct Visitor
+{
+    Action::ResultE enter(const NodePtr &node) const { return ::enter(node); }
+    Action::ResultE leave(NodePtr, Action::ResultE result) { return result; }
+};
+
+struct DerivedVisitor : Visitor
+{
+} visitor;
+
 struct Functors
 {
     TraverseEnterFunctor enter;
@@ -253,6 +263,12 @@ void tst_Additions::functionsOfAnyFormVisitNodes_data()
     QTest::newRow("by reference to const")
         << Functors { osgTypedFunctionFunctor1CPtrRef<Result, NodePtr>(enter),
                osgTypedFunctionFunctor2CPtrRef<Result, NodePtr, Result>(leave) };
+    QTest::newRow("methods") << Functors {
+        osgTypedMethodFunctor1ObjPtrCPtrRef<Result, DerivedVisitor, NodePtr>(
+            &visitor, &DerivedVisitor::enter),
+        osgTypedMethodFunctor2ObjPtrCPtrRef<Result, DerivedVisitor, NodePtr, Result>(
+            &visitor, &DerivedVisitor::leave)
+    };
 }
 
 void tst_Additions::functionsOfAnyFormVisitNodes()

@@ -78,10 +78,18 @@ TypedFunctor1Base<RetT, CPtrRefCallArg<PtrT>> osgTypedFunctionFunctor1CPtrRef(Re
     return { f };
 }
 
-/// The object has to outlive the functor.
-template <class RetT, class ObjectT, class PtrT, class MethodT>
+/// The object has to outlive the functor. Of methods of one name, that which takes the handle by
+/// reference is meant.
+template <class RetT, class ObjectT, class PtrT>
 TypedFunctor1Base<RetT, CPtrRefCallArg<PtrT>> osgTypedMethodFunctor1ObjPtrCPtrRef(
-    ObjectT *object, MethodT ObjectT::*method)
+    ObjectT *object, RetT (ObjectT::*method)(PtrT &))
+{
+    return { [=](PtrT &argument) { return (object->*method)(argument); } };
+}
+
+template <class RetT, class ObjectT, class PtrT, class OwnerT, class MethodT>
+TypedFunctor1Base<RetT, CPtrRefCallArg<PtrT>> osgTypedMethodFunctor1ObjPtrCPtrRef(
+    ObjectT *object, MethodT OwnerT::*method)
 {
     return { [=](PtrT &argument) { return (object->*method)(argument); } };
 }
@@ -107,9 +115,18 @@ TypedFunctor2Base<RetT, CPtrRefCallArg<PtrT>, ArgsCollector<Arg2T>> osgTypedFunc
     return { f };
 }
 
-template <class RetT, class ObjectT, class PtrT, class Arg2T, class MethodT>
+template <class RetT, class ObjectT, class PtrT, class Arg2T>
 TypedFunctor2Base<RetT, CPtrRefCallArg<PtrT>, ArgsCollector<Arg2T>>
-osgTypedMethodFunctor2ObjPtrCPtrRef(ObjectT *object, MethodT ObjectT::*method)
+osgTypedMethodFunctor2ObjPtrCPtrRef(ObjectT *object, RetT (ObjectT::*method)(PtrT &, Arg2T))
+{
+    return {
+        [=](PtrT &first, Arg2T second) { return (object->*method)(first, second); },
+    };
+}
+
+template <class RetT, class ObjectT, class PtrT, class Arg2T, class OwnerT, class MethodT>
+TypedFunctor2Base<RetT, CPtrRefCallArg<PtrT>, ArgsCollector<Arg2T>>
+osgTypedMethodFunctor2ObjPtrCPtrRef(ObjectT *object, MethodT OwnerT::*method)
 {
     return {
         [=](PtrT &first, Arg2T second) { return (object->*method)(first, second); },
