@@ -97,6 +97,7 @@ private slots:
     void singleTypeCallbacksTakeNodesByValue();
     void nodesWithoutCoreArePassedOver();
     void derivedCoresCount();
+    void leavingANodeOfTheTypeContinues();
     void excludedNodesAreRemembered();
     void parametersAreKeysAndFlags();
     void parametersSurviveStrayBlanks();
@@ -104,6 +105,7 @@ private slots:
     void theFactoryMakesOperationsByName();
     void aSecondRegistrationReplacesTheFirst();
     void unknownNamesAreListedWithNull();
+    void noNameIsNotListed();
 
 private:
     NodePtr m_root;
@@ -177,6 +179,19 @@ void tst_GraphOp::derivedCoresCount()
     } op;
     op.traverse(m_root);
     QCOMPARE(op.seen.join(' '), QString("r outer inner"));
+}
+
+void tst_GraphOp::leavingANodeOfTheTypeContinues()
+{
+    struct QuittingOp : ByValueOp
+    {
+        Action::ResultE traverseEnter(NodePtr &) override { return Action::Quit; }
+    } op;
+    QVERIFY(op.traverse(m_root));
+    op.seen.clear();
+    NodePtr outer = m_root->getChild(0);
+    QVERIFY(op.traverse(outer));
+    QCOMPARE(op.seen, QStringList { "-outer" });
 }
 
 void tst_GraphOp::excludedNodesAreRemembered()
@@ -262,6 +277,16 @@ void tst_GraphOp::unknownNamesAreListedWithNull()
         [](const auto &entry) { return entry.first == "nope"; });
     QVERIFY(found != GraphOpFactory::the().end());
     QVERIFY(!found->second);
+}
+
+void tst_GraphOp::noNameIsNotListed()
+{
+    NOT_IN_STOCK("stock 1.8 ends the process where a name is NULL");
+    GraphOpFactory &factory = GraphOpFactory::the();
+    const auto before = std::distance(factory.begin(), factory.end());
+    QVERIFY(!factory.create(nullptr));
+    factory.unRegisterOp(static_cast<const char *>(nullptr));
+    QCOMPARE(std::distance(factory.begin(), factory.end()), before);
 }
 
 QTEST_APPLESS_MAIN(tst_GraphOp)

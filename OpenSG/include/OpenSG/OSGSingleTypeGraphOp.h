@@ -63,12 +63,12 @@ template <class Type> Action::ResultE SingleTypeGraphOp<Type>::traverseEnter(Nod
 }
 
 template <class Type>
-Action::ResultE SingleTypeGraphOp<Type>::traverseLeave(NodePtr &node, Action::ResultE res)
+Action::ResultE SingleTypeGraphOp<Type>::traverseLeave(NodePtr &node, Action::ResultE)
 {
     if (concerns(node)) {
         (this->*static_cast<ByValue>(&SingleTypeGraphOp::travNodeLeave))(node);
     }
-    return res;
+    return Action::Continue;
 }
 
 template <class Type> bool SingleTypeGraphOp<Type>::concerns(const NodePtr &node)

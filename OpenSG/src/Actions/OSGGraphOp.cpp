@@ -3,17 +3,17 @@
 #include <OpenSG/OSGSimpleAttachments.h>
 
 #include <algorithm>
-#include <cctype>
 #include <sstream>
 
 OSG_BEGIN_NAMESPACE
 
 namespace {
 
+// Whatever the locale.
 std::string lowered(std::string text)
 {
     std::transform(text.begin(), text.end(), text.begin(),
-        [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+        [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
     return text;
 }
 

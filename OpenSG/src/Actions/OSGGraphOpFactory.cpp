@@ -24,13 +24,15 @@ void GraphOpFactory::unRegisterOp(GraphOp *prototype)
 
 void GraphOpFactory::unRegisterOp(const char *name)
 {
-    _prototypes.erase(name);
+    if (name) {
+        _prototypes.erase(name);
+    }
 }
 
 // Deliberate: clients that list the operations are used to finding unknown names, too.
 GraphOp *GraphOpFactory::create(const char *name)
 {
-    GraphOp *prototype = _prototypes[name];
+    GraphOp *prototype = name ? _prototypes[name] : nullptr;
     return prototype ? prototype->create() : nullptr;
 }
 
