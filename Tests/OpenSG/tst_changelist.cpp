@@ -77,8 +77,9 @@ class tst_ChangeList : public QObject
 
 private slots:
     void beforeTheStartThereIsNone();
-    void theStartLeavesItEmpty();
     void listsAreReadOnlyUnlessToldBeforeTheStart();
+    void theStartLeavesItEmpty();
+    void afterTheStartTheDefaultStaysAsItIs();
     void otherThreadsHaveNone();
     void threadAndItsBaseAgree();
     void aNewNodeIsCreatedAndItsVolumeChanged();
@@ -141,21 +142,32 @@ void tst_ChangeList::beforeTheStartThereIsNone()
     QCOMPARE(Thread::getAspect(), 0u);
 }
 
+void tst_ChangeList::listsAreReadOnlyUnlessToldBeforeTheStart()
+{
+    const auto list = newList();
+    list->addCreated(1);
+    QCOMPARE(list->sizeCreated(), std::size_t(0));
+    ChangeList::setReadWriteDefault(true);
+    const auto writable = newList();
+    writable->addCreated(1);
+    QCOMPARE(writable->sizeCreated(), std::size_t(1));
+}
+
 void tst_ChangeList::theStartLeavesItEmpty()
 {
-    ChangeList::setReadWriteDefault(true);
     osgInit(0, nullptr);
     QVERIFY(Thread::getCurrent());
     QVERIFY(current().empty());
 }
 
-void tst_ChangeList::listsAreReadOnlyUnlessToldBeforeTheStart()
+void tst_ChangeList::afterTheStartTheDefaultStaysAsItIs()
 {
     const LogCapture log;
     ChangeList::setReadWriteDefault(false);
-    newList()->addCreated(1);
-    ChangeList::setReadWriteDefault(true);
     QVERIFY(log.text.startsWith("WARNING:  "));
+    const auto list = newList();
+    list->addCreated(1);
+    QCOMPARE(list->sizeCreated(), std::size_t(1));
 }
 
 void tst_ChangeList::otherThreadsHaveNone()

@@ -34,6 +34,7 @@ void ChangeList::setReadWriteDefault(bool bReadWrite)
 {
     if (GlobalSystemState != Startup) {
         SWARNING << "ChangeList::setReadWriteDefault has no effect after osgInit" << endLog;
+        return;
     }
     readWriteByDefault = bReadWrite;
 }
