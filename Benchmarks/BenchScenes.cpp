@@ -20,7 +20,7 @@ namespace {
 
 osg::TextureChunkPtr makeTexture()
 {
-    const osg::ImagePtr image = osg::Image::create();
+    osg::ImagePtr image = osg::Image::create();
     image->set(osg::Image::OSG_RGB_PF, 64, 64);
     const osg::TextureChunkPtr texture = osg::TextureChunk::create();
     texture->setImage(image);

@@ -110,6 +110,8 @@ def accessors(c, f):
         return {f.member}[index];
     }}
 """
+    if f.getters:
+        return text
     counting = f"\n        _held{f.title} = value;" if f.counted else ""
     return text + f"""    void set{f.title}(const {reference(value)}value)
     {{

@@ -22,6 +22,7 @@ Flags of a class
 Flags of a field
     internal          left out of scene files
     bare              has no accessors but getSFX or getMFX, the others are written by hand
+    getters           has no setter, it is written by hand
     protected         has protected accessors
     counted           the setter counts references
     numbered          the first edit gives it StateChunk::newGLId(); not copied

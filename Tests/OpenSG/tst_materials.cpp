@@ -14,6 +14,8 @@
 
 #include <QtTest>
 
+#include <type_traits>
+
 using namespace osg;
 
 class tst_Materials : public QObject
@@ -42,9 +44,11 @@ private slots:
     void aMaterialGroupCountsItsMaterial();
     void aMaterialThatCameWithoutSetterIsHeldOnce();
     void aTextureHoldsItsImage();
+    void aTextureTakesItsImageFromAVariable();
     void theContentChangeOfAnImageIsAnEdit();
     void otherMaterialsAreDrawnWith();
     void parametersAreSetByNameAndType();
+    void aParameterHasAName();
     void parametersAreHeldByTheChunk();
 };
 
@@ -281,6 +285,13 @@ void tst_Materials::aTextureHoldsItsImage()
     QVERIFY(texture->isTransparent());
 }
 
+void tst_Materials::aTextureTakesItsImageFromAVariable()
+{
+    typedef decltype(&TextureChunk::setImage) Setter;
+    QVERIFY((std::is_invocable_v<Setter, TextureChunk &, ImagePtr &>));
+    QVERIFY((!std::is_invocable_v<Setter, TextureChunk &, const ImagePtr &>));
+}
+
 void tst_Materials::theContentChangeOfAnImageIsAnEdit()
 {
     const TextureChunkRefPtr texture(TextureChunk::create());
@@ -317,6 +328,17 @@ void tst_Materials::parametersAreSetByNameAndType()
     QVERIFY(!chunk->getUniformParameter("weight", count));
     QCOMPARE(weight, 0.75f);
     QCOMPARE(chunk->getParameters().size(), 2u);
+}
+
+void tst_Materials::aParameterHasAName()
+{
+    NOT_IN_STOCK("stock 1.8 crashes where a name is NULL");
+    const SHLChunkRefPtr chunk(SHLChunk::create());
+    Real32 weight = 0.f;
+    QVERIFY(!chunk->setUniformParameter(nullptr, weight));
+    QVERIFY(!chunk->getUniformParameter(nullptr, weight));
+    QVERIFY(!chunk->subUniformParameter(nullptr));
+    QVERIFY(chunk->getParameters().empty());
 }
 
 void tst_Materials::parametersAreHeldByTheChunk()

@@ -35,22 +35,6 @@ public:
     /// Position of the mapping's entry for a property; -1 if it has none.
     Int16 calcMappingIndex(UInt16 attrib) const;
 
-    GeoPTypesPtr getTypes() const { return _sfTypes.getValue(); }
-    GeoPLengthsPtr getLengths() const { return _sfLengths.getValue(); }
-    GeoPositionsPtr getPositions() const { return _sfPositions.getValue(); }
-    GeoNormalsPtr getNormals() const { return _sfNormals.getValue(); }
-    GeoColorsPtr getColors() const { return _sfColors.getValue(); }
-    GeoColorsPtr getSecondaryColors() const { return _sfSecondaryColors.getValue(); }
-    GeoTexCoordsPtr getTexCoords() const { return _sfTexCoords.getValue(); }
-    GeoTexCoordsPtr getTexCoords1() const { return _sfTexCoords1.getValue(); }
-    GeoTexCoordsPtr getTexCoords2() const { return _sfTexCoords2.getValue(); }
-    GeoTexCoordsPtr getTexCoords3() const { return _sfTexCoords3.getValue(); }
-    GeoTexCoordsPtr getTexCoords4() const { return _sfTexCoords4.getValue(); }
-    GeoTexCoordsPtr getTexCoords5() const { return _sfTexCoords5.getValue(); }
-    GeoTexCoordsPtr getTexCoords6() const { return _sfTexCoords6.getValue(); }
-    GeoTexCoordsPtr getTexCoords7() const { return _sfTexCoords7.getValue(); }
-    GeoIndicesPtr getIndices() const { return _sfIndices.getValue(); }
-
     void setTypes(const GeoPTypesPtr &p) { put(TypesFieldId, _sfTypes, p); }
     void setLengths(const GeoPLengthsPtr &p) { put(LengthsFieldId, _sfLengths, p); }
     void setPositions(const GeoPositionsPtr &p) { put(PositionsFieldId, _sfPositions, p); }

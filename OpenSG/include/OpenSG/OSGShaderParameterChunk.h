@@ -12,7 +12,8 @@ class ShaderParameterChunk : public ShaderParameterChunkBase
 
 public:
     /// Sets, and adds if need be, a parameter. T is bool, Int32, Real32, std::string, Vec2f,
-    /// Vec3f, Vec4f, Matrix or a multi-field of them. False if the name has another type.
+    /// Vec3f, Vec4f, Matrix or a multi-field of them. False if the name has another type or is
+    /// NULL.
     template <class T> bool setUniformParameter(const Char8 *name, const T &value);
     /// False, and `value` stays, unless there is a parameter of that name and type.
     template <class T> bool getUniformParameter(const Char8 *name, T &value) const;
@@ -36,7 +37,7 @@ private:
 template <class T> bool ShaderParameterChunk::setUniformParameter(const Char8 *name, const T &value)
 {
     typedef typename ShaderParameterFor<T>::Type Parameter;
-    if (!findParameter(name)) {
+    if (name && !findParameter(name)) {
         addParameter(Parameter::create(), name);
     }
     const auto parameter = Parameter::Ptr::dcast(findParameter(name));

@@ -10,6 +10,10 @@ class TextureChunk : public TextureChunkBase
     typedef TextureChunkBase Inherited;
 
 public:
+    /// The chunk holds a reference. Deliberate: takes the image from a variable, which it leaves as
+    /// it is.
+    void setImage(ImagePtr &image);
+
     /// True if the image has an alpha channel.
     bool isTransparent() const override;
 

@@ -8,7 +8,7 @@ ShaderParameterPtr ShaderParameterChunk::findParameter(const Char8 *name) const
 {
     const auto found = std::find_if(
         _mfParameters.begin(), _mfParameters.end(), [=](const ShaderParameterPtr &parameter) {
-            return parameter && parameter->getName() == name;
+            return name && parameter && parameter->getName() == name;
         });
     return found != _mfParameters.end() ? *found : ShaderParameterPtr();
 }

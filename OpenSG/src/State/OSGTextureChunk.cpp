@@ -2,6 +2,12 @@
 
 OSG_BEGIN_NAMESPACE
 
+void TextureChunk::setImage(ImagePtr &image)
+{
+    _sfImage.setValue(image);
+    _heldImage = image;
+}
+
 bool TextureChunk::isTransparent() const
 {
     return getImage() && getImage()->hasAlphaChannel();
