@@ -30,6 +30,7 @@ private slots:
     void theSizeIsThatOfTheBytes();
     void bytesThatEndTooSoonAreZeros();
     void aListEndsWithTheBytes();
+    void elementsWithoutBytesAreNoMoreThanTheBytesThatFollow();
     void aStringEndsWithTheBytes();
     void whatNodesKnowOfEachOtherIsLeftOut();
     void aPointerToAnotherClassReadsAsNull();
@@ -165,6 +166,16 @@ void tst_BinaryForm::aListEndsWithTheBytes()
     list.copyFromBin(bytes);
     QCOMPARE(list.getSize(), UInt32(1));
     QCOMPARE(list[0], 7);
+}
+
+void tst_BinaryForm::elementsWithoutBytesAreNoMoreThanTheBytesThatFollow()
+{
+    BinaryDataHandler bytes;
+    bytes.putValue(UInt32(20000000));
+    bytes.putValue(UInt8(1));
+    MFAttachmentMap maps;
+    maps.copyFromBin(bytes);
+    QCOMPARE(maps.getSize(), UInt32(1));
 }
 
 void tst_BinaryForm::aStringEndsWithTheBytes()

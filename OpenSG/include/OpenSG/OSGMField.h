@@ -177,14 +177,16 @@ void MField<FieldTypeT, fieldNameSpace>::copyToBin(BinaryDataHandler &target)
     }
 }
 
-/// The list ends with the bytes, whatever length they promise.
+/// The list ends with the bytes, whatever length they promise; elements that take up none are no
+/// more than the bytes that follow.
 template <class FieldTypeT, Int32 fieldNameSpace>
 void MField<FieldTypeT, fieldNameSpace>::copyFromBin(BinaryDataHandler &source)
 {
     UInt32 count = 0;
     source.getValue(count);
     _values.clear();
-    for (UInt32 i = 0; i < count && source.getRest() > 0; ++i) {
+    const std::size_t most = std::min<std::size_t>(count, source.getRest());
+    for (std::size_t i = 0; i < most && source.getRest() > 0; ++i) {
         FieldTypeT value {};
         MFieldTraits::copyFromBin(source, value);
         _values.push_back(value);
