@@ -113,6 +113,8 @@ void tst_Image::impossibleSizesLeaveNoRoom_data()
 
     QTest::newRow("too large") << INT_MAX << 2;
     QTest::newRow("negative") << 5 << -3;
+    QTest::newRow("no width") << 0 << 1;
+    QTest::newRow("negative width") << -5 << 1;
 }
 
 void tst_Image::impossibleSizesLeaveNoRoom()

@@ -67,9 +67,12 @@ double halved(Int32 size, UInt32 level)
     return std::max(size >> level, 1);
 }
 
-// In numbers that the product of three sizes does not overflow.
+// In numbers that the product of three sizes does not overflow. None unless all three are positive.
 double pixelsOfMipMaps(Int32 width, Int32 height, Int32 depth, UInt32 count)
 {
+    if (std::min({ width, height, depth }) < 1) {
+        return 0;
+    }
     double pixels = 0;
     for (UInt32 level = 0; level < std::min(count, maxMipMaps); ++level) {
         pixels += halved(width, level) * halved(height, level) * halved(depth, level);
