@@ -141,8 +141,10 @@ void tst_ImageFile::anImageWithTooFewPixelsIsNotWritten()
 
 void tst_ImageFile::aFileThatCannotBeMadeFails()
 {
+    LogCapture log;
     m_image->set(Image::OSG_L_PF, 2, 2);
     QVERIFY(!m_image->write(path("no/such/folder")));
+    QVERIFY(log.text.startsWith("WARNING") && log.text.contains("no/such/folder"));
 }
 
 QTEST_APPLESS_MAIN(tst_ImageFile)

@@ -83,7 +83,11 @@ bool Image::write(const Char8 *fileName)
     for (Int32 row = getHeight() - 1; row >= 0; --row) {
         file.write(reinterpret_cast<const char *>(getData()) + row * rowSize, rowSize);
     }
-    return bool(file.flush());
+    if (!file.flush()) {
+        SWARNING << "Image::write: " << fileName << " cannot be written" << endLog;
+        return false;
+    }
+    return true;
 }
 
 OSG_END_NAMESPACE
