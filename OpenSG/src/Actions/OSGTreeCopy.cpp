@@ -8,18 +8,17 @@
 
 #include <algorithm>
 #include <memory>
-#include <sstream>
 
 OSG_BEGIN_NAMESPACE
 
 TreeCopy::TreeCopy(const std::string &sharedTypes)
 {
-    std::istringstream names(sharedTypes);
-    for (std::string name; std::getline(names >> std::ws, name, ',');) {
-        if (const auto *type = FieldContainerFactory::the()->findType(name.c_str())) {
+    NumberText::Tokens names(sharedTypes.c_str());
+    while (names.next()) {
+        if (const auto *type = FieldContainerFactory::the()->findType(names.token().c_str())) {
             _sharedTypes.push_back(type);
         } else {
-            SWARNING << "deepCloneTree: there is no type " << name << endLog;
+            SWARNING << "deepCloneTree: there is no type " << names.token() << endLog;
         }
     }
 }
