@@ -60,6 +60,7 @@ void tst_Factory::typesWaitForTheStart()
 {
     QVERIFY(!factory().findType("Node"));
     QVERIFY(factory().findUninitializedType("Node") == &Node::getClassType());
+    QVERIFY(!factory().findUninitializedType(nullptr));
     QCOMPARE(Node::getClassType().getNumFieldDescs(), 0u);
     QVERIFY(!Node::getClassType().getParent());
     QVERIFY(Node::getClassType().getId() > 0);

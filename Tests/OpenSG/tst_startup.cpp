@@ -1,6 +1,10 @@
+#include "NotInStock.h"
+
 #include <OpenSG/OSGBaseFunctions.h>
+#include <OpenSG/OSGGroup.h>
 #include <OpenSG/OSGIDString.h>
 #include <OpenSG/OSGLog.h>
+#include <OpenSG/OSGSimpleGeometry.h>
 
 #include <QProcess>
 #include <QtTest>
@@ -27,6 +31,9 @@ private slots:
     void exitRunsAtTheEndOfTheProcess();
     void exitRunsInReverseOrder();
     void aMissingSharedObjectWarns();
+    void theEnvironmentNamesSharedObjects();
+    void noSharedObjectIsNoneToLoad();
+    void beforeTheStartNothingIsMade();
 
     void anIdStringOwnsACopy();
     void aLinkedIdStringDoesNot();
@@ -120,6 +127,26 @@ void aMissingSharedObjectWarns()
     start();
 }
 
+void theEnvironmentNamesSharedObjects()
+{
+    qputenv("OSG_LOAD_LIBS", "libNotHere.so:libNotThere.so");
+    start();
+}
+
+void noSharedObjectIsNoneToLoad()
+{
+    osg::preloadSharedObject(nullptr);
+    say(start() ? "true" : "false");
+}
+
+void beforeTheStartNothingIsMade()
+{
+    say(osg::makeBox(1.f, 1.f, 1.f, 1, 1, 1) == osg::NullFC ? "no box" : "a box");
+    say(osg::makeSphereGeo(1, 1.f) == osg::NullFC ? "no sphere" : "a sphere");
+    say(osg::getDefaultMaterial() == osg::NullFC ? "no material" : "a material");
+    say(osg::GroupNodePtr::create() == osg::NullFC ? "no group" : "a group");
+}
+
 const std::map<std::string, void (*)()> scenarios {
     { "functionsRunByPhase", functionsRunByPhase },
     { "aSecondInitRunsNothingNew", aSecondInitRunsNothingNew },
@@ -131,6 +158,9 @@ const std::map<std::string, void (*)()> scenarios {
     { "exitRunsAtTheEndOfTheProcess", exitRunsAtTheEndOfTheProcess },
     { "exitRunsInReverseOrder", exitRunsInReverseOrder },
     { "aMissingSharedObjectWarns", aMissingSharedObjectWarns },
+    { "theEnvironmentNamesSharedObjects", theEnvironmentNamesSharedObjects },
+    { "noSharedObjectIsNoneToLoad", noSharedObjectIsNoneToLoad },
+    { "beforeTheStartNothingIsMade", beforeTheStartNothingIsMade },
 };
 
 struct Outcome
@@ -206,6 +236,27 @@ void tst_Startup::aMissingSharedObjectWarns()
 {
     QVERIFY(runCurrentScenario().errors.contains(
         "WARNING:  Couldn't load shared object libDoesNotExist.so"));
+}
+
+void tst_Startup::theEnvironmentNamesSharedObjects()
+{
+    const QByteArray errors = runCurrentScenario().errors;
+    QVERIFY(errors.contains("libNotHere.so"));
+    QVERIFY(errors.contains("libNotThere.so"));
+}
+
+void tst_Startup::noSharedObjectIsNoneToLoad()
+{
+    NOT_IN_STOCK("stock 1.8 crashes where a name is NULL");
+    const Outcome outcome = runCurrentScenario();
+    QCOMPARE(outcome.output, QByteArray("true\n"));
+    QCOMPARE(outcome.errors, QByteArray());
+}
+
+void tst_Startup::beforeTheStartNothingIsMade()
+{
+    NOT_IN_STOCK("stock 1.8 crashes before its start");
+    QCOMPARE(runCurrentScenario().output, QByteArray("no box\nno sphere\nno material\nno group\n"));
 }
 
 void tst_Startup::anIdStringOwnsACopy()

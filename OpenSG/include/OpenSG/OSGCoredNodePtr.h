@@ -11,13 +11,8 @@ template <class Core> class CoredNodePtr
 public:
     typedef typename Core::Ptr CorePtr;
 
-    /// A new node with a new core.
-    static CoredNodePtr create()
-    {
-        const NodePtr node = Node::create();
-        node->setCore(Core::create());
-        return CoredNodePtr(node);
-    }
+    /// A new node with a new core; null before osgInit.
+    static CoredNodePtr create() { return CoredNodePtr(makeNodeFor(Core::create())); }
 
     CoredNodePtr() = default;
     /// Null unless the node has a core of the type.

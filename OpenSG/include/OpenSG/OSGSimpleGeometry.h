@@ -8,7 +8,7 @@ OSG_BEGIN_NAMESPACE
 
 /// Ready-made shapes around the origin, with normals and texture coordinates. All of them share
 /// one material. The counts say into how many parts a side or a circle is divided; 0 counts as
-/// the least that makes sense.
+/// the least that makes sense. Before osgInit all of them are null.
 SimpleMaterialPtr getDefaultMaterial();
 
 /// In the plane of x and y, facing z.
@@ -19,7 +19,8 @@ NodePtr makeBox(Real32 xsize, Real32 ysize, Real32 zsize, UInt16 hor, UInt16 ver
 GeometryPtr makeBoxGeo(
     Real32 xsize, Real32 ysize, Real32 zsize, UInt16 hor, UInt16 vert, UInt16 depth);
 
-/// An icosahedron whose faces are halved in every direction `depth` times.
+/// An icosahedron whose faces are halved in every direction `depth` times; more than 8, which
+/// makes over a million faces, count as 8.
 NodePtr makeSphere(UInt16 depth, Real32 radius);
 GeometryPtr makeSphereGeo(UInt16 depth, Real32 radius);
 

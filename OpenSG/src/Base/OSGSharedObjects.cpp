@@ -49,7 +49,9 @@ bool loadFromFolders(const std::string &name, const Names &folders)
 
 void preloadSharedObject(const Char8 *szName)
 {
-    requestedObjects().emplace_back(szName);
+    if (szName) {
+        requestedObjects().emplace_back(szName);
+    }
 }
 
 void loadSharedObjects()

@@ -8,7 +8,7 @@
 #include <OpenSG/OSGThread.h>
 
 #include <algorithm>
-#include <cstring>
+#include <string>
 
 OSG_BEGIN_NAMESPACE
 
@@ -48,7 +48,8 @@ FieldContainerType *FieldContainerFactory::findType(const Char8 *szName) const
 FieldContainerType *FieldContainerFactory::findUninitializedType(const Char8 *szName) const
 {
     const auto found = std::find_if(_pendingTypes.begin(), _pendingTypes.end(),
-        [=](const FieldContainerType *type) { return !std::strcmp(type->getCName(), szName); });
+        [name = std::string(szName ? szName : "")](
+            const FieldContainerType *type) { return name == type->getCName(); });
     return found != _pendingTypes.end() ? *found : nullptr;
 }
 

@@ -13,6 +13,7 @@ namespace {
 typedef TriangleBuilder::Vertex Vertex;
 
 constexpr UInt32 leastSides = 3;
+constexpr UInt16 maxSphereDepth = 8;
 
 // A face of a box: `normal` points outwards, `right` and `up` span it.
 void addFace(TriangleBuilder &builder, const Vec3f &normal, const Vec3f &right, const Vec3f &up,
@@ -128,18 +129,26 @@ private:
     std::map<std::pair<UInt32, UInt32>, UInt32> _middles;
 };
 
+SimpleMaterialPtr makeGreyMaterial()
+{
+    const SimpleMaterialPtr material = SimpleMaterial::create();
+    if (material) {
+        beginEditCP(material);
+        material->setDiffuse(Color3f(0.7f, 0.7f, 0.7f));
+        material->setAmbient(Color3f(0.2f, 0.2f, 0.2f));
+        endEditCP(material);
+    }
+    return material;
+}
+
 } // namespace
 
 SimpleMaterialPtr getDefaultMaterial()
 {
     static SimpleMaterialPtr material;
     if (!material) {
-        material = SimpleMaterial::create();
+        material = makeGreyMaterial();
         addRefCP(material);
-        beginEditCP(material);
-        material->setDiffuse(Color3f(0.7f, 0.7f, 0.7f));
-        material->setAmbient(Color3f(0.2f, 0.2f, 0.2f));
-        endEditCP(material);
     }
     return material;
 }
@@ -176,7 +185,7 @@ GeometryPtr makeBoxGeo(
 
 GeometryPtr makeSphereGeo(UInt16 depth, Real32 radius)
 {
-    return SphereBuilder(radius).build(depth);
+    return SphereBuilder(radius).build(std::min(depth, maxSphereDepth));
 }
 
 GeometryPtr makeTorusGeo(Real32 innerRadius, Real32 outerRadius, UInt16 sides, UInt16 rings)

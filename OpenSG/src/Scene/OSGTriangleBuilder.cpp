@@ -4,33 +4,21 @@
 
 OSG_BEGIN_NAMESPACE
 
-TriangleBuilder::TriangleBuilder()
-    : _positions(GeoPositions3f::create())
-    , _normals(GeoNormals3f::create())
-    , _texCoords(GeoTexCoords2f::create())
-    , _indices(GeoIndicesUI32::create())
-{
-}
-
 UInt32 TriangleBuilder::addVertex(const Vertex &vertex)
 {
-    _positions->push_back(vertex.position);
-    _normals->push_back(vertex.normal);
-    _texCoords->push_back(vertex.texCoord);
-    return _positions->size() - 1;
+    _vertices.push_back(vertex);
+    return static_cast<UInt32>(_vertices.size() - 1);
 }
 
 void TriangleBuilder::addTriangle(UInt32 a, UInt32 b, UInt32 c)
 {
-    for (const UInt32 index : { a, b, c }) {
-        _indices->push_back(index);
-    }
+    _indices.insert(_indices.end(), { a, b, c });
 }
 
 void TriangleBuilder::addGrid(
     UInt32 columns, UInt32 rows, const std::function<Vertex(Real32 u, Real32 v)> &surface)
 {
-    const UInt32 first = _positions->size();
+    const UInt32 first = static_cast<UInt32>(_vertices.size());
     for (UInt32 row = 0; row <= rows; ++row) {
         for (UInt32 column = 0; column <= columns; ++column) {
             addVertex(surface(Real32(column) / columns, Real32(row) / rows));
@@ -46,25 +34,46 @@ void TriangleBuilder::addGrid(
     }
 }
 
-GeometryPtr TriangleBuilder::finish()
+GeometryPtr TriangleBuilder::finish() const
+{
+    const GeometryPtr geometry = Geometry::create();
+    if (geometry) {
+        beginEditCP(geometry);
+        setVertices(*geometry);
+        setTriangles(*geometry);
+        geometry->setMaterial(getDefaultMaterial());
+        endEditCP(geometry);
+    }
+    return geometry;
+}
+
+void TriangleBuilder::setVertices(Geometry &geometry) const
+{
+    const GeoPositions3fPtr positions = GeoPositions3f::create();
+    const GeoNormals3fPtr normals = GeoNormals3f::create();
+    const GeoTexCoords2fPtr texCoords = GeoTexCoords2f::create();
+    for (const Vertex &vertex : _vertices) {
+        positions->push_back(vertex.position);
+        normals->push_back(vertex.normal);
+        texCoords->push_back(vertex.texCoord);
+    }
+    geometry.setPositions(positions);
+    geometry.setNormals(normals);
+    geometry.setTexCoords(texCoords);
+}
+
+void TriangleBuilder::setTriangles(Geometry &geometry) const
 {
     constexpr UInt8 glTriangles = 4;
     const GeoPTypesUI8Ptr types = GeoPTypesUI8::create();
     types->push_back(glTriangles);
     const GeoPLengthsUI32Ptr lengths = GeoPLengthsUI32::create();
-    lengths->push_back(_indices->size());
-
-    const GeometryPtr geometry = Geometry::create();
-    beginEditCP(geometry);
-    geometry->setTypes(types);
-    geometry->setLengths(lengths);
-    geometry->setPositions(_positions);
-    geometry->setNormals(_normals);
-    geometry->setTexCoords(_texCoords);
-    geometry->setIndices(_indices);
-    geometry->setMaterial(getDefaultMaterial());
-    endEditCP(geometry);
-    return geometry;
+    lengths->push_back(static_cast<UInt32>(_indices.size()));
+    const GeoIndicesUI32Ptr indices = GeoIndicesUI32::create();
+    indices->getField().setValues(_indices);
+    geometry.setTypes(types);
+    geometry.setLengths(lengths);
+    geometry.setIndices(indices);
 }
 
 OSG_END_NAMESPACE

@@ -3,6 +3,7 @@
 #include <OpenSG/OSGGeometry.h>
 
 #include <functional>
+#include <vector>
 
 OSG_BEGIN_NAMESPACE
 
@@ -17,25 +18,24 @@ public:
         Vec2f texCoord;
     };
 
-    TriangleBuilder();
-
     /// The vertex's index.
     UInt32 addVertex(const Vertex &vertex);
-    Pnt3f position(UInt32 index) const { return _positions->getValue(index); }
+    Pnt3f position(UInt32 index) const { return _vertices[index].position; }
     /// Counter-clockwise as seen from the front.
     void addTriangle(UInt32 a, UInt32 b, UInt32 c);
     /// A surface over the unit square, seen from where u runs right and v up.
     void addGrid(
         UInt32 columns, UInt32 rows, const std::function<Vertex(Real32 u, Real32 v)> &surface);
 
-    /// The geometry, with the shared default material.
-    GeometryPtr finish();
+    /// The geometry, with the shared default material; null before osgInit.
+    GeometryPtr finish() const;
 
 private:
-    GeoPositions3fPtr _positions;
-    GeoNormals3fPtr _normals;
-    GeoTexCoords2fPtr _texCoords;
-    GeoIndicesUI32Ptr _indices;
+    void setVertices(Geometry &geometry) const;
+    void setTriangles(Geometry &geometry) const;
+
+    std::vector<Vertex> _vertices;
+    std::vector<UInt32> _indices;
 };
 
 OSG_END_NAMESPACE
