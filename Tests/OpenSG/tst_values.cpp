@@ -26,6 +26,7 @@ private slots:
 
     void coloursStartTransparentBlack();
     void coloursPackWithRedLowest();
+    void coloursAreAddedAndMultipliedByComponents();
     void hueSaturationValueRoundTrips_data();
     void hueSaturationValueRoundTrips();
     void byteColoursReadRealsAndWrap();
@@ -99,6 +100,19 @@ void tst_Values::coloursStartTransparentBlack()
 {
     QCOMPARE(Color4f().alpha(), 0.f);
     QCOMPARE(Color4f(), Color4f(0, 0, 0, 0));
+}
+
+void tst_Values::coloursAreAddedAndMultipliedByComponents()
+{
+    Color3f colour(0.25f, 0.5f, 1.f);
+    colour += Color3f(0.25f, 0.f, 0.f);
+    colour -= Color3f(0.f, 0.f, 0.5f);
+    QCOMPARE(colour, Color3f(0.5f, 0.5f, 0.5f));
+    colour *= Color3f(1.f, 2.f, 4.f);
+    colour /= Color3f(1.f, 1.f, 2.f);
+    QCOMPARE(colour, Color3f(0.5f, 1.f, 1.f));
+    ((colour *= 4.f) /= 2.f) += 1.f;
+    QCOMPARE(colour -= 0.5f, Color3f(1.5f, 2.5f, 2.5f));
 }
 
 void tst_Values::coloursPackWithRedLowest()

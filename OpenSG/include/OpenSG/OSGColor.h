@@ -64,6 +64,14 @@ public:
     Color operator-(T value) const { return combined(uniform(value), std::minus<>()); }
     Color operator*(T value) const { return combined(uniform(value), std::multiplies<>()); }
     Color operator/(T value) const { return combined(uniform(value), std::divides<>()); }
+    Color &operator+=(const Color &other) { return become(*this + other); }
+    Color &operator-=(const Color &other) { return become(*this - other); }
+    Color &operator*=(const Color &other) { return become(*this * other); }
+    Color &operator/=(const Color &other) { return become(*this / other); }
+    Color &operator+=(T value) { return become(*this + value); }
+    Color &operator-=(T value) { return become(*this - value); }
+    Color &operator*=(T value) { return become(*this * value); }
+    Color &operator/=(T value) { return become(*this / value); }
 
 protected:
     ColorBase() = default;
@@ -80,6 +88,7 @@ private:
     static T fromReal(Real32 value);
     static T fromShare(Real32 share);
     static Color uniform(T value);
+    Color &become(const Color &result) { return static_cast<Color &>(*this) = result; }
     template <class Operation> Color combined(const Color &other, Operation operation) const;
 };
 
