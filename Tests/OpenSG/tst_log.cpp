@@ -96,7 +96,8 @@ void tst_Log::withoutHeaderOnlyTheTextIsPrinted()
 {
     PWARNING << "a" << 1 << endLog;
     FPWARNING(("b%d\n", 2));
-    QCOMPARE(m_logged, std::string("a1\nb2\n"));
+    FPLOG(("c%d\n", 3));
+    QCOMPARE(m_logged, std::string("a1\nb2\nc3\n"));
 }
 
 void tst_Log::theStreamItselfIgnoresTheLevel()
