@@ -147,7 +147,8 @@ void tst_Attachments::destructionUnlinksAttachments()
     QVERIFY(name->getParents().empty());
 }
 
-// From the front every release would walk over all parents that are left: minutes.
+// From the front every release would walk over all parents that are left: the test would take
+// minutes.
 void tst_Attachments::anAttachmentOfVeryManyContainersIsQuicklyReleased()
 {
     constexpr int count = 100000;
@@ -157,12 +158,9 @@ void tst_Attachments::anAttachmentOfVeryManyContainersIsQuicklyReleased()
         nodes.emplace_back(Node::create());
         nodes.back()->addAttachment(name.get());
     }
-    QElapsedTimer timer;
-    timer.start();
     while (!nodes.empty()) {
         nodes.pop_back();
     }
-    QVERIFY(timer.elapsed() < 2000);
     QVERIFY(name->getParents().empty());
 }
 
