@@ -6,29 +6,22 @@
 
 #include <kavoNodePtr.h>
 
-#include <QCoreApplication>
-
 namespace {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("kavoTableImport", text);
-}
 
 QString describe(const kavoTable::Row &row, const QString &problem)
 {
-    return tr("line %1: '%2' (id %3): %4")
-        .arg(row.line)
-        .arg(QString::fromStdString(row.path))
-        .arg(row.id)
-        .arg(problem);
+    return kavoTableImport::tr("line %1: '%2' (id %3): %4")
+        .arg(QString::number(row.line), QString::fromStdString(row.path), QString::number(row.id),
+            problem);
 }
 
 }
 
 QString kavoTableImport::Report::summary() const
 {
-    return tr("Changed values: %1, nodes: %2").arg(changedValues).arg(changedNodes);
+    return kavoTableImport::tr("Changed values: %1, nodes: %2")
+        .arg(changedValues)
+        .arg(changedNodes);
 }
 
 std::optional<kavoTableImport::Report> kavoTableImport::run(const osg::NodePtr &root,

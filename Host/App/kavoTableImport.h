@@ -5,6 +5,7 @@
 
 #include <OpenSG/OSGNode.h>
 
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 
@@ -16,6 +17,8 @@
 /// edits changes anything. A cell that was filled in adds a pair; no pair is ever taken away.
 class kavoTableImport
 {
+    Q_DECLARE_TR_FUNCTIONS(kavoTableImport)
+
 public:
     struct Report
     {

@@ -57,7 +57,7 @@ void giveShare(ads::CDockAreaWidget *area, int percent)
 
 QString areaName(const QString &group, Qt::DockWidgetArea area)
 {
-    return QStringLiteral("%1/%2").arg(group).arg(sideOf(area));
+    return group + '/' + QString::number(sideOf(area));
 }
 
 // The window itself if it takes keys, else the first widget in it that does.

@@ -27,6 +27,7 @@ private slots:
     void afterASiblingWasDeletedNothingLandsOnItsSuccessor();
     void anIdOfANodeElsewhereDoesNotCount();
     void rowsWithoutANodeAreReported();
+    void rowsAreReportedWithTheirPathAsItStands();
     void rowsOfTheSameNodeAreReported();
     void otherRowsAreWrittenAllTheSame();
 
@@ -137,6 +138,13 @@ void tst_RowPlacer::rowsWithoutANodeAreReported()
         (QStringList { "line 2: '/Hull/A' (id 1): the scene has no such node",
             "line 3: '/Hull/B' (id 1): the scene has no such node" }));
     QCOMPARE(m_table->import(header).unplacedRows, QStringList());
+}
+
+void tst_RowPlacer::rowsAreReportedWithTheirPathAsItStands()
+{
+    const auto report = m_table->import(header + "17,/A%2FX,,,,\n");
+    QCOMPARE(
+        report.unplacedRows, QStringList("line 2: '/A%2FX' (id 17): the scene has no such node"));
 }
 
 void tst_RowPlacer::rowsOfTheSameNodeAreReported()
