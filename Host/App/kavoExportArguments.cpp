@@ -5,8 +5,6 @@
 #include "kavoTaskError.h"
 #include "kavoValuePairExport.h"
 
-#include <QCoreApplication>
-
 #include <cstdio>
 
 namespace {
@@ -25,30 +23,6 @@ const QString namesOption = QStringLiteral("table-names");
 const QString typesOption = QStringLiteral("table-types");
 const QString nodeKeysOption = QStringLiteral("table-keys");
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("kavoExportArguments", text);
-}
-
-QList<QCommandLineOption> tableOptions()
-{
-    return {
-        { formatOption, tr("csv or jsonl; without it by the ending of the file's name."),
-            tr("FORMAT") },
-        { delimiterOption, tr("comma, semicolon or tab, or any letter. Found out at an import."),
-            tr("DELIMITER"), QStringLiteral("comma") },
-        { decimalOption, tr("Decimal separator of the table: point or comma."), tr("SEPARATOR"),
-            QStringLiteral("point") },
-        { bomOption, tr("Begin the table with a byte order mark.") },
-        { noGuardOption, tr("Write text as it is, even if a spreadsheet takes it for a formula.") },
-        { keysOption, tr("Only columns with such keys: wildcards, separated by semicolons."),
-            tr("PATTERNS") },
-        { namesOption, tr("Only nodes with such names."), tr("PATTERNS") },
-        { typesOption, tr("Only nodes with cores of such types."), tr("PATTERNS") },
-        { nodeKeysOption, tr("Only nodes that have such a key."), tr("PATTERNS") },
-    };
-}
-
 }
 
 QList<QCommandLineOption> kavoExportArguments::options()
@@ -65,6 +39,25 @@ QList<QCommandLineOption> kavoExportArguments::options()
             tr("FILE") },
     }
     + tableOptions();
+}
+
+QList<QCommandLineOption> kavoExportArguments::tableOptions()
+{
+    return {
+        { formatOption, tr("csv or jsonl; without it by the ending of the file's name."),
+            tr("FORMAT") },
+        { delimiterOption, tr("comma, semicolon or tab, or any letter. Found out at an import."),
+            tr("DELIMITER"), QStringLiteral("comma") },
+        { decimalOption, tr("Decimal separator of the table: point or comma."), tr("SEPARATOR"),
+            QStringLiteral("point") },
+        { bomOption, tr("Begin the table with a byte order mark.") },
+        { noGuardOption, tr("Write text as it is, even if a spreadsheet takes it for a formula.") },
+        { keysOption, tr("Only columns with such keys: wildcards, separated by semicolons."),
+            tr("PATTERNS") },
+        { namesOption, tr("Only nodes with such names."), tr("PATTERNS") },
+        { typesOption, tr("Only nodes with cores of such types."), tr("PATTERNS") },
+        { nodeKeysOption, tr("Only nodes that have such a key."), tr("PATTERNS") },
+    };
 }
 
 kavoExportArguments::kavoExportArguments(const QCommandLineParser &parser)
@@ -90,10 +83,10 @@ void kavoExportArguments::parseTableOptions(const QCommandLineParser &parser)
         m_error = tr("--%1 is comma, semicolon, tab or one letter.").arg(delimiterOption);
     m_tableOptions.startsWithByteOrderMark = parser.isSet(bomOption);
     m_tableOptions.guardsFormulas = !parser.isSet(noGuardOption);
-    m_tableOptions.keys = kavoPatterns(parser.value(keysOption));
-    m_tableOptions.nodeNames = kavoPatterns(parser.value(namesOption));
-    m_tableOptions.coreTypes = kavoPatterns(parser.value(typesOption));
-    m_tableOptions.nodeKeys = kavoPatterns(parser.value(nodeKeysOption));
+    m_tableOptions.keys = parsePatterns(parser, keysOption);
+    m_tableOptions.nodeNames = parsePatterns(parser, namesOption);
+    m_tableOptions.coreTypes = parsePatterns(parser, typesOption);
+    m_tableOptions.nodeKeys = parsePatterns(parser, nodeKeysOption);
     m_tableOptions.takesAllNodes = parser.isSet(allNodesOption);
 }
 
@@ -106,6 +99,15 @@ QString kavoExportArguments::choose(const QCommandLineParser &parser, const QStr
     if (!choices.contains(choice))
         m_error = tr("--%1 is one of %2.").arg(option, choices.join(QStringLiteral(", ")));
     return choice;
+}
+
+kavoPatterns kavoExportArguments::parsePatterns(
+    const QCommandLineParser &parser, const QString &option)
+{
+    const kavoPatterns patterns(parser.value(option));
+    if (!patterns.error().isEmpty())
+        m_error = tr("--%1: %2").arg(option, patterns.error());
+    return patterns;
 }
 
 bool kavoExportArguments::areJobs() const
@@ -132,8 +134,7 @@ bool kavoExportArguments::importTable(const osg::NodePtr &scene) const
     if (!report.unplacedRows.isEmpty())
         std::fprintf(stderr, "kavo: %s\n",
             qUtf8Printable(tr("Rows of '%1' without a place in the scene: %2")
-                               .arg(m_importFile)
-                               .arg(report.unplacedRows.size())));
+                               .arg(m_importFile, QString::number(report.unplacedRows.size()))));
     std::printf("%s\n", qUtf8Printable(report.summary()));
     std::fflush(stdout);
     return report.unplacedRows.isEmpty();

@@ -6,12 +6,15 @@
 
 #include <QCommandLineOption>
 #include <QCommandLineParser>
+#include <QCoreApplication>
 #include <QList>
 #include <QString>
 
 /// What the command line asks for in the way of value pairs: import of a table, export of tables.
 class kavoExportArguments
 {
+    Q_DECLARE_TR_FUNCTIONS(kavoExportArguments)
+
 public:
     static QList<QCommandLineOption> options();
 
@@ -31,9 +34,11 @@ public:
     bool run(const osg::NodePtr &scene, const osg::NodePtr &part) const;
 
 private:
+    static QList<QCommandLineOption> tableOptions();
     void parseTableOptions(const QCommandLineParser &parser);
     QString choose(const QCommandLineParser &parser, const QString &option,
         const QStringList &choices, const QString &preset);
+    kavoPatterns parsePatterns(const QCommandLineParser &parser, const QString &option);
     /// \returns whether all rows could be placed
     bool importTable(const osg::NodePtr &scene) const;
     kavoTableOptions optionsFor(const QString &fileName) const;

@@ -4,10 +4,20 @@
 
 #include <algorithm>
 
+// QRegExp since asterisks in wildcards of QRegularExpression match no slash, which keys may have.
 kavoPatterns::kavoPatterns(const QString &patterns)
 {
     for (const QString &pattern : patterns.split(QLatin1Char(';'), Qt::SkipEmptyParts))
         m_patterns.append(QRegExp(pattern, Qt::CaseSensitive, QRegExp::WildcardUnix));
+}
+
+QString kavoPatterns::error() const
+{
+    for (const QRegExp &pattern : m_patterns) {
+        if (!pattern.isValid())
+            return tr("'%1' is no pattern: %2").arg(pattern.pattern(), pattern.errorString());
+    }
+    return QString();
 }
 
 bool kavoPatterns::matches(const std::string &text) const

@@ -4,6 +4,8 @@
 #include "kavoTableFilterBox.h"
 #include "kavoTableFormatBox.h"
 
+#include <QMessageBox>
+
 kavoTableExportDialog::kavoTableExportDialog(QWidget *parent)
     : kavoTaskDialog(tr("Export Table"), tr("&Export..."), parent)
     , m_scope(add(new kavoExportScopeBox))
@@ -23,6 +25,11 @@ kavoTableOptions kavoTableExportDialog::options() const
 
 void kavoTableExportDialog::accept()
 {
+    const QString error = m_filter->error();
+    if (!error.isEmpty()) {
+        QMessageBox::warning(this, windowTitle(), error);
+        return;
+    }
     m_format->remember();
     kavoTaskDialog::accept();
 }

@@ -17,6 +17,7 @@ public:
 
     const kavoExportScopeBox &scope() const { return *m_scope; }
     kavoTableOptions options() const;
+    /// Stays open, with an explanation, if patterns are wrong.
     void accept() override;
 
 private:

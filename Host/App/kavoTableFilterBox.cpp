@@ -21,6 +21,16 @@ QLineEdit *kavoTableFilterBox::addLine(const QString &label)
     return line;
 }
 
+QString kavoTableFilterBox::error() const
+{
+    for (const QLineEdit *line : { m_keys, m_nodeNames, m_coreTypes, m_nodeKeys }) {
+        const QString error = kavoPatterns(line->text()).error();
+        if (!error.isEmpty())
+            return error;
+    }
+    return QString();
+}
+
 void kavoTableFilterBox::apply(kavoTableOptions &options) const
 {
     options.keys = kavoPatterns(m_keys->text());

@@ -14,6 +14,8 @@ class kavoTableFilterBox : public QGroupBox
 public:
     explicit kavoTableFilterBox(QWidget *parent = nullptr);
 
+    /// What is wrong with what was entered, empty if nothing is.
+    QString error() const;
     /// Sets what was chosen here; leaves the rest alone.
     void apply(kavoTableOptions &options) const;
 

@@ -109,6 +109,7 @@ private slots:
     void valuePairsOfTheSelectionAreExported();
     void withoutASelectionOnlyTheSceneCanBeExported();
     void aTableIsExportedAsChosen();
+    void aWrongPatternIsExplained();
     void theFormatChosenLastIsOfferedAgain();
     void aTableIsImported();
     void jsonLinesWithoutAnEndingCanBeImportedAgain();
@@ -202,6 +203,26 @@ void tst_ExportActions::aTableIsExportedAsChosen()
     QVERIFY(m_user->isDone());
     QVERIFY(written("t.csv").startsWith("id;path;name;type;color\r\n"));
     QVERIFY(written("t.csv").endsWith(";/Hull/Mast;Mast;Group;red\r\n"));
+}
+
+void tst_ExportActions::aWrongPatternIsExplained()
+{
+    QString explanation;
+    bool staysOpen = false;
+    m_user->willDo([&](QDialog &dialog) {
+        dialog.findChildren<QLineEdit *>().last()->setText("[abc");
+        QTimer::singleShot(0, &dialog, [&] {
+            auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            explanation = box->text();
+            box->accept();
+        });
+        accept(dialog);
+        staysOpen = dialog.isVisible();
+        dialog.reject();
+    });
+    m_user->trigger(*m_menu, "Table...");
+    QVERIFY2(explanation.contains("'[abc'"), qPrintable(explanation));
+    QVERIFY(staysOpen);
 }
 
 void tst_ExportActions::theFormatChosenLastIsOfferedAgain()

@@ -26,6 +26,7 @@ private slots:
     void theFormatIsThatOfTheNameOrTheOption();
     void theImportComesFirst();
     void unplacedRowsAreAFailureThatKeepsNoExportBack();
+    void namesWithPercentSignsAreReportedAsTheyAre();
 
 private:
     static kavoExportArguments parse(const QStringList &arguments);
@@ -77,6 +78,9 @@ void tst_ExportArguments::wrongValuesAreExplained_data()
     QTest::newRow("format") << QStringList { "--table-format", "xls" } << "--table-format";
     QTest::newRow("delimiter") << QStringList { "--table-delimiter", "::" } << "--table-delimiter";
     QTest::newRow("decimal") << QStringList { "--table-decimal", "." } << "--table-decimal";
+    for (const char *option :
+        { "--table-columns", "--table-names", "--table-types", "--table-keys" })
+        QTest::newRow(option) << QStringList { option, "a;[abc" } << option + QString(": '[abc'");
 }
 
 void tst_ExportArguments::wrongValuesAreExplained()
@@ -146,6 +150,17 @@ void tst_ExportArguments::unplacedRowsAreAFailureThatKeepsNoExportBack()
     QVERIFY(!run({ "--import-table", file, "--export-value-pairs", m_table->path("p.csv") }));
     QVERIFY(errors.text().contains("line 2: '/Sail' (id 7): the scene has no such node"));
     QVERIFY(written("p.csv").endsWith("Mast,red,1.5,\n"));
+}
+
+void tst_ExportArguments::namesWithPercentSignsAreReportedAsTheyAre()
+{
+    const QString file = m_table->path("sales %2.csv");
+    QFile table(file);
+    QVERIFY(table.open(QIODevice::WriteOnly) && table.write("id,path,name,type\n7,/Sail,,\n") > 0);
+    table.close();
+    kavoConsoleCapture errors(kavoConsoleCapture::StandardError);
+    run({ "--import-table", file });
+    QVERIFY(errors.text().contains("%2.csv' without a place in the scene: 1\n"));
 }
 
 KAVO_TEST_MAIN(tst_ExportArguments)
