@@ -2,18 +2,7 @@
 
 #include "kavoTaskError.h"
 
-#include <QCoreApplication>
-
 #include <algorithm>
-
-namespace {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("kavoCsvParser", text);
-}
-
-}
 
 kavoCsvParser::kavoCsvParser(const std::string &text, char delimiter)
     : m_text(text)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <string>
@@ -9,6 +10,8 @@
 /// passed over.
 class kavoCsvParser
 {
+    Q_DECLARE_TR_FUNCTIONS(kavoCsvParser)
+
 public:
     /// \param text must live as long as the parser
     kavoCsvParser(const std::string &text, char delimiter);

@@ -4,7 +4,6 @@
 #include "kavoCsvWriter.h"
 #include "kavoTaskError.h"
 
-#include <QCoreApplication>
 #include <QString>
 
 #include <algorithm>
@@ -15,14 +14,9 @@ namespace {
 
 using Cells = std::vector<std::string>;
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("kavoCsvReader", text);
-}
-
 [[noreturn]] void fail(int line, const QString &reason)
 {
-    throw kavoTaskError(tr("line %1: %2").arg(line).arg(reason));
+    throw kavoTaskError(kavoCsvReader::tr("line %1: %2").arg(line).arg(reason));
 }
 
 // The first column has a known name: behind it, or behind the quote that closes it, stands the
@@ -40,7 +34,7 @@ std::vector<kavoTable::Column> columnsOf(const Cells &header, const kavoCellText
 {
     const Cells &fixed = kavoCsvWriter::fixedColumns();
     if (header.size() < fixed.size() || !std::equal(fixed.begin(), fixed.end(), header.begin()))
-        fail(1, tr("the columns id, path, name and type are not the first"));
+        fail(1, kavoCsvReader::tr("the columns id, path, name and type are not the first"));
     std::vector<kavoTable::Column> columns;
     std::unordered_map<std::string, int> count;
     for (std::size_t i = fixed.size(); i < header.size(); ++i) {
@@ -55,7 +49,7 @@ osg::UInt32 parseId(const std::string &cell, int line)
     bool isNumber = false;
     const osg::UInt32 id = QString::fromStdString(cell).toUInt(&isNumber);
     if (!isNumber)
-        fail(line, tr("'%1' is not an id").arg(QString::fromStdString(cell)));
+        fail(line, kavoCsvReader::tr("'%1' is not an id").arg(QString::fromStdString(cell)));
     return id;
 }
 

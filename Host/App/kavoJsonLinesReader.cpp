@@ -3,7 +3,6 @@
 #include "kavoTaskError.h"
 #include "kavoUtf8.h"
 
-#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -14,15 +13,10 @@
 
 namespace {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("kavoJsonLinesReader", text);
-}
-
 std::string textOf(const QJsonValue &value)
 {
     if (!value.isString())
-        throw kavoTaskError(tr("a value that is no text"));
+        throw kavoTaskError(kavoJsonLinesReader::tr("a value that is no text"));
     return value.toString().toStdString();
 }
 
@@ -30,7 +24,7 @@ osg::UInt32 idOf(const QJsonObject &object)
 {
     const double id = object.value(QLatin1String("id")).toDouble(-1);
     if (id < 0 || id > std::numeric_limits<osg::UInt32>::max() || id != double(osg::UInt32(id)))
-        throw kavoTaskError(tr("no id"));
+        throw kavoTaskError(kavoJsonLinesReader::tr("no id"));
     return osg::UInt32(id);
 }
 

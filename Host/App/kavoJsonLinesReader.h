@@ -2,6 +2,8 @@
 
 #include "kavoTable.h"
 
+#include <QCoreApplication>
+
 #include <map>
 #include <string>
 
@@ -10,6 +12,8 @@ class QJsonObject;
 /// Reads what kavoJsonLinesWriter writes. Of the members only id, path and values count.
 class kavoJsonLinesReader
 {
+    Q_DECLARE_TR_FUNCTIONS(kavoJsonLinesReader)
+
 public:
     /// \throws kavoTaskError if the text is malformed
     static kavoTable read(const std::string &text);

@@ -2,7 +2,6 @@
 
 #include "kavoTaskError.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
@@ -60,8 +59,7 @@ kavoOutputFile::kavoOutputFile(const QString &target)
         return;
     }
     if (isOpenStream(target))
-        fail(QCoreApplication::translate(
-            "kavoOutputFile", "It is redirected to a file: name the file instead"));
+        fail(tr("It is redirected to a file: name the file instead"));
     m_target = linkedFile(target);
     if (QFileInfo(m_target).isSymLink())
         fail(ELOOP);
@@ -96,6 +94,5 @@ void kavoOutputFile::fail(int error) const
 
 void kavoOutputFile::fail(const QString &reason) const
 {
-    throw kavoTaskError(QCoreApplication::translate("kavoOutputFile", "Cannot write '%1': %2")
-                            .arg(m_target, reason));
+    throw kavoTaskError(tr("Cannot write '%1': %2").arg(m_target, reason));
 }

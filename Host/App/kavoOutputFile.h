@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 #include <QTemporaryFile>
 
@@ -11,6 +12,8 @@
 /// would be lost.
 class kavoOutputFile
 {
+    Q_DECLARE_TR_FUNCTIONS(kavoOutputFile)
+
 public:
     /// \throws kavoTaskError if there cannot be such a file
     explicit kavoOutputFile(const QString &target);

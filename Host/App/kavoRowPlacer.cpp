@@ -2,17 +2,6 @@
 
 #include "kavoPathWalk.h"
 
-#include <QCoreApplication>
-
-namespace {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("kavoRowPlacer", text);
-}
-
-}
-
 kavoRowPlacer::kavoRowPlacer(const std::vector<kavoTable::Row> &rows)
     : m_rows(rows)
     , m_names(rows.size())

@@ -5,6 +5,7 @@
 
 #include <OpenSG/OSGNode.h>
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <string_view>
@@ -20,6 +21,8 @@
 /// not two different nodes, and if no other row names the node in either way.
 class kavoRowPlacer
 {
+    Q_DECLARE_TR_FUNCTIONS(kavoRowPlacer)
+
 public:
     struct Place
     {

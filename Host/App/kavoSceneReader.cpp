@@ -7,7 +7,6 @@
 #include <OpenSG/OSGSceneFileHandler.h>
 #include <OpenSG/OSGSimpleAttachments.h>
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 
@@ -23,7 +22,7 @@ QString reasonOfFailure(const QString &fileName)
         return qt_error_string(EISDIR);
     if (!file.open(QIODevice::ReadOnly))
         return file.errorString();
-    return QCoreApplication::translate("kavoSceneReader", "the file holds no scene");
+    return kavoSceneReader::tr("the file holds no scene");
 }
 
 // Files of several scenes keep the group that the library put them in.

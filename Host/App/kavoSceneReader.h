@@ -4,11 +4,14 @@
 
 #include <kavoNodePtr.h>
 
+#include <QCoreApplication>
 #include <QString>
 
 /// Reads what kavoSceneSaver saved, and OpenSG's ASCII files of other programs. GUI thread.
 class kavoSceneReader
 {
+    Q_DECLARE_TR_FUNCTIONS(kavoSceneReader)
+
 public:
     struct Scene
     {

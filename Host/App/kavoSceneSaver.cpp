@@ -7,7 +7,6 @@
 
 #include <OpenSG/OSGSceneFileHandler.h>
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 
@@ -15,11 +14,6 @@
 #include <fstream>
 
 namespace {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("kavoSceneSaver", text);
-}
 
 void write(const osg::NodePtr &root, const kavoOutputFile &file)
 {
@@ -33,7 +27,7 @@ void write(const osg::NodePtr &root, const kavoOutputFile &file)
     if (!isWhole || !stream.good())
         file.fail(errno != 0 ? errno : EIO);
     if (!written)
-        throw kavoTaskError(tr("The scene cannot be saved; the log says why"));
+        throw kavoTaskError(kavoSceneSaver::tr("The scene cannot be saved; the log says why"));
 }
 
 }

@@ -2,12 +2,15 @@
 
 #include <OpenSG/OSGNodePtr.h>
 
+#include <QCoreApplication>
 #include <QString>
 
 /// Saves scenes in OpenSG's ASCII format, with what is in them and the cameras of the open scene.
 /// GUI thread.
 class kavoSceneSaver
 {
+    Q_DECLARE_TR_FUNCTIONS(kavoSceneSaver)
+
 public:
     /// The suffix of files that can be saved, without the dot.
     static QString suffix();

@@ -5,15 +5,9 @@
 #include "kavoTaskError.h"
 #include "kavoUtf8.h"
 
-#include <QCoreApplication>
 #include <QFile>
 
 namespace {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("kavoTableReader", text);
-}
 
 std::string readText(const QString &fileName)
 {
@@ -22,7 +16,7 @@ std::string readText(const QString &fileName)
         throw kavoTaskError(file.errorString());
     std::string text = file.readAll().toStdString();
     if (!kavoUtf8::isValid(text))
-        throw kavoTaskError(tr("the text is not UTF-8"));
+        throw kavoTaskError(kavoTableReader::tr("the text is not UTF-8"));
     if (text.compare(0, 3, "\xEF\xBB\xBF") == 0)
         text.erase(0, 3);
     return text;

@@ -3,11 +3,14 @@
 #include "kavoTable.h"
 #include "kavoTableOptions.h"
 
+#include <QCoreApplication>
 #include <QString>
 
 /// Reads the files that kavoTableExport writes, edited or not.
 class kavoTableReader
 {
+    Q_DECLARE_TR_FUNCTIONS(kavoTableReader)
+
 public:
     /// \param options decimal separator and guard as at the export. The delimiter of CSV is found
     /// out, and that a table is JSON Lines, too; of an empty one the format tells

@@ -8,7 +8,6 @@
 
 #include <OpenSG/OSGGraphOpFactory.h>
 
-#include <QCoreApplication>
 #include <QFile>
 
 #include <memory>
@@ -63,8 +62,7 @@ bool kavoValuePairExport::run(const osg::NodePtr &root, const QString &fileName,
     const std::unique_ptr<osg::GraphOp> operation = createOperation();
     auto *creator = dynamic_cast<ValuePairCSVCreator *>(operation.get());
     if (!creator) {
-        throw kavoTaskError(QCoreApplication::translate(
-            "kavoValuePairExport", "The operation '%1' is not the one that writes value pairs")
+        throw kavoTaskError(tr("The operation '%1' is not the one that writes value pairs")
                                 .arg(QString::fromLatin1(operationName)));
     }
     creator->setCsvType(takesAllNodes);

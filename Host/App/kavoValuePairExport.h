@@ -4,11 +4,14 @@
 
 #include <OpenSG/OSGNodePtr.h>
 
+#include <QCoreApplication>
 #include <QString>
 
 /// Writes the value pairs of a scene by means of the graph operation "ValuePairCSVCreator".
 class kavoValuePairExport
 {
+    Q_DECLARE_TR_FUNCTIONS(kavoValuePairExport)
+
 public:
     /// \param root the scene or a part of it; null is an empty scene
     /// \param takesAllNodes also those that are not fully visible
