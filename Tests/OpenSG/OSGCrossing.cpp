@@ -16,7 +16,7 @@ FieldDescription *Crossing::_desc[] = { new FieldDescription(MFNodePtr::getClass
         OSG_FC_FIELD_IDM_DESC(Crossing::LightsField), true,
         (FieldAccessMethod)&Crossing::getSFLights) };
 
-FieldContainerType Crossing::_type("Crossing", "NodeCore", "crossroads",
+FieldContainerType Crossing::_type("Crossing", "Track", "crossroads",
     (PrototypeCreateF)&Crossing::createEmpty, NULL, Crossing::_desc, sizeof(Crossing::_desc));
 
 OSG_FIELD_CONTAINER_DEF(Crossing, CrossingPtr)

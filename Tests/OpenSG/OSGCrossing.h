@@ -1,18 +1,19 @@
 #pragma once
 
-#include <OpenSG/OSGNodeCore.h>
+#include "OSGTrack.h"
+
 #include <OpenSG/OSGNodeFields.h>
 #include <OpenSG/OSGSFSysTypes.h>
 
 OSG_BEGIN_NAMESPACE
 
 class Crossing;
-typedef FCPtr<NodeCorePtr, Crossing> CrossingPtr;
+typedef FCPtr<TrackPtr, Crossing> CrossingPtr;
 
 /// A core with a list of nodes, by the macros.
-class Crossing : public NodeCore
+class Crossing : public Track
 {
-    typedef NodeCore Inherited;
+    typedef Track Inherited;
 
 public:
     typedef CrossingPtr Ptr;

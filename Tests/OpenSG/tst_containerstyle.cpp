@@ -27,6 +27,9 @@ private slots:
     void theInitMethodIsCalledOnce();
     void ownFieldsFollowTheInheritedOnes();
     void familiesAndGroupsAreKnown();
+    void anAbstractClassHasFieldsButNoContainers();
+    void ownValueTypesHaveTheirTexts();
+    void ownValueTypesHaveTheirBytes();
     void ownPointerFieldsAreRegistered();
     void newContainersAreInTheStoreWithoutReference();
     void theEndOfAnEditIsToldToTheContainerAndTheList();
@@ -78,6 +81,37 @@ void tst_ContainerStyle::familiesAndGroupsAreKnown()
     QVERIFY(Crossing::getClassType().isNodeCore());
     QCOMPARE(factory.findGroupName(Recipe::getClassType().getGroupId()), "Recipe");
     QCOMPARE(factory.findGroupName(Crossing::getClassType().getGroupId()), "crossroads");
+}
+
+void tst_ContainerStyle::anAbstractClassHasFieldsButNoContainers()
+{
+    FieldContainerType &type = Track::getClassType();
+    QVERIFY(type.isAbstract() && type.isNodeCore());
+    QCOMPARE(Track::getClassTypeId(), type.getId());
+    QVERIFY(type.createFieldContainer() == NullFC);
+    QVERIFY(Crossing::getClassType().isDerivedFrom(type));
+    const RefPtr<CrossingPtr> crossing(Crossing::create());
+    QVERIFY(crossing->getField(UInt32(Track::GaugeFieldId)) == crossing->getSFGauge());
+}
+
+void tst_ContainerStyle::ownValueTypesHaveTheirTexts()
+{
+    const RefPtr<CrossingPtr> crossing(Crossing::create());
+    crossing->getField("gauge")->pushValueByStr("1000");
+    crossing->getLengths().push_back(12.f);
+    std::string gauge;
+    std::string lengths;
+    QCOMPARE(crossing->getField("gauge")->getValueByStr(gauge), std::string("1000 mm"));
+    QCOMPARE(crossing->getField("lengths")->getValueByStr(lengths), std::string("12 m"));
+    QCOMPARE(crossing->getField("lengths")->getContentType().getCName(), "Metres");
+}
+
+void tst_ContainerStyle::ownValueTypesHaveTheirBytes()
+{
+    SFGauge gauge;
+    SFMetres length(12.f);
+    QCOMPARE(gauge.getBinSize(), UInt32(sizeof("1435 mm")));
+    QCOMPARE(length.getBinSize(), UInt32(sizeof(Metres)));
 }
 
 void tst_ContainerStyle::ownPointerFieldsAreRegistered()
