@@ -2,6 +2,7 @@
 #include "SceneText.h"
 
 #include <OpenSG/OSGBaseFunctions.h>
+#include <OpenSG/OSGChangeList.h>
 #include <OpenSG/OSGComponentTransform.h>
 #include <OpenSG/OSGDistanceLOD.h>
 #include <OpenSG/OSGGeometry.h>
@@ -10,9 +11,11 @@
 #include <OpenSG/OSGPointLight.h>
 #include <OpenSG/OSGSimpleAttachments.h>
 #include <OpenSG/OSGSwitch.h>
+#include <OpenSG/OSGThread.h>
 
 #include <QtTest>
 
+#include <algorithm>
 #include <sstream>
 
 using namespace osg;
@@ -42,6 +45,7 @@ private slots:
     void boolsAreWordsOfAnyLetterCase_data();
     void boolsAreWordsOfAnyLetterCase();
     void listsOfValuesNeedNoBrackets();
+    void aListThatGoesOnIsOneEdit();
     void fieldsThatOtherReadersStumbleOverAreRead_data();
     void fieldsThatOtherReadersStumbleOverAreRead();
     void valuesAreAppendedToThoseOfThePrototype();
@@ -210,6 +214,24 @@ void tst_SceneFileReader::listsOfValuesNeedNoBrackets()
     const auto lod = DistanceLODPtr::dcast(node->getCore());
     QCOMPARE(lod->getRange().size(), 1u);
     QVERIFY(lod->getCenter() == Pnt3f(1, 1, 1));
+}
+
+void tst_SceneFileReader::aListThatGoesOnIsOneEdit()
+{
+    NOT_IN_STOCK("stock 1.8 ends an edit behind each occurrence");
+    ChangeList &changes = *Thread::getCurrentChangeList();
+    changes.setReadOnly(false);
+    const NodePtr node = m_text->readFirst(
+        nodeWithCore("DistanceLOD", "range 1 range [ 2 3 ] range 4 center 1 1 1"));
+    changes.setReadOnly(true);
+    const auto lod = DistanceLODPtr::dcast(node->getCore());
+    const auto isOfRange = [&](const ChangeList::ChangeEntry &entry) {
+        return entry.first == lod.getFieldContainerId()
+            && entry.second == DistanceLOD::RangeFieldMask;
+    };
+    QCOMPARE(std::count_if(changes.beginChanged(), changes.endChanged(), isOfRange), 1);
+    changes.clearAll();
+    QCOMPARE(lod->getRange().size(), 4u);
 }
 
 void tst_SceneFileReader::fieldsThatOtherReadersStumbleOverAreRead_data()

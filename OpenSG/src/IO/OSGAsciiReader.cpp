@@ -192,6 +192,7 @@ void AsciiReader::readBody(const FieldContainerPtr &container)
     if (_cursor.at(SceneToken::End)) {
         _cursor.fail();
     }
+    edit(FieldBits::NoField);
     _cursor.advance();
     _open.pop_back();
     addDefaultCore(NodePtr::dcast(container));
@@ -208,14 +209,27 @@ bool AsciiReader::readField(const FieldContainerPtr &owner)
     const FieldSyntax syntax = FieldSyntax::of(field.getType());
     const bool isPointers
         = syntax.kind == FieldSyntax::Pointers || syntax.kind == FieldSyntax::Attachments;
-    beginEditCP(owner, description->getFieldMask(), editOrigin);
+    edit(description->getFieldMask());
     if (!isPointers && startsList(field, *description)) {
         clear(field);
     }
-    const bool ok
-        = isPointers ? readPointers(PointerField(owner, field)) : readValues(field, syntax);
-    endEditCP(owner, description->getFieldMask(), editOrigin);
-    return ok;
+    return isPointers ? readPointers(PointerField(owner, field)) : readValues(field, syntax);
+}
+
+// A list may come element by element, and at the end of an edit its owner goes through all.
+void AsciiReader::edit(BitVector field)
+{
+    OpenContainer &open = _open.back();
+    if (open.editedField == field) {
+        return;
+    }
+    if (open.editedField != FieldBits::NoField) {
+        endEditCP(open.container, open.editedField, editOrigin);
+    }
+    open.editedField = field;
+    if (field != FieldBits::NoField) {
+        beginEditCP(open.container, field, editOrigin);
+    }
 }
 
 // A field that comes again goes on with the list it has read.

@@ -35,10 +35,13 @@ private:
     {
         FieldContainerPtr container;
         BitVector startedFields = 0;
+        /// Of the field that was read last, whose edit goes on until another begins.
+        BitVector editedField = 0;
     };
 
     // Each stands on the first token of what it reads. False: the text goes on in an unknown way.
     bool readField(const FieldContainerPtr &owner);
+    void edit(BitVector field);
     bool startsList(const Field &field, const FieldDescription &description);
     bool readPointers(PointerField field);
     bool readPointer(PointerField &field);
