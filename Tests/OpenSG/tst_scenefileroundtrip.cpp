@@ -30,6 +30,7 @@ private slots:
     void aSampleIsWrittenAsItStands();
     void everyContainerKeepsItsValues_data();
     void everyContainerKeepsItsValues();
+    void writingWhatWasReadChangesNothingMore_data();
     void writingWhatWasReadChangesNothingMore();
 
 private:
@@ -63,11 +64,37 @@ const struct
         "" },
 };
 
+int indentOf(const QString &line)
+{
+    const auto first = std::find_if(line.begin(), line.end(), [](QChar c) { return c != ' '; });
+    return int(first - line.begin());
+}
+
+void sortAttachments(QStringList &lines, int first)
+{
+    const int indent = indentOf(lines[first]);
+    QStringList attachments;
+    int end = first;
+    for (; indentOf(lines[end]) >= indent; ++end) {
+        if (indentOf(lines[end]) == indent && !lines[end].endsWith('}')) {
+            attachments << QString();
+        }
+        attachments.last() += lines[end] + '\n';
+    }
+    attachments.sort();
+    lines = lines.mid(0, first) + attachments.join(QString()).split('\n', Qt::SkipEmptyParts)
+        + lines.mid(end);
+}
+
 // Attachments are in the order of their groups, whose numbers depend on the library.
-QStringList sortedLines(const QString &text)
+QStringList withSortedAttachments(const QString &text)
 {
     QStringList lines = text.split('\n');
-    lines.sort();
+    for (int i = lines.size() - 1; i > 0; --i) {
+        if (lines[i - 1].endsWith(QLatin1String(" attachments [ "))) {
+            sortAttachments(lines, i);
+        }
+    }
     return lines;
 }
 
@@ -197,7 +224,7 @@ void tst_SceneFileRoundTrip::aSampleIsWrittenAsItStands()
         }
     }
     const QString written = QString::fromStdString(m_text->write(m_text->readFirst(sample(name))));
-    QCOMPARE(sortedLines(written), sortedLines(expected));
+    QCOMPARE(withSortedAttachments(written), withSortedAttachments(expected));
 }
 
 void tst_SceneFileRoundTrip::everyContainerKeepsItsValues_data()
@@ -231,9 +258,15 @@ void tst_SceneFileRoundTrip::everyContainerKeepsItsValues()
     QCOMPARE(texts(read), texts(container.get()));
 }
 
+void tst_SceneFileRoundTrip::writingWhatWasReadChangesNothingMore_data()
+{
+    addSampleRows();
+}
+
 void tst_SceneFileRoundTrip::writingWhatWasReadChangesNothingMore()
 {
-    const std::string once = m_text->write(m_text->readFirst(sample("geometry")));
+    QFETCH(QByteArray, name);
+    const std::string once = m_text->write(m_text->readFirst(sample(name)));
     QCOMPARE(m_text->write(m_text->readFirst(once)), once);
 }
 
