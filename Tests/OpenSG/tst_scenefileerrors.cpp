@@ -3,10 +3,13 @@
 #include <OpenSG/OSGBaseFunctions.h>
 #include <OpenSG/OSGFieldContainerFactory.h>
 #include <OpenSG/OSGGeometry.h>
+#include <OpenSG/OSGGroup.h>
 #include <OpenSG/OSGImage.h>
 #include <OpenSG/OSGSwitch.h>
 
 #include <QtTest>
+
+#include <sstream>
 
 using namespace osg;
 
@@ -32,6 +35,7 @@ private slots:
     void nestingIsBounded();
     void internalPointersAreNotRead();
     void aNodeCannotBeBelowItself();
+    void aStreamHasNoNameInTheLog();
 
 private:
     std::unique_ptr<SceneText> m_text;
@@ -170,6 +174,17 @@ void tst_SceneFileErrors::aNodeCannotBeBelowItself()
         = m_text->readFirst("DEF A Node { children Node { children [ USE A Node { } ] } }");
     QCOMPARE(node->getChild(0)->getNChildren(), 1u);
     QCOMPARE(m_text->takeLog(), std::string("WARNING:  -----> parse error in Line 1, read 'A'\n"));
+}
+
+void tst_SceneFileErrors::aStreamHasNoNameInTheLog()
+{
+    m_text->read("");
+    QCOMPARE(m_text->takeLog(), std::string("WARNING:  There is no scene in the stream\n"));
+    std::ostringstream broken;
+    broken.setstate(std::ios::badbit);
+    const NodeRefPtr node(makeCoredNode<Group>());
+    QVERIFY(!SceneFileHandler::the().write(node.get(), broken, "osg"));
+    QCOMPARE(m_text->takeLog(), std::string("WARNING:  Couldn't write the scene to the stream\n"));
 }
 
 QTEST_APPLESS_MAIN(tst_SceneFileErrors)

@@ -274,7 +274,7 @@ void tst_SceneFileOwnership::whatAnOperationHoldsStaysWhole()
 void tst_SceneFileOwnership::containersWithoutPlaceAreNoScene()
 {
     QVERIFY(m_text->read("SimpleMaterial { } Image { }") == NullFC);
-    QCOMPARE(m_text->takeLog(), std::string("WARNING:  There is no scene in osg\n"));
+    QCOMPARE(m_text->takeLog(), std::string("WARNING:  There is no scene in the stream\n"));
 }
 
 QTEST_APPLESS_MAIN(tst_SceneFileOwnership)

@@ -90,6 +90,8 @@ private:
     const SceneFileType *open(const Char8 *fileName, std::ifstream &file);
     NodePtr readScene(const SceneFileType &type, std::istream &is, const Char8 *name);
     FCPtrStore readContainers(const SceneFileType &type, std::istream &is, const Char8 *name);
+    bool writeScene(
+        const SceneFileType &type, const NodePtr &node, std::ostream &os, const Char8 *name);
 
     std::vector<std::unique_ptr<SceneFileType>> _types;
     PathHandler _pathHandler;

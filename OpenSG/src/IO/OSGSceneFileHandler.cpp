@@ -113,6 +113,8 @@ NodePtr withOperations(const NodePtr &root, GraphOpSeq *operations)
     return NodePtr::dcast(withOperations(FCPtrStore { root }, operations).front());
 }
 
+constexpr const Char8 *streamName = "the stream"; // in the log
+
 void reportNoScene(const Char8 *name)
 {
     SWARNING << "There is no scene in " << name << endLog;
@@ -149,7 +151,7 @@ NodePtr SceneFileHandler::read(const Char8 *fileName, GraphOpSeq *graphOpSeq)
 NodePtr SceneFileHandler::read(std::istream &is, const Char8 *ext, GraphOpSeq *graphOpSeq)
 {
     const SceneFileType *type = findType(ext, SceneFileType::OSG_READ_SUPPORTED);
-    return type ? withOperations(readScene(*type, is, ext), graphOpSeq) : NodePtr();
+    return type ? withOperations(readScene(*type, is, streamName), graphOpSeq) : NodePtr();
 }
 
 FCPtrStore SceneFileHandler::readTopNodes(const Char8 *fileName, GraphOpSeq *graphOpSeq)
@@ -169,12 +171,13 @@ FCPtrStore SceneFileHandler::readTopNodes(
     std::istream &is, const Char8 *ext, GraphOpSeq *graphOpSeq)
 {
     const SceneFileType *type = findType(ext, SceneFileType::OSG_READ_SUPPORTED);
-    return type ? withOperations(readContainers(*type, is, ext), graphOpSeq) : FCPtrStore();
+    return type ? withOperations(readContainers(*type, is, streamName), graphOpSeq) : FCPtrStore();
 }
 
-bool SceneFileHandler::write(const NodePtr &node, const Char8 *fileName, bool compress)
+bool SceneFileHandler::write(const NodePtr &node, const Char8 *fileName, bool)
 {
-    if (!findType(fileName, SceneFileType::OSG_WRITE_SUPPORTED) || !node) {
+    const SceneFileType *type = findType(fileName, SceneFileType::OSG_WRITE_SUPPORTED);
+    if (!type || !node) {
         return false;
     }
     std::ofstream file(fileName, std::ios::binary);
@@ -184,7 +187,7 @@ bool SceneFileHandler::write(const NodePtr &node, const Char8 *fileName, bool co
     }
     const ThrottledProgress start(_writeProgress);
     tell(_writeBegin, fileName);
-    const bool ok = write(node, file, fileName, compress);
+    const bool ok = writeScene(*type, node, file, fileName);
     tell(_writeEnd, fileName);
     return ok;
 }
@@ -192,14 +195,7 @@ bool SceneFileHandler::write(const NodePtr &node, const Char8 *fileName, bool co
 bool SceneFileHandler::write(const NodePtr &node, std::ostream &os, const Char8 *ext, bool)
 {
     const SceneFileType *type = findType(ext, SceneFileType::OSG_WRITE_SUPPORTED);
-    if (!type || !node) {
-        return false;
-    }
-    const bool ok = type->write(node, os, ThrottledProgress(_writeProgress)) && os.flush();
-    if (!ok) {
-        SWARNING << "Couldn't write the scene to " << ext << endLog;
-    }
-    return ok;
+    return type && node && writeScene(*type, node, os, streamName);
 }
 
 SceneFileType *SceneFileHandler::getFileType(const Char8 *fileNameOrExtension)
@@ -282,6 +278,16 @@ FCPtrStore SceneFileHandler::readContainers(
         reportNoScene(name);
     }
     return containers;
+}
+
+bool SceneFileHandler::writeScene(
+    const SceneFileType &type, const NodePtr &node, std::ostream &os, const Char8 *name)
+{
+    const bool ok = type.write(node, os, ThrottledProgress(_writeProgress)) && os.flush();
+    if (!ok) {
+        SWARNING << "Couldn't write the scene to " << name << endLog;
+    }
+    return ok;
 }
 
 OSG_END_NAMESPACE
