@@ -1,16 +1,20 @@
 #include "SceneText.h"
 
 #include <OpenSG/OSGBaseFunctions.h>
+#include <OpenSG/OSGBlendChunk.h>
 #include <OpenSG/OSGChunkMaterial.h>
 #include <OpenSG/OSGDistanceLOD.h>
+#include <OpenSG/OSGFCPtrAttributeMap.h>
 #include <OpenSG/OSGGroup.h>
 #include <OpenSG/OSGMaterialGroup.h>
 #include <OpenSG/OSGSimpleAttachments.h>
+#include <OpenSG/OSGState.h>
 #include <OpenSG/OSGStringAttributeMap.h>
 
 #include <QtTest>
 
 #include <limits>
+#include <sstream>
 
 using namespace osg;
 
@@ -29,16 +33,23 @@ private slots:
     void backslashesReadBack();
     void whiteSpaceInStringsBecomesSingleBlanks();
     void whiteSpaceInStringsCanBeKept();
-    void longStringsCanBeKeptWhole();
+    void longStringsOfAListStayWhole_data();
+    void longStringsOfAListStayWhole();
     void theStringsOfAListStayInTheirPlaces_data();
     void theStringsOfAListStayInTheirPlaces();
     void listsCanReplaceThoseOfThePrototype();
+    void anOptionIsAWordOfItsOwn();
+    void emptyPlacesInAListAreReportedAndLeftOut();
+    void emptyPlacesStayInListsThatReplace();
+    void aStateWithEmptyPlacesTakesChunks();
+    void bindingsOfAttachmentsAreReportedAndGiveWay();
     void infiniteNumbersReadBack();
     void whatIsNoNumberIsWrittenAsZeroAndReported();
 
 private:
     NodePtr named(const std::string &name) const;
     std::string nameReadBack(const std::string &name);
+    FCPtrAttributeMapPtr readBackWithEmptyPlace();
 
     std::unique_ptr<SceneText> m_text;
 };
@@ -121,9 +132,18 @@ void tst_SceneFileValues::whiteSpaceInStringsCanBeKept()
     QCOMPARE(m_text->takeLog(), std::string());
 }
 
-void tst_SceneFileValues::longStringsCanBeKeptWhole()
+void tst_SceneFileValues::longStringsOfAListStayWhole_data()
 {
-    SceneFileHandler::the().setOptions("osg", "whitespace=keep");
+    QTest::addColumn<QByteArray>("options");
+
+    QTest::newRow("white space as usual") << QByteArray("");
+    QTest::newRow("white space kept") << QByteArray("whitespace=keep");
+}
+
+void tst_SceneFileValues::longStringsOfAListStayWhole()
+{
+    QFETCH(QByteArray, options);
+    SceneFileHandler::the().setOptions("osg", options);
     const std::string longText(70, 'x');
     const NodeRefPtr node(makeCoredNode<Group>());
     const StringAttributeMapPtr attributes = StringAttributeMap::create();
@@ -135,6 +155,7 @@ void tst_SceneFileValues::longStringsCanBeKeptWhole()
         = StringAttributeMapPtr::dcast(copy->findAttachment(StringAttributeMap::getClassType()));
     QCOMPARE(read->getAttribute("first"), longText + " and " + longText);
     QVERIFY(read->hasAttribute("second"));
+    QCOMPARE(m_text->takeLog(), std::string());
 }
 
 void tst_SceneFileValues::theStringsOfAListStayInTheirPlaces_data()
@@ -181,6 +202,64 @@ void tst_SceneFileValues::listsCanReplaceThoseOfThePrototype()
     std::string text;
     QCOMPARE(QByteArray(chunk->getField("variableArgb")->getValueByStr(text).c_str()),
         QByteArray("7, 8"));
+}
+
+void tst_SceneFileValues::anOptionIsAWordOfItsOwn()
+{
+    SceneFileHandler::the().setOptions("osg", "nowhitespace=keep whitespace=keeper");
+    QCOMPARE(nameReadBack("two  blanks"), std::string("two blanks"));
+}
+
+// Of null and a group.
+FCPtrAttributeMapPtr tst_SceneFileValues::readBackWithEmptyPlace()
+{
+    const NodeRefPtr node(makeCoredNode<Group>());
+    const FCPtrAttributeMapPtr map = FCPtrAttributeMap::create();
+    map->getValues().push_back(NullFC);
+    map->getValues().push_back(Group::create());
+    node->addAttachment(map);
+    const NodePtr copy = m_text->readFirst(m_text->write(node.get()));
+    return FCPtrAttributeMapPtr::dcast(copy->findAttachment(FCPtrAttributeMap::getClassType()));
+}
+
+void tst_SceneFileValues::emptyPlacesInAListAreReportedAndLeftOut()
+{
+    QCOMPARE(readBackWithEmptyPlace()->getValues().size(), 1u);
+    QVERIFY(contains(m_text->takeLog(),
+        "WARNING:  Scene file, field values of FCPtrAttributeMap: an empty place"));
+}
+
+void tst_SceneFileValues::emptyPlacesStayInListsThatReplace()
+{
+    SceneFileHandler::the().setOptions("osg", "lists=replace");
+    const FCPtrAttributeMapPtr map = readBackWithEmptyPlace();
+    QCOMPARE(map->getValues().size(), 2u);
+    QVERIFY(map->getValues(0) == NullFC);
+    QVERIFY(GroupPtr::dcast(map->getValues(1)));
+}
+
+void tst_SceneFileValues::aStateWithEmptyPlacesTakesChunks()
+{
+    SceneFileHandler::the().setOptions("osg", "lists=replace");
+    std::istringstream text("State { chunks [ NULL ] }");
+    const FCPtrStore top = SceneFileHandler::the().readTopNodes(text, "osg", nullptr);
+    const RefPtr<StatePtr> state(StatePtr::dcast(top.at(0)));
+    const BlendChunkPtr chunk = BlendChunk::create();
+    QVERIFY(state->addChunk(chunk));
+    QVERIFY(state->getChunk(BlendChunk::getClassType()) == chunk);
+}
+
+void tst_SceneFileValues::bindingsOfAttachmentsAreReportedAndGiveWay()
+{
+    const NodeRefPtr node(named("first"));
+    const NamePtr second = Name::create();
+    second->getFieldPtr()->setValue("second");
+    node->addAttachment(second, 1);
+    const NodePtr copy = m_text->readFirst(m_text->write(node.get()));
+    QVERIFY(contains(m_text->takeLog(),
+        "WARNING:  Scene file, field attachments of Node: the binding 1 of a Name"));
+    QCOMPARE(copy->getSFAttachments()->getValue().size(), std::size_t(1));
+    QCOMPARE(getName(copy), "second");
 }
 
 void tst_SceneFileValues::infiniteNumbersReadBack()

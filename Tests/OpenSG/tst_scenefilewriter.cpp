@@ -35,7 +35,7 @@ private slots:
     void namesThatTheFormatCannotTellAreReplaced_data();
     void namesThatTheFormatCannotTellAreReplaced();
     void aCycleEndsInUse();
-    void emptyPlacesInAListStay();
+    void emptyPlacesInAListAreWrittenAsNull();
 
     void fieldsThatReadersStumbleOverAreWrittenOnlyIfNeeded();
 
@@ -220,7 +220,7 @@ void tst_SceneFileWriter::aCycleEndsInUse()
     QVERIFY(contains(text, "            beacon\n                USE Lamp\n"));
 }
 
-void tst_SceneFileWriter::emptyPlacesInAListStay()
+void tst_SceneFileWriter::emptyPlacesInAListAreWrittenAsNull()
 {
     const MaterialGroupPtr core = MaterialGroup::create();
     const ChunkMaterialPtr material = ChunkMaterial::create();

@@ -3,8 +3,10 @@
 #include "OSGAsciiReader.h"
 #include "OSGAsciiWriter.h"
 
-#include <cstring>
+#include <algorithm>
 #include <istream>
+#include <iterator>
+#include <sstream>
 #include <vector>
 
 OSG_BEGIN_NAMESPACE
@@ -41,7 +43,9 @@ bool AsciiFileType::write(const NodePtr &node, std::ostream &os, const Progress 
 
 bool AsciiFileType::hasOption(const Char8 *option) const
 {
-    return std::strstr(getOptions(), option);
+    std::istringstream options(getOptions());
+    const std::istream_iterator<std::string> end;
+    return std::find(std::istream_iterator<std::string>(options), end, option) != end;
 }
 
 OSG_END_NAMESPACE

@@ -1,6 +1,8 @@
 #pragma once
 
-#include <OpenSG/OSGBaseTypes.h>
+#include <OpenSG/OSGLog.h>
+
+#include <string>
 
 OSG_BEGIN_NAMESPACE
 
@@ -13,6 +15,12 @@ constexpr const Char8 *header = "#OSG V1.0 ";
 /// Containers inside each other, more than which are neither written nor read. The limit bounds
 /// the stack; and since lines are indented by their depth, files that need more are of no use.
 constexpr std::size_t maxDepth = 1000;
+
+/// For the log: a value that the format cannot tell, or not to everybody.
+inline void report(const Char8 *owner, const Char8 *fieldName, const std::string &problem)
+{
+    SWARNING << "Scene file, field " << fieldName << " of " << owner << ": " << problem << endLog;
+}
 
 } // namespace AsciiFormat
 

@@ -213,7 +213,8 @@ bool AsciiReader::readField(const FieldContainerPtr &owner)
     if (!isPointers && startsList(field, *description)) {
         clear(field);
     }
-    return isPointers ? readPointers(PointerField(owner, field)) : readValues(field, syntax);
+    return isPointers ? readPointers(PointerField(owner, field, _replacesLists))
+                      : readValues(field, syntax);
 }
 
 // A list may come element by element, and at the end of an edit its owner goes through all.

@@ -1,11 +1,12 @@
 #include "OSGAsciiValues.h"
 
+#include "OSGAsciiFormat.h"
 #include "OSGUnbrokenStringState.h"
 
-#include <OpenSG/OSGLog.h>
 #include <OpenSG/OSGStandardStringConversionState.h>
 
 #include <algorithm>
+#include <cstring>
 
 OSG_BEGIN_NAMESPACE
 
@@ -15,13 +16,17 @@ namespace {
 constexpr const Char8 *infinite = "1.000000e+9999";
 constexpr const Char8 *zero = "0.000000e+00";
 
-// True if more than single blanks between words is in the text.
-bool hasLayout(const std::string &text)
+bool isWhiteSpace(char c)
 {
-    const auto isBlank = [](char c) { return c == ' '; };
-    const auto isPair = [=](char a, char b) { return isBlank(a) && isBlank(b); };
-    return text.find_first_of("\t\n\v\f\r") != std::string::npos
-        || std::adjacent_find(text.begin(), text.end(), isPair) != text.end();
+    return std::strchr(" \t\n\v\f\r", c) && c != '\0';
+}
+
+std::string withSingleBlanks(std::string text)
+{
+    std::replace_if(text.begin(), text.end(), isWhiteSpace, ' ');
+    const auto areBlanks = [](char a, char b) { return a == ' ' && b == ' '; };
+    text.erase(std::unique(text.begin(), text.end(), areBlanks), text.end());
+    return text;
 }
 
 // A quote gets a backslash, and so does a backslash that would be taken for the one of an escape.
@@ -62,14 +67,14 @@ AsciiValues::AsciiValues(bool keepsWhiteSpace, const Char8 *owner, const Char8 *
 std::string AsciiValues::write(
     const Field &field, const FieldSyntax &syntax, UInt32 indent, UInt32 width)
 {
-    StandardStringConversionState state(indent, width);
-    if (syntax.kind != FieldSyntax::String && syntax.kind != FieldSyntax::Text) {
-        std::string text;
-        return withReadableNumbers(field.getValueByStr(text, state));
+    const bool isString = syntax.kind == FieldSyntax::String || syntax.kind == FieldSyntax::Text;
+    if (isString && !field.isEmpty()) {
+        UnbrokenStringState state(indent, width);
+        return writeStrings(field, state);
     }
-    UnbrokenStringState unbroken(indent, width);
-    const bool isUnbroken = _keepsWhiteSpace && !field.isEmpty();
-    return isUnbroken ? writeStrings(field, unbroken) : writeStrings(field, state);
+    StandardStringConversionState state(indent, width);
+    std::string text;
+    return withReadableNumbers(field.getValueByStr(text, state));
 }
 
 std::string AsciiValues::writeStrings(const Field &field, StringConversionStateBase &state)
@@ -97,7 +102,8 @@ std::string AsciiValues::quoted(const Field &field, UInt32 index)
     if (text.find('"') != std::string::npos) {
         report("a quote in the text is written with a backslash");
     }
-    if (!_keepsWhiteSpace && hasLayout(text)) {
+    if (const std::string simple = withSingleBlanks(text); !_keepsWhiteSpace && simple != text) {
+        text = simple;
         report("white space in the text is written as single blanks");
     }
     return '"' + withEscapes(text) + '"';
@@ -118,7 +124,7 @@ std::string AsciiValues::withReadableNumbers(std::string text)
 
 void AsciiValues::report(const Char8 *problem) const
 {
-    SWARNING << "Scene file, field " << _fieldName << " of " << _owner << ": " << problem << endLog;
+    AsciiFormat::report(_owner, _fieldName, problem);
 }
 
 OSG_END_NAMESPACE

@@ -12,7 +12,7 @@ OSG_BEGIN_NAMESPACE
 /// Some values have no form of their own in the format. What is written instead is reported in the
 /// log: of a number that is none, 0; of blanks, tabs and line ends in a string, one blank, unless
 /// they are kept. A quote in a string is protected by a backslash, which is reported, too, since
-/// not every program writes it so.
+/// not every program writes it so. Lines never end inside a string.
 class AsciiValues
 {
 public:

@@ -3,6 +3,7 @@
 #include "OSGAsciiFormat.h"
 #include "OSGAsciiValues.h"
 
+#include <OpenSG/OSGAttachmentContainer.h>
 #include <OpenSG/OSGLog.h>
 
 #include <limits>
@@ -16,6 +17,7 @@ constexpr UInt32 indentStep = 4;
 constexpr UInt32 listWidth = 60;
 constexpr UInt32 unlimitedWidth = std::numeric_limits<UInt32>::max();
 constexpr std::size_t blockSize = 1 << 16;
+constexpr UInt32 bindingMask = 0xffff; // of a key in an attachment map
 
 bool isDefault(const FieldContainerPtr &owner, const Field &field, UInt32 id)
 {
@@ -24,6 +26,30 @@ bool isDefault(const FieldContainerPtr &owner, const Field &field, UInt32 id)
     const FieldContainerPtr prototype = owner->getType().getPrototype();
     return prototype
         && field.getValueByStr(text) == prototype->getField(id)->getValueByStr(defaultText);
+}
+
+void reportBindings(const FieldContainerPtr &owner, const Field &field)
+{
+    for (const auto &[key, attachment] : static_cast<const SFAttachmentMap &>(field).getValue()) {
+        const UInt32 binding = key & bindingMask;
+        if (binding != 0 && !attachment->getInternal().getValue()) {
+            AsciiFormat::report(owner->getTypeName(), "attachments",
+                "the binding " + std::to_string(binding) + " of a " + attachment->getTypeName()
+                    + " is not written: it reads back as 0, in the place of what is there");
+        }
+    }
+}
+
+void reportEmptyPlaces(const FieldContainerPtr &owner, const Field &field, const Char8 *name)
+{
+    bool hasEmpty = false;
+    for (UInt32 i = 0; i < field.getSize(); ++i) {
+        hasEmpty = hasEmpty || !field.getFieldContainer(i);
+    }
+    if (hasEmpty && field.getCardinality() == FieldType::MULTI_FIELD) {
+        AsciiFormat::report(owner->getTypeName(), name,
+            "an empty place in the list is written, which most readers leave out");
+    }
 }
 
 } // namespace
@@ -101,8 +127,10 @@ void AsciiWriter::writeField(
     _text += description.getCName();
     if (syntax.kind == FieldSyntax::Attachments) {
         writeAttachments(*field, indent);
+        reportBindings(owner, *field);
     } else if (syntax.kind == FieldSyntax::Pointers) {
         writePointers(*field, indent);
+        reportEmptyPlaces(owner, *field, description.getCName());
     } else {
         AsciiValues values(_keepsWhiteSpace, owner->getTypeName(), description.getCName());
         writeValues(*field, syntax, values, indent);

@@ -14,7 +14,8 @@ struct FieldSyntax;
 
 /// Writes a container, and all that it refers to, as an ASCII scene file. Every field that is not
 /// internal is written, with one exception: one of a type that some readers of the format stumble
-/// over is left out while it has the value of a new container.
+/// over is left out while it has the value of a new container. What will not read back as it is
+/// (bindings of attachments, empty places in lists, some values) is reported in the log.
 class AsciiWriter
 {
 public:

@@ -6,9 +6,10 @@
 
 OSG_BEGIN_NAMESPACE
 
-PointerField::PointerField(const FieldContainerPtr &owner, Field &field)
+PointerField::PointerField(const FieldContainerPtr &owner, Field &field, bool keepsEmptyPlaces)
     : _owner(owner)
     , _field(field)
+    , _keepsEmptyPlaces(keepsEmptyPlaces)
     , _kind(kindOf(owner, field))
 {
 }
@@ -58,10 +59,10 @@ void PointerField::add(const FieldContainerPtr &container)
         NodePtr::dcast(_owner)->setCore(NodeCorePtr::dcast(container));
         break;
     case Kind::List:
-        if (!container) {
-            break;
+        if (container || _keepsEmptyPlaces) {
+            _field.pushFieldContainer(container);
         }
-        [[fallthrough]];
+        break;
     case Kind::Single:
         _field.pushFieldContainer(container);
         break;

@@ -10,11 +10,12 @@ class PointerField
 {
 public:
     /// `field` is a field of pointers, or an attachment map, of the owner.
-    PointerField(const FieldContainerPtr &owner, Field &field);
+    PointerField(const FieldContainerPtr &owner, Field &field, bool keepsEmptyPlaces);
 
     /// Whether containers of the type can be put in.
     bool accepts(const FieldContainerType &type) const;
-    /// Puts in what is accepted. Null takes away what a single pointer refers to; lists skip it.
+    /// Puts in what is accepted. Null takes away what a single pointer refers to; lists skip it
+    /// unless they keep empty places, which those of children and attachments do not have.
     void add(const FieldContainerPtr &container);
     bool isList() const { return _kind != Kind::Single && _kind != Kind::Core; }
     /// Whether it must not lead back to its owner.
@@ -27,6 +28,7 @@ private:
 
     FieldContainerPtr _owner;
     Field &_field;
+    bool _keepsEmptyPlaces;
     Kind _kind;
 };
 

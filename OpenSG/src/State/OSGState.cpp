@@ -34,7 +34,7 @@ UInt32 State::findSlot(const FieldContainerType &type, Int32 slot) const
 {
     UInt32 index = 0;
     for (; index < _mfChunks.size(); ++index) {
-        if (_mfChunks[index]->getType() == type && slot-- == 0) {
+        if (_mfChunks[index] && _mfChunks[index]->getType() == type && slot-- == 0) {
             break;
         }
     }
