@@ -1,3 +1,4 @@
+#include "NewContainers.h"
 #include "SceneGrammar.h"
 #include "SceneText.h"
 
@@ -13,7 +14,7 @@
 using namespace osg;
 
 /// Whatever is in a file: it is read to its end, what came of it can be walked, written without
-/// mistakes and destroyed, and the next file is read as ever.
+/// mistakes and destroyed without a rest, and the next file is read as ever.
 class tst_SceneFileFuzz : public QObject
 {
     Q_OBJECT
@@ -66,6 +67,7 @@ void tst_SceneFileFuzz::initTestCase()
 
 void tst_SceneFileFuzz::cleanup()
 {
+    SceneFileHandler::the().setOptions("osg", "");
     m_text.takeLog();
     QVERIFY(m_text.read("Node { core Switch { choice 1 } }") != NullFC);
     QCOMPARE(m_text.takeLog(), std::string());
@@ -79,7 +81,10 @@ std::string tst_SceneFileFuzz::sample(const QString &name)
 
 void tst_SceneFileFuzz::survive(const std::string &text)
 {
-    if (const NodePtr root = m_text.read(text)) {
+    const NewContainers made;
+    const NodePtr root = m_text.read(text);
+    const bool goTogether = made.goTogether();
+    if (root) {
         const auto visit = osgTypedFunctionFunctor1CPtrRef<Action::ResultE, NodePtr>(findCore);
         QCOMPARE(traverse(root, visit), Action::Continue);
         root->updateVolume();
@@ -88,7 +93,9 @@ void tst_SceneFileFuzz::survive(const std::string &text)
         m_text.read(written);
         QVERIFY(m_text.takeLog().find("parse error") == std::string::npos);
     }
+    m_text.read(std::string());
     m_text.takeLog();
+    QVERIFY(made.count() == 0 || !goTogether);
 }
 
 void tst_SceneFileFuzz::mutatedSamples_data()
@@ -142,7 +149,8 @@ void tst_SceneFileFuzz::truncatedSamples()
 {
     QFETCH(QString, name);
     const std::string original = sample(name);
-    for (std::size_t length = 0; length < original.size(); length += 37) {
+    const std::size_t step = original.size() < 2000 ? 1 : 37;
+    for (std::size_t length = 0; length < original.size(); length += step) {
         survive(original.substr(0, length));
     }
 }
@@ -187,14 +195,18 @@ void tst_SceneFileFuzz::nestedBrackets()
 void tst_SceneFileFuzz::containersUsedAnywhere_data()
 {
     QTest::addColumn<bool>("areShared");
+    QTest::addColumn<QByteArray>("options");
 
-    QTest::newRow("as in the file") << false;
-    QTest::newRow("with the default sequence") << true;
+    QTest::newRow("as in the file") << false << QByteArray();
+    QTest::newRow("with the default sequence") << true << QByteArray();
+    QTest::newRow("with empty places in lists") << true << QByteArray("lists=replace");
 }
 
 void tst_SceneFileFuzz::containersUsedAnywhere()
 {
     QFETCH(bool, areShared);
+    QFETCH(QByteArray, options);
+    SceneFileHandler::the().setOptions("osg", options);
     GraphOpSeq *operations = areShared ? SceneFileHandler::the().getDefaultGraphOp() : nullptr;
     for (unsigned seed = 0; seed < 1000; ++seed) {
         std::istringstream text(SceneGrammar(seed).scene());
