@@ -30,11 +30,12 @@ bool isListed(const osg::StateChunkPtr &chunk)
         });
 }
 
+// Volumes are brought up to date all the time, but for those that somebody fixed.
 bool isSaved(const osg::FieldDescription &field, const osg::FieldContainerPtr &container)
 {
-    const bool isVolume = field.getFieldMask() == osg::Node::VolumeFieldMask
-        && osg::NodePtr::dcast(container) != osg::NullFC;
-    return !field.isInternal() && !isVolume;
+    const auto node = osg::NodePtr::dcast(container);
+    const bool isVolume = node != osg::NullFC && field.getFieldMask() == osg::Node::VolumeFieldMask;
+    return !field.isInternal() && (!isVolume || node->getVolume(false).isStatic());
 }
 
 }
@@ -77,8 +78,9 @@ bool kavoSceneEdits::isInScene(const osg::FieldContainerPtr &container) const
     if (const auto core = osg::NodeCorePtr::dcast(container); core != osg::NullFC)
         return isAnyInScene(core->getParents());
     const bool isOld = kavoContainers::id(container) < m_firstNewId;
-    if (const auto chunk = osg::StateChunkPtr::dcast(container); chunk != osg::NullFC)
-        return isOld && isListed(chunk);
+    const auto chunk = osg::StateChunkPtr::dcast(container);
+    if (chunk != osg::NullFC && isOld && isListed(chunk))
+        return true;
     if (const auto attachment = osg::AttachmentPtr::dcast(container); attachment != osg::NullFC)
         return isAnyInScene(attachment->getParents());
     return container != osg::NullFC && isOld && osg::StatePtr::dcast(container) == osg::NullFC;

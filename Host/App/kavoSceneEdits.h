@@ -6,6 +6,8 @@ struct kavoChanges;
 
 /// Tells edits of the open scene from what else happens to containers: volumes that are brought up
 /// to date, containers that materials make for themselves, another scene that is being loaded.
+/// A volume that was set by hand is an edit if it is static; any other holds until the next change
+/// below its node.
 class kavoSceneEdits
 {
 public:

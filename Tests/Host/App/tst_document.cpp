@@ -5,6 +5,7 @@
 #include <kavoTaskError.h>
 #include <kavoTestHost.h>
 
+#include <OpenSG/OSGBlendChunk.h>
 #include <OpenSG/OSGChunkMaterial.h>
 #include <OpenSG/OSGComponentTransform.h>
 #include <OpenSG/OSGGeometry.h>
@@ -68,6 +69,7 @@ void tst_document::init()
     m_material->addChunk(m_chunk);
     core->setMaterial(m_material);
     m_root->addChild(osg::makeCoredNode<osg::ComponentTransform>());
+    m_root->getChild(0)->addAttachment(osg::BlendChunk::create());
     m_changes = std::make_unique<kavoChangeMonitor>();
     m_document = std::make_unique<kavoDocument>(*m_changes);
     show(m_root);
@@ -113,6 +115,16 @@ void tst_document::anEditModifiesIt_data()
         [](const osg::NodePtr &, const osg::ChunkMaterialPtr &material) {
             osg::endEditCP(material->getChunks(0), osg::TextureChunk::MinFilterFieldMask);
         });
+    QTest::newRow("of a chunk among attachments") << Edit(
+        [](const osg::NodePtr &root, const osg::ChunkMaterialPtr &) {
+            const auto chunk = root->getChild(0)->findAttachment(osg::BlendChunk::getClassType());
+            osg::endEditCP(chunk, osg::BlendChunk::SrcFactorFieldMask);
+        });
+    QTest::newRow("of a volume that stays")
+        << Edit([](const osg::NodePtr &root, const osg::ChunkMaterialPtr &) {
+               root->getVolume(false).setStatic();
+               osg::endEditCP(root, osg::Node::VolumeFieldMask);
+           });
     QTest::newRow("a new child") << Edit(
         [](const osg::NodePtr &root, const osg::ChunkMaterialPtr &) {
             root->addChild(osg::makeCoredNode<osg::Group>());
