@@ -7,7 +7,9 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
@@ -81,10 +83,24 @@ void kavoOutputFile::commit()
     if (m_path == m_target)
         return;
     const QByteArray path = QFile::encodeName(m_path);
+    flush(path);
     if (::chmod(path, permissionsOf(m_target)) != 0
         || std::rename(path, QFile::encodeName(m_target)) != 0)
         fail(errno);
     m_temporary.setAutoRemove(false);
+}
+
+// Else the name may reach the disk before what is in the file, and a power failure in between
+// leaves it empty. Some file systems have nothing to flush and say so.
+void kavoOutputFile::flush(const QByteArray &path) const
+{
+    const int file = ::open(path, O_RDONLY | O_CLOEXEC);
+    if (file < 0)
+        fail(errno);
+    const int error = ::fsync(file) == 0 || errno == EINVAL ? 0 : errno;
+    ::close(file);
+    if (error != 0)
+        fail(error);
 }
 
 void kavoOutputFile::fail(int error) const

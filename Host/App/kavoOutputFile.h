@@ -23,7 +23,8 @@ public:
     /// Where to write; the file exists and is empty.
     QString path() const { return m_path; }
 
-    /// Puts what was written in the place of the target, whose permissions it takes over.
+    /// Puts what was written in the place of the target, whose permissions it takes over. It is on
+    /// the disk by then, so that a power failure leaves the one or the other.
     /// \throws kavoTaskError
     void commit();
 
@@ -32,6 +33,7 @@ public:
 
 private:
     void createTemporary();
+    void flush(const QByteArray &path) const;
     [[noreturn]] void fail(const QString &reason) const;
 
     QString m_target;
