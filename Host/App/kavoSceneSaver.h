@@ -20,7 +20,8 @@ public:
     static void useFaithfulFormat();
 
     /// The file is there as a whole or as it was before. What the format cannot express is in the
-    /// log.
+    /// log, but for what numbers have behind the seventh digit. Attachments that are internal stay
+    /// out of it.
     /// \throws kavoTaskError
     static void save(const osg::NodePtr &root, const QString &file);
 };

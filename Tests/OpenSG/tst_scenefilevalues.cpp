@@ -45,6 +45,8 @@ private slots:
     void bindingsOfAttachmentsAreReportedAndGiveWay();
     void infiniteNumbersReadBack();
     void whatIsNoNumberIsWrittenAsZeroAndReported();
+    void theDepthOfASphereIsReported_data();
+    void theDepthOfASphereIsReported();
 
 private:
     NodePtr named(const std::string &name) const;
@@ -283,6 +285,30 @@ void tst_SceneFileValues::whatIsNoNumberIsWrittenAsZeroAndReported()
     QVERIFY(contains(m_text->takeLog(), "field range of DistanceLOD: what is not a number"));
     const NodePtr copy = m_text->readFirst(text);
     QCOMPARE(DistanceLODPtr::dcast(copy->getCore())->getRange(0), 0.f);
+}
+
+void tst_SceneFileValues::theDepthOfASphereIsReported_data()
+{
+    QTest::addColumn<float>("z");
+    QTest::addColumn<bool>("isReported");
+
+    QTest::newRow("that of its height") << 2.f << false;
+    QTest::newRow("another") << 3.f << true;
+}
+
+void tst_SceneFileValues::theDepthOfASphereIsReported()
+{
+    QFETCH(float, z);
+    const NodeRefPtr node(makeCoredNode<Group>());
+    DynamicVolume &volume = node->getVolume(false);
+    volume.setVolumeType(DynamicVolume::SPHERE_VOLUME);
+    static_cast<SphereVolume &>(volume.getInstance()).setValue(Pnt3f(1, 2, z), 4);
+    volume.instanceChanged();
+    const NodePtr copy = m_text->readFirst(m_text->write(node.get()));
+    QTEST(contains(m_text->takeLog(), "field volume of Node: the z of a sphere"), "isReported");
+    Pnt3f center;
+    copy->getVolume(false).getCenter(center);
+    QVERIFY(center == Pnt3f(1, 2, 2));
 }
 
 QTEST_APPLESS_MAIN(tst_SceneFileValues)

@@ -3,6 +3,7 @@
 #include "OSGAsciiFormat.h"
 #include "OSGUnbrokenStringState.h"
 
+#include <OpenSG/OSGSFBaseTypes.h>
 #include <OpenSG/OSGStandardStringConversionState.h>
 
 #include <algorithm>
@@ -72,6 +73,9 @@ std::string AsciiValues::write(
         UnbrokenStringState state(indent, width);
         return writeStrings(field, state);
     }
+    if (const auto *volume = dynamic_cast<const SFDynamicVolume *>(&field)) {
+        reportDepth(volume->getValue());
+    }
     StandardStringConversionState state(indent, width);
     std::string text;
     return withReadableNumbers(field.getValueByStr(text, state));
@@ -107,6 +111,16 @@ std::string AsciiValues::quoted(const Field &field, UInt32 index)
         report("white space in the text is written as single blanks");
     }
     return '"' + withEscapes(text) + '"';
+}
+
+// The text of a sphere has the y of its centre in the place of z, too.
+void AsciiValues::reportDepth(const DynamicVolume &volume) const
+{
+    Pnt3f center;
+    volume.getCenter(center);
+    if (volume.getType() == DynamicVolume::SPHERE_VOLUME && center[1] != center[2]) {
+        report("the z of a sphere's centre is written as its y");
+    }
 }
 
 std::string AsciiValues::withReadableNumbers(std::string text)

@@ -2,6 +2,7 @@
 
 #include "OSGFieldSyntax.h"
 
+#include <OpenSG/OSGDynamicVolume.h>
 #include <OpenSG/OSGField.h>
 #include <OpenSG/OSGStringConversionStateBase.h>
 
@@ -10,9 +11,9 @@ OSG_BEGIN_NAMESPACE
 /// The values of a field as they stand in an ASCII scene file.
 ///
 /// Some values have no form of their own in the format. What is written instead is reported in the
-/// log: of a number that is none, 0; of blanks, tabs and line ends in a string, one blank, unless
-/// they are kept. A quote in a string is protected by a backslash, which is reported, too, since
-/// not every program writes it so. Lines never end inside a string.
+/// log: of a number that is none, 0; of the z of a sphere, its y; of blanks, tabs and line ends in
+/// a string, one blank, unless they are kept. A quote in a string is protected by a backslash,
+/// which is reported, too, since not every program writes it so. Lines never end inside a string.
 class AsciiValues
 {
 public:
@@ -25,6 +26,7 @@ public:
 private:
     std::string writeStrings(const Field &field, StringConversionStateBase &state);
     std::string quoted(const Field &field, UInt32 index);
+    void reportDepth(const DynamicVolume &volume) const;
     std::string withReadableNumbers(std::string text);
     void report(const Char8 *problem) const;
 
