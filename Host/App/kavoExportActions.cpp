@@ -4,7 +4,6 @@
 #include "kavoTableExport.h"
 #include "kavoTableExportDialog.h"
 #include "kavoTableImportDialog.h"
-#include "kavoTaskError.h"
 #include "kavoValuePairExport.h"
 #include "kavoValuePairExportDialog.h"
 
@@ -14,6 +13,8 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QProgressDialog>
+
+#include <exception>
 
 kavoExportActions::kavoExportActions(QWidget *window, QMenu *fileMenu)
     : QObject(window)
@@ -34,7 +35,7 @@ void kavoExportActions::exportValuePairs()
     if (file.isEmpty())
         return;
     run(dialog.windowTitle(), [&](const kavoMonitor &monitor) {
-        return kavoValuePairExport::run(
+        kavoValuePairExport::run(
             dialog.scope().root(), file, dialog.scope().takesAllNodes(), monitor);
     });
 }
@@ -49,7 +50,7 @@ void kavoExportActions::exportTable()
     if (file.isEmpty())
         return;
     run(dialog.windowTitle(), [&](const kavoMonitor &monitor) {
-        return kavoTableExport(dialog.scope().root(), options).run(file, monitor);
+        kavoTableExport(dialog.scope().root(), options).run(file, monitor);
     });
 }
 
@@ -67,7 +68,6 @@ void kavoExportActions::importTable()
             = kavoTableImport::run(kavoScenegraph::getRoot(), file, dialog.options(file), monitor);
         if (report)
             show(*report);
-        return report.has_value();
     });
 }
 
@@ -82,7 +82,7 @@ QString kavoExportActions::askForFile(const QString &title, kavoTableOptions::Fo
 }
 
 void kavoExportActions::run(
-    const QString &title, const std::function<bool(const kavoMonitor &)> &task)
+    const QString &title, const std::function<void(const kavoMonitor &)> &task)
 {
     QProgressDialog progress(title, tr("Cancel"), 0, 100, m_window);
     progress.setWindowModality(Qt::WindowModal);
@@ -91,8 +91,8 @@ void kavoExportActions::run(
             progress.setValue(percent);
             return !progress.wasCanceled();
         });
-    } catch (const kavoTaskError &error) {
-        emit failed(error.message());
+    } catch (const std::exception &error) {
+        emit failed(QString::fromUtf8(error.what()));
     }
 }
 

@@ -20,8 +20,8 @@ public:
     kavoExportActions(QWidget *window, QMenu *fileMenu);
 
     /// Runs a task with a progress dialog that can cancel it.
-    /// \param task returns false if its monitor canceled it, throws kavoTaskError if it fails
-    void run(const QString &title, const std::function<bool(const kavoMonitor &)> &task);
+    /// \param task ends early if its monitor cancels it, throws a std::exception if it fails
+    void run(const QString &title, const std::function<void(const kavoMonitor &)> &task);
     /// Shows what became of an import.
     void show(const kavoTableImport::Report &report);
 

@@ -18,6 +18,7 @@
 #include <QTimer>
 
 #include <cstdio>
+#include <exception>
 
 namespace {
 
@@ -65,8 +66,8 @@ void kavoJobs::run()
             printWindow(m_commandLine.windowToPrint());
         if (!m_commandLine.screenshotFile().isEmpty())
             saveScreenshot(m_commandLine.screenshotFile());
-    } catch (const kavoTaskError &error) {
-        return fail(error.message());
+    } catch (const std::exception &error) {
+        return fail(QString::fromUtf8(error.what()));
     }
     m_exitCode = isComplete ? 0 : 1;
     if (m_commandLine.isJob())

@@ -2,12 +2,23 @@
 
 #include "kavoDocument.h"
 #include "kavoSceneSaver.h"
-#include "kavoTaskError.h"
 
 #include <QApplication>
 #include <QFileDialog>
 #include <QMenu>
 #include <QMessageBox>
+
+#include <exception>
+
+namespace {
+
+struct WaitCursor
+{
+    WaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~WaitCursor() { QApplication::restoreOverrideCursor(); }
+};
+
+}
 
 kavoSaveActions::kavoSaveActions(kavoDocument &document, QWidget *window, QMenu *fileMenu)
     : QObject(window)
@@ -47,17 +58,13 @@ bool kavoSaveActions::saveAs()
 
 bool kavoSaveActions::saveTo(const QString &file)
 {
-    QApplication::setOverrideCursor(Qt::WaitCursor);
-    QString error;
     try {
+        const WaitCursor cursor;
         m_document.save(file);
-    } catch (const kavoTaskError &failure) {
-        error = failure.message();
+    } catch (const std::exception &error) { // also of field types that plug-ins bring along
+        emit failed(QString::fromUtf8(error.what()));
+        return false;
     }
-    QApplication::restoreOverrideCursor();
-    if (error.isEmpty())
-        emit saved(file);
-    else
-        emit failed(error);
-    return error.isEmpty();
+    emit saved(file);
+    return true;
 }

@@ -77,7 +77,7 @@ void kavoSceneImporter::run(const std::shared_ptr<Job> &job)
     } catch (const kavoImportCanceled &) {
         return;
     } catch (const std::exception &error) {
-        job->reason = QString::fromLocal8Bit(error.what());
+        job->reason = QString::fromUtf8(error.what());
     }
     QMetaObject::invokeMethod(
         this, [this, job] { conclude(job); }, Qt::QueuedConnection);

@@ -5,13 +5,14 @@
 #include "kavoSceneCameras.h"
 #include "kavoSceneImporter.h"
 #include "kavoSceneReader.h"
-#include "kavoTaskError.h"
 
 #include <kavoLog.h>
 
 #include <QApplication>
 #include <QFileInfo>
 #include <QPointer>
+
+#include <exception>
 
 namespace {
 
@@ -115,19 +116,20 @@ void kavoSceneLoader::conclude()
     for (const QString &file : QStringList(m_sceneFiles)) {
         try {
             root = withSceneFile(root, file);
-        } catch (const kavoTaskError &error) {
-            return fail(file, error.message());
+        } catch (const std::exception &error) { // also of field types that plug-ins bring along
+            return fail(file, QString::fromUtf8(error.what()));
         }
     }
     if (!mayReplaceScene())
         return;
     kavoSceneCameras::set(m_cameras);
+    const QStringList partlyRead = m_partlyRead;
     reset();
     emit progress(100, QString());
-    emit loaded(root);
+    emit loaded(root, partlyRead);
 }
 
-// The gate may run an event loop, in which this load ends or another begins.
+// The confirmation may run an event loop, in which this load ends or another begins.
 bool kavoSceneLoader::mayReplaceScene()
 {
     const QPointer<kavoSceneBuilder> builder = m_builder.get();
@@ -143,6 +145,8 @@ kavoNodePtr kavoSceneLoader::withSceneFile(const kavoNodePtr &root, const QStrin
 {
     emit progress(parsingShare, tr("Reading %1").arg(baseName(file)));
     const kavoSceneReader::Scene scene = kavoSceneReader::read(file);
+    if (!scene.isWhole)
+        m_partlyRead << file;
     m_cameras.insert(m_cameras.end(), scene.cameras.begin(), scene.cameras.end());
     if (m_files.isEmpty() && m_sceneFiles.size() == 1)
         return scene.root;
@@ -161,6 +165,7 @@ void kavoSceneLoader::reset()
     m_retry.stop();
     m_files.clear();
     m_sceneFiles.clear();
+    m_partlyRead.clear();
     m_cameras.clear();
     m_imported.clear();
     if (m_builder) { // perhaps in the midst of a signal

@@ -57,8 +57,8 @@ template <class Task> int run(Task task)
     try {
         task();
         return Success;
-    } catch (const kavoTaskError &error) {
-        return fail(error.message());
+    } catch (const std::exception &error) {
+        return fail(QString::fromUtf8(error.what()));
     }
 }
 

@@ -28,8 +28,12 @@
 
 #include <functional>
 #include <memory>
+#include <stdexcept>
 
 using kavoTestPairs::addNode;
+
+using Task = std::function<void(const kavoMonitor &)>;
+Q_DECLARE_METATYPE(Task)
 
 namespace {
 
@@ -114,6 +118,7 @@ private slots:
     void aTableIsImported();
     void jsonLinesWithoutAnEndingCanBeImportedAgain();
     void rowsWithoutAPlaceAreShown();
+    void aFailureIsSignaled_data();
     void aFailureIsSignaled();
     void theMainWindowSaysWhyAFileCannotBeWritten_data();
     void theMainWindowSaysWhyAFileCannotBeWritten();
@@ -290,10 +295,18 @@ void tst_ExportActions::rowsWithoutAPlaceAreShown()
     QTRY_VERIFY(!box);
 }
 
+void tst_ExportActions::aFailureIsSignaled_data()
+{
+    QTest::addColumn<Task>("task");
+    QTest::newRow("of the host") << Task([](auto &) { throw kavoTaskError("no way"); });
+    QTest::newRow("of a plug-in") << Task([](auto &) { throw std::runtime_error("no way"); });
+}
+
 void tst_ExportActions::aFailureIsSignaled()
 {
+    QFETCH(Task, task);
     QSignalSpy failed(m_actions.get(), &kavoExportActions::failed);
-    m_actions->run("Try", [](const kavoMonitor &) -> bool { throw kavoTaskError("no way"); });
+    m_actions->run("Try", task);
     QCOMPARE(failed.size(), 1);
     QCOMPARE(failed[0][0].toString(), QString("no way"));
 }
@@ -331,7 +344,6 @@ void tst_ExportActions::theProgressDialogCancels()
             if (dialog->isVisible())
                 kavoRealInput::click(dialog->findChild<QPushButton *>());
         }
-        return true;
     });
     QVERIFY(steps < 1000);
 }

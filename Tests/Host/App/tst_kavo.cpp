@@ -113,6 +113,13 @@ void tst_kavo::aFailedJobExitsWithOneAndSaysWhy_data()
         << "a.png': Cannot open device for writing: No such file or directory";
     QTest::newRow("no place for the scene")
         << QStringList { truck, "--save", "/no/such/folder/a.osg" } << "/no/such/folder/a.osg";
+    const QString throwing = m_folder.filePath("throwing.osg");
+    QFile scene(throwing);
+    QVERIFY(scene.open(QIODevice::WriteOnly)
+        && scene.write("Node { attachments [ ThrowingMark { } ] }") > 0);
+    QTest::newRow("a field type that throws") << QStringList { throwing, "--plugins",
+        KAVO_TEST_PLUGIN_DIR "/throwingfield", "--save", m_folder.filePath("saved.osg") }
+                                              << "kavo: no writing\n";
     QTest::newRow("nothing to save")
         << QStringList { "--save", "a.osg" } << "There is no scene to save";
 }

@@ -1,9 +1,12 @@
+#include "OSGThrowingMark.h"
+
 #include <QKAVODockWindowManager.h>
 #include <kavoDocument.h>
 #include <kavoMainWindow.h>
 #include <kavoScenegraph.h>
 #include <kavoTestHost.h>
 
+#include <OpenSG/OSGNode.h>
 #include <OpenSG/OSGSimpleAttachments.h>
 
 #include <QDropEvent>
@@ -40,6 +43,7 @@ private slots:
     void editsMadeAfterDiscardingAreAskedAbout();
     void aCanceledLoadKeepsDiscardedEdits();
     void aSaveThatFailsIsShownAndKeepsTheWindow();
+    void aFieldTypeThatThrowsFailsTheSave();
     void cleanupTestCase();
 
 private:
@@ -274,6 +278,21 @@ void tst_saveactions::aSaveThatFailsIsShownAndKeepsTheWindow()
     const auto boxes = m_window->findChildren<QMessageBox *>();
     QCOMPARE(boxes.size(), 1);
     QVERIFY(boxes.first()->text().contains(m_file));
+    delete boxes.first();
+}
+
+void tst_saveactions::aFieldTypeThatThrowsFailsTheSave()
+{
+    m_window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_window));
+    const QByteArray before = saved();
+    kavoScenegraph::getRoot()->addAttachment(osg::ThrowingMark::create());
+    QTest::keyClick(m_window, Qt::Key_S, Qt::ControlModifier);
+    QVERIFY(!QApplication::overrideCursor());
+    QCOMPARE(saved(), before);
+    const auto boxes = m_window->findChildren<QMessageBox *>();
+    QCOMPARE(boxes.size(), 1);
+    QCOMPARE(boxes.first()->text(), QStringLiteral("no writing"));
     delete boxes.first();
 }
 
