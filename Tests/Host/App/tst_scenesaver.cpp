@@ -48,6 +48,7 @@ private slots:
     void severalFilesAreBelowOneRoot();
     void aSceneFileThatCannotBeReadIsNamed_data();
     void aSceneFileThatCannotBeReadIsNamed();
+    void whatCannotBeReadIsInTheLog_data();
     void whatCannotBeReadIsInTheLog();
 
 private:
@@ -289,6 +290,7 @@ void tst_scenesaver::aSceneFileThatCannotBeReadIsNamed_data()
     QTest::newRow("missing") << "missing.osg";
     QTest::newRow("folder") << "folder.osg";
     QTest::newRow("no scene") << "prose.osg";
+    QTest::newRow("a field that throws") << "throwing.osg";
 }
 
 void tst_scenesaver::aSceneFileThatCannotBeReadIsNamed()
@@ -296,6 +298,7 @@ void tst_scenesaver::aSceneFileThatCannotBeReadIsNamed()
     QFETCH(QString, name);
     QDir(m_folder->path()).mkdir("folder.osg");
     write(path("prose.osg"), "It was a dark and stormy night");
+    write(path("throwing.osg"), "Node { attachments [ ThrowingMark { text \"a\" } ] }");
     kavoSceneLoader loader;
     QSignalSpy failed(&loader, &kavoSceneLoader::failed);
     loader.load({ m_folder->filePath(name) });
@@ -305,15 +308,29 @@ void tst_scenesaver::aSceneFileThatCannotBeReadIsNamed()
     QVERIFY(!loader.isLoading());
 }
 
+void tst_scenesaver::whatCannotBeReadIsInTheLog_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QString>("line");
+    QTest::newRow("something the library warns of") << QByteArray(
+        "Node { sparkles 5 }") << "warning: -----> parse error in Line 1, read 'sparkles'";
+    QTest::newRow("something it remarks")
+        << QByteArray("#VRML V1.0\nNode { }") << "info: File begins with '#VRML V1.0'";
+}
+
 void tst_scenesaver::whatCannotBeReadIsInTheLog()
 {
-    write(path("a.osg"), "Node { sparkles 5 }");
-    std::string logged;
-    const int observer
-        = kavoLog::addObserver([&](const kavoLog::Entry &entry) { logged += entry.text; });
+    QFETCH(QByteArray, text);
+    write(path("a.osg"), text);
+    QString logged;
+    const int observer = kavoLog::addObserver([&](const kavoLog::Entry &entry) {
+        logged += QString("%1: %2\n")
+                      .arg(kavoLog::levelName(entry.level), QString::fromStdString(entry.text));
+    });
     kavoSceneReader::read(path("a.osg"));
     kavoLog::removeObserver(observer);
-    QVERIFY(logged.find("parse error in Line 1, read 'sparkles'") != std::string::npos);
+    QFETCH(QString, line);
+    QVERIFY2(logged.startsWith(line), qPrintable(logged));
 }
 
 KAVO_TEST_MAIN(tst_scenesaver)
