@@ -23,7 +23,6 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QCloseEvent>
-#include <QDir>
 #include <QDragEnterEvent>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -240,7 +239,7 @@ void kavoMainWindow::connectLoader()
 {
     connect(m_progress, &kavoLoadProgress::cancelRequested, m_loader, &kavoSceneLoader::cancel);
     connect(m_loader, &kavoSceneLoader::progress, m_progress, &kavoLoadProgress::report);
-    m_loader->setGate([this] { return mayReplaceScene(); });
+    m_loader->setConfirmation([this] { return mayReplaceScene(); });
     connect(m_loader, &kavoSceneLoader::loaded, this, &kavoMainWindow::showScene);
     connect(m_loader, &kavoSceneLoader::canceled, m_document, &kavoDocument::keepEdits);
     connect(m_loader, &kavoSceneLoader::failed, m_document, &kavoDocument::keepEdits);
@@ -301,13 +300,13 @@ void kavoMainWindow::showTitle()
     setWindowModified(m_document->isModified());
 }
 
-void kavoMainWindow::showScene(const osg::NodePtr &root)
+void kavoMainWindow::showScene(const osg::NodePtr &root, const QStringList &partlyRead)
 {
     m_progress->hide();
     closeScene();
     kavoScenegraph::setRoot(root);
     send(kavoMessageIds::sceneLoaded);
-    m_document->setFiles(m_files);
+    m_document->setFiles(m_files, partlyRead);
     for (const QString &file : qAsConst(m_files))
         rememberFile(file);
     emit opened();

@@ -44,7 +44,7 @@ public:
     bool isLoading() const;
 
     /// Asked when the new scene is ready; a load that it refuses is canceled.
-    void setGate(const std::function<bool()> &mayReplaceScene)
+    void setConfirmation(const std::function<bool()> &mayReplaceScene)
     {
         m_mayReplaceScene = mayReplaceScene;
     }
@@ -54,8 +54,8 @@ signals:
 
     /// The new scene. Receivers that want to keep it reference its root (kavoScenegraph::setRoot
     /// does); otherwise it is gone when they return. The cameras of the files are in
-    /// kavoSceneCameras.
-    void loaded(osg::NodePtr root);
+    /// kavoSceneCameras. Of some of the files perhaps only a part could be read.
+    void loaded(osg::NodePtr root, const QStringList &partlyRead);
 
     /// One of the files cannot be read; nothing comes of the others either.
     void failed(const QString &file, const QString &reason);
@@ -74,6 +74,7 @@ private:
 
     QStringList m_files; ///< to be parsed and built
     QStringList m_sceneFiles; ///< of OpenSG
+    QStringList m_partlyRead;
     kavoSavedCameras::List m_cameras;
     std::vector<std::shared_ptr<kavoImportedScene>> m_imported;
     std::function<bool()> m_mayReplaceScene = [] { return true; };

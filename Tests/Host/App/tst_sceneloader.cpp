@@ -53,6 +53,14 @@ QString damagedFile(const QTemporaryDir &folder, Damage damage)
     return file;
 }
 
+/// Waits until nothing more can come of what was canceled.
+void rest(kavoSceneLoader &loader)
+{
+    loader.shutDown();
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
 /// A pipe that keeps its readers waiting for a moment, then is empty whenever they look.
 class SlowPipe
 {
@@ -205,7 +213,7 @@ private slots:
         loader.cancel();
         QCOMPARE(canceled.count(), 1);
         QVERIFY(!loader.isLoading());
-        QTest::qWait(600); // longer than the whole file takes
+        rest(loader);
         QCOMPARE(loaded.count() + failed.count(), 0);
     }
 
@@ -233,7 +241,7 @@ private slots:
         // Their textures take longer than a slice.
         loader.load({ model(truck), model(truck), model(truck) });
         QTRY_COMPARE_WITH_TIMEOUT(canceled.count(), 1, 20000);
-        QTest::qWait(300);
+        rest(loader);
         QCOMPARE(loaded.count(), 0);
     }
 
@@ -246,16 +254,16 @@ private slots:
         loader.load({ model(truck) });
         QTRY_COMPARE(loaded.count(), 1);
         QCOMPARE(canceled.count(), 1);
-        QTest::qWait(600);
+        rest(loader);
         QCOMPARE(loaded.count(), 1);
     }
 
-    void aLoadCanceledByItsGateIsOver()
+    void aLoadCanceledByItsConfirmationIsOver()
     {
         kavoSceneLoader loader;
         QSignalSpy canceled(&loader, &kavoSceneLoader::canceled);
         QSignalSpy loaded(&loader, &kavoSceneLoader::loaded);
-        loader.setGate([&] {
+        loader.setConfirmation([&] {
             loader.cancel();
             return true;
         });
@@ -265,12 +273,12 @@ private slots:
         QCOMPARE(loaded.count(), 0);
     }
 
-    void aLoadReplacedByItsGateIsOver()
+    void aLoadReplacedByItsConfirmationIsOver()
     {
         kavoSceneLoader loader;
         connect(&loader, &kavoSceneLoader::loaded, &kavoTestLoad::show);
         bool isAsked = false;
-        loader.setGate([&] {
+        loader.setConfirmation([&] {
             if (!std::exchange(isAsked, true))
                 loader.load({ model(truck) });
             return true;
