@@ -2,6 +2,7 @@
 # Third-party code never links it.
 
 set(OPENSG_ROOT "" CACHE PATH "Prefix of an installed OpenSG 1.8; empty builds the one in OpenSG/")
+set(KAVO_MODEL_DIR /usr/share/assimp/models CACHE PATH "Where Debian's assimp-testmodels are")
 set(KAVO_SANITIZE "" CACHE STRING "Sanitizers to build with, for example address,undefined")
 option(KAVO_BUILD_BENCHMARKS "Build the benchmarks" OFF)
 option(KAVO_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
