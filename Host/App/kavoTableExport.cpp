@@ -5,6 +5,7 @@
 #include "kavoValuePairs.h"
 
 #include <kavoNodePtr.h>
+#include <kavoNodeUtils.h>
 
 #include <OpenSG/OSGNodeCore.h>
 
@@ -15,8 +16,6 @@
 #include <fstream>
 
 namespace {
-
-constexpr osg::UInt32 fullyVisible = 0xFFFFFFFF;
 
 const char *coreTypeOf(const osg::NodePtr &node)
 {
@@ -91,7 +90,7 @@ bool kavoTableExport::writeRows(
 const osg::ValuePairBase *kavoTableExport::pairsOfRow(const kavoPathWalk &walk) const
 {
     const osg::ValuePairBase *pairs = kavoValuePairs::of(walk.node());
-    if (!pairs || (!m_options.takesAllNodes && walk.node()->getTravMask() != fullyVisible))
+    if (!pairs || (!m_options.takesAllNodes && !kavoNodeUtils::isFullyVisible(walk.node())))
         return nullptr;
     const std::vector<std::string> &keys = pairs->getKeys().getValues();
     const auto isWanted

@@ -1,16 +1,15 @@
 #include "kavoValuePairs.h"
 
+#include <kavoNodeUtils.h>
+
 #include <algorithm>
 
 namespace {
 
 osg::ValuePairBasePtr find(const osg::NodePtr &node)
 {
-    const osg::FieldContainerType &type = osg::ValuePairBase::getClassType();
-    const osg::AttachmentPtr found = node->findAttachment(type.getGroupId());
-    if (found == osg::NullFC || !found->getType().isDerivedFrom(type))
-        return osg::NullFC;
-    return osg::ValuePairBasePtr::dcast(found);
+    return osg::ValuePairBasePtr::dcast(
+        kavoNodeUtils::findAttachment(node, osg::ValuePairBase::getClassType()));
 }
 
 osg::ValuePairBasePtr findOrAttach(const osg::NodePtr &node)

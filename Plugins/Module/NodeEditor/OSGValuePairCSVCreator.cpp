@@ -12,15 +12,10 @@ OSG_BEGIN_NAMESPACE
 
 namespace {
 
-constexpr UInt32 fullyVisible = 0xFFFFFFFF;
-
 ValuePairBase *valuePairsOf(const NodePtr &node)
 {
-    const FieldContainerType &type = ValuePairBase::getClassType();
-    const AttachmentPtr found = node->findAttachment(type.getGroupId());
-    if (found == NullFC || !found->getType().isDerivedFrom(type))
-        return nullptr;
-    return static_cast<ValuePairBase *>(found.getCPtr());
+    const AttachmentPtr found = kavoNodeUtils::findAttachment(node, ValuePairBase::getClassType());
+    return found == NullFC ? nullptr : static_cast<ValuePairBase *>(found.getCPtr());
 }
 
 bool hasCore(const NodePtr &node)
@@ -126,7 +121,7 @@ Action::ResultE ValuePairCSVCreator::goOn() const
 
 bool ValuePairCSVCreator::gather(const NodePtr &node)
 {
-    if (!m_takesAllNodes && node->getTravMask() != fullyVisible)
+    if (!m_takesAllNodes && !kavoNodeUtils::isFullyVisible(node))
         return false;
     const char *name = kavoNodeUtils::getName(node);
     m_table.addName(name ? name : "");

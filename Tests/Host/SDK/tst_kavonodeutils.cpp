@@ -1,3 +1,4 @@
+#include <OSGValuePairBase.h>
 #include <kavoNodeUtils.h>
 #include <kavoTestHost.h>
 #include <kavoTestScene.h>
@@ -22,6 +23,8 @@ private slots:
     void aNamelessCoreGivesTheNameOfItsType();
     void aNodeWithoutNameAndCoreHasNoName();
     void hasNameAsksTheNodeItselfOnly();
+    void attachmentsAreFoundByTheirType();
+    void aClearedBitOfTheTraversalMaskHidesANodeInPart();
 };
 
 static osg::NodeCorePtr namedGroup(const char *name)
@@ -72,6 +75,24 @@ void tst_kavoNodeUtils::hasNameAsksTheNodeItselfOnly()
 {
     QVERIFY(!kavoNodeUtils::hasName(kavoNodePtr(makeNode(nullptr, namedGroup("Core")))));
     QVERIFY(kavoNodeUtils::hasName(kavoNodePtr(makeNode("Node", osg::NullFC))));
+}
+
+void tst_kavoNodeUtils::attachmentsAreFoundByTheirType()
+{
+    const kavoNodePtr node(makeNode("Node", osg::NullFC));
+    const osg::AttachmentPtr name
+        = kavoNodeUtils::findAttachment(osg::NodePtr(node), osg::Name::getClassType());
+    QVERIFY(osg::NamePtr::dcast(name) != osg::NullFC);
+    const auto &pairs = osg::ValuePairBase::getClassType();
+    QVERIFY(kavoNodeUtils::findAttachment(osg::NodePtr(node), pairs) == osg::NullFC);
+}
+
+void tst_kavoNodeUtils::aClearedBitOfTheTraversalMaskHidesANodeInPart()
+{
+    const kavoNodePtr node(makeNode("Node", osg::NullFC));
+    QVERIFY(kavoNodeUtils::isFullyVisible(node));
+    node->setTravMask(0x7FFFFFFF);
+    QVERIFY(!kavoNodeUtils::isFullyVisible(node));
 }
 
 KAVO_TEST_MAIN(tst_kavoNodeUtils)
