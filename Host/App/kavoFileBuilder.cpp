@@ -1,5 +1,6 @@
 #include "kavoFileBuilder.h"
 
+#include "kavoAssimpTypes.h"
 #include "kavoCameraBuilder.h"
 #include "kavoGeometryBuilder.h"
 #include "kavoImportedScene.h"
@@ -48,12 +49,6 @@ osg::NodeCorePtr makeTransform(const osg::Matrix &matrix)
     transform->setMatrix(matrix);
     osg::endEditCP(transform, osg::Transform::MatrixFieldMask);
     return transform;
-}
-
-osg::Matrix toMatrix(const aiMatrix4x4 &m)
-{
-    return osg::Matrix(m.a1, m.a2, m.a3, m.a4, m.b1, m.b2, m.b3, m.b4, m.c1, m.c2, m.c3, m.c4, m.d1,
-        m.d2, m.d3, m.d4);
 }
 
 /// A node's children without the holes that some of Assimp's readers leave among them.
@@ -132,7 +127,7 @@ osg::ImagePtr kavoFileBuilder::image(const QString &path)
         return osg::NullFC;
     auto &image = m_images[path];
     if (image.get() == osg::NullFC)
-        image = kavoContainerRef<osg::ImagePtr>(kavoMaterialBuilder::buildImage(pixels, path));
+        image = kavoMaterialBuilder::buildImage(pixels, path);
     return image.get();
 }
 
@@ -188,7 +183,7 @@ osg::NodePtr kavoFileBuilder::buildPlace(const aiNode &source, const osg::NodePt
     const osg::NodePtr node = addChild(parent, source.mName.C_Str());
     kavoMetadataReader::attach(node, source.mMetaData);
     if (!source.mTransformation.IsIdentity()) {
-        setCore(node, makeTransform(toMatrix(source.mTransformation)));
+        setCore(node, makeTransform(kavoAssimpTypes::toMatrix(source.mTransformation)));
         addMeshes(source, node, 0);
     } else if (source.mNumMeshes > 0) {
         setCore(node, m_geometries[source.mMeshes[0]].get());
@@ -207,7 +202,7 @@ osg::NodePtr kavoFileBuilder::buildLight(
     const osg::LightPtr core = kavoLightBuilder::build(light);
     setCore(node, core);
     const osg::NodePtr beacon = addChild(node, std::string(source.mName.C_Str()) + "-beacon");
-    setCore(beacon, makeTransform(toMatrix(source.mTransformation)));
+    setCore(beacon, makeTransform(kavoAssimpTypes::toMatrix(source.mTransformation)));
     osg::beginEditCP(core, osg::Light::BeaconFieldMask);
     core->setBeacon(beacon);
     osg::endEditCP(core, osg::Light::BeaconFieldMask);

@@ -1,13 +1,12 @@
 #pragma once
 
-#include "kavoContainerRef.h"
-
 #include <OpenSG/OSGCamera.h>
 #include <OpenSG/OSGChunkMaterial.h>
 #include <OpenSG/OSGGeometry.h>
 #include <OpenSG/OSGImage.h>
 #include <OpenSG/OSGMatrix.h>
 #include <OpenSG/OSGNode.h>
+#include <OpenSG/OSGRefPtr.h>
 
 #include <QHash>
 #include <QMap>
@@ -41,7 +40,7 @@ public:
     bool step();
 
     /// The cameras made so far, each with its beacon set.
-    const std::vector<kavoContainerRef<osg::CameraPtr>> &cameras() const { return m_cameras; }
+    const std::vector<osg::RefPtr<osg::CameraPtr>> &cameras() const { return m_cameras; }
 
 private:
     struct Pending
@@ -66,10 +65,10 @@ private:
     osg::NodePtr m_root, m_library;
     QMap<QByteArray, const aiLight *> m_lightsByName;
     QMap<QByteArray, const aiCamera *> m_camerasByName;
-    QHash<QString, kavoContainerRef<osg::ImagePtr>> m_images;
+    QHash<QString, osg::RefPtr<osg::ImagePtr>> m_images;
     std::vector<osg::ChunkMaterialPtr> m_materials; // held by the library
-    std::vector<kavoContainerRef<osg::GeometryPtr>> m_geometries;
-    std::vector<kavoContainerRef<osg::CameraPtr>> m_cameras;
+    std::vector<osg::RefPtr<osg::GeometryPtr>> m_geometries;
+    std::vector<osg::RefPtr<osg::CameraPtr>> m_cameras;
     std::vector<Pending> m_pendingNodes;
     int m_nodeCount = 0;
     int m_stepsDone = 0;

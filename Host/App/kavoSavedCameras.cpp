@@ -6,6 +6,8 @@
 #include <OpenSG/OSGFieldContainerFields.h>
 #include <OpenSG/OSGMFBaseTypes.h>
 
+#include <algorithm>
+
 namespace {
 
 const char *const mapType = "FCPtrAttributeMap";

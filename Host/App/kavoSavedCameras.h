@@ -1,10 +1,9 @@
 #pragma once
 
-#include "kavoContainerRef.h"
-
 #include <OpenSG/OSGAttachment.h>
 #include <OpenSG/OSGCamera.h>
 #include <OpenSG/OSGNode.h>
+#include <OpenSG/OSGRefPtr.h>
 
 #include <vector>
 
@@ -13,7 +12,7 @@
 class kavoSavedCameras
 {
 public:
-    using List = std::vector<kavoContainerRef<osg::CameraPtr>>;
+    using List = std::vector<osg::RefPtr<osg::CameraPtr>>;
 
     /// Hangs the cameras of the open scene on a root, for as long as this lives.
     explicit kavoSavedCameras(const osg::NodePtr &root);

@@ -18,7 +18,7 @@ class kavoSceneBuilder : public QObject
 
 public:
     using Files = std::vector<std::shared_ptr<kavoImportedScene>>;
-    using Cameras = std::vector<kavoContainerRef<osg::CameraPtr>>;
+    using Cameras = std::vector<osg::RefPtr<osg::CameraPtr>>;
 
     explicit kavoSceneBuilder(const Files &files, QObject *parent = nullptr);
 

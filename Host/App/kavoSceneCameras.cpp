@@ -8,7 +8,7 @@ namespace {
 
 struct Entry
 {
-    kavoContainerRef<osg::CameraPtr> camera;
+    osg::RefPtr<osg::CameraPtr> camera;
     osg::UInt32 nodeId; // the beacon is not referenced by its camera: only its id outlives it
 };
 
@@ -36,7 +36,7 @@ std::vector<Entry> &living()
 
 } // namespace
 
-void kavoSceneCameras::set(const std::vector<kavoContainerRef<osg::CameraPtr>> &newCameras)
+void kavoSceneCameras::set(const std::vector<osg::RefPtr<osg::CameraPtr>> &newCameras)
 {
     cameras().entries.clear();
     for (const auto &camera : newCameras)

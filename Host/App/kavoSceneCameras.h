@@ -1,9 +1,8 @@
 #pragma once
 
-#include "kavoContainerRef.h"
-
 #include <OpenSG/OSGCamera.h>
 #include <OpenSG/OSGNode.h>
+#include <OpenSG/OSGRefPtr.h>
 
 #include <vector>
 
@@ -14,7 +13,7 @@ class kavoSceneCameras
 {
 public:
     /// Replaces all cameras; the first one becomes active.
-    static void set(const std::vector<kavoContainerRef<osg::CameraPtr>> &cameras);
+    static void set(const std::vector<osg::RefPtr<osg::CameraPtr>> &cameras);
 
     /// Container ids of the beacons, in the order of the cameras.
     static std::vector<osg::UInt32> nodeIds();

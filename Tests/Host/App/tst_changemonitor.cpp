@@ -1,5 +1,4 @@
 #include <kavoChangeMonitor.h>
-#include <kavoContainerRef.h>
 #include <kavoContainers.h>
 #include <kavoTestHost.h>
 #include <kavoTestScene.h>

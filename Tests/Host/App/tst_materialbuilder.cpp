@@ -5,6 +5,7 @@
 #include <OpenSG/OSGBlendChunk.h>
 #include <OpenSG/OSGMaterialChunk.h>
 #include <OpenSG/OSGPolygonChunk.h>
+#include <OpenSG/OSGRefPtr.h>
 #include <OpenSG/OSGTextureChunk.h>
 #include <OpenSG/OSGTwoSidedLightingChunk.h>
 
@@ -13,8 +14,6 @@
 #include <assimp/GltfMaterial.h>
 #include <assimp/material.h>
 
-#include "kavoContainerRef.h"
-
 namespace {
 
 template <class Value, class... Key> void set(aiMaterial &material, Value value, Key... key)
@@ -22,7 +21,7 @@ template <class Value, class... Key> void set(aiMaterial &material, Value value,
     material.AddProperty(&value, 1, key...);
 }
 
-using MaterialRef = kavoContainerRef<osg::ChunkMaterialPtr>;
+using MaterialRef = osg::RefPtr<osg::ChunkMaterialPtr>;
 
 MaterialRef build(const aiMaterial &material, const osg::ImagePtr &image = osg::NullFC)
 {
@@ -124,7 +123,7 @@ private slots:
 
     void imagesHaveTheirBottomRowFirst()
     {
-        const kavoContainerRef<osg::ImagePtr> image(
+        const osg::RefPtr<osg::ImagePtr> image(
             kavoMaterialBuilder::buildImage(twoRows(QImage::Format_RGB32), "a.png"));
         QCOMPARE(image.get()->getPixelFormat(), osg::UInt32(osg::Image::OSG_RGB_PF));
         QCOMPARE(image.get()->getMFPixel()->getSize(), 18u);
@@ -143,7 +142,7 @@ private slots:
     void imagesComeBackAsTheyWere()
     {
         QFETCH(QImage::Format, format);
-        const kavoContainerRef<osg::ImagePtr> image(
+        const osg::RefPtr<osg::ImagePtr> image(
             kavoMaterialBuilder::buildImage(twoRows(format), "a.png"));
         QCOMPARE(kavoImageConverter::toImage(image.get()), twoRows(format));
     }
@@ -151,13 +150,13 @@ private slots:
     void noImageGivesNoPicture()
     {
         QVERIFY(kavoImageConverter::toImage(osg::NullFC).isNull());
-        const kavoContainerRef<osg::ImagePtr> empty(osg::Image::create());
+        const osg::RefPtr<osg::ImagePtr> empty(osg::Image::create());
         QVERIFY(kavoImageConverter::toImage(empty.get()).isNull());
     }
 
     void anImageWithFewerPixelsThanItSaysGivesNoPicture()
     {
-        const kavoContainerRef<osg::ImagePtr> image(
+        const osg::RefPtr<osg::ImagePtr> image(
             kavoMaterialBuilder::buildImage(twoRows(QImage::Format_RGBA8888), "a.png"));
         image.get()->setWidth(16384);
         image.get()->setHeight(65536);
