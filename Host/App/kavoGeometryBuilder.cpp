@@ -1,14 +1,17 @@
 #include "kavoGeometryBuilder.h"
 
+#include "kavoAssimpTypes.h"
+
 #include <OpenSG/OSGGeoProperty.h>
 #include <OpenSG/OSGSimpleAttachments.h>
 #include <algorithm>
 #include <assimp/mesh.h>
+#include <qopengl.h>
 
 namespace {
 
-// GL_POINTS, GL_LINES and GL_TRIANGLES; larger faces are triangulated on import.
-constexpr osg::UInt8 primitiveTypes[] = { 0, 1, 4 };
+// By the corners of a face; larger ones are triangulated on import.
+constexpr osg::UInt8 primitiveTypes[] = { GL_POINTS, GL_LINES, GL_TRIANGLES };
 
 /// A new property with one element for each of `count` sources.
 template <class Property, class Source, class Convert>
@@ -21,18 +24,6 @@ typename Property::PtrType property(const Source *sources, unsigned int count, C
     std::transform(sources, sources + count, values.begin(), convert);
     osg::endEditCP(result);
     return result;
-}
-
-osg::Vec3f toVector(const aiVector3D &v)
-{
-    return osg::Vec3f(v.x, v.y, v.z);
-}
-
-osg::Color4f toColor(const aiColor4D &c)
-{
-    osg::Color4f color;
-    color.setValuesRGBA(c.r, c.g, c.b, c.a);
-    return color;
 }
 
 void setPrimitives(osg::Geometry &geometry, const aiMesh &mesh)
@@ -71,13 +62,14 @@ void setTexCoords(osg::Geometry &geometry, const aiMesh &mesh)
 
 void setVertices(osg::Geometry &geometry, const aiMesh &mesh)
 {
-    geometry.setPositions(property<osg::GeoPositions3f>(mesh.mVertices, mesh.mNumVertices,
-        [](const aiVector3D &v) { return osg::Pnt3f(v.x, v.y, v.z); }));
+    geometry.setPositions(
+        property<osg::GeoPositions3f>(mesh.mVertices, mesh.mNumVertices, kavoAssimpTypes::toPoint));
     if (mesh.HasNormals())
-        geometry.setNormals(
-            property<osg::GeoNormals3f>(mesh.mNormals, mesh.mNumVertices, toVector));
+        geometry.setNormals(property<osg::GeoNormals3f>(
+            mesh.mNormals, mesh.mNumVertices, kavoAssimpTypes::toVector));
     if (mesh.HasVertexColors(0))
-        geometry.setColors(property<osg::GeoColors4f>(mesh.mColors[0], mesh.mNumVertices, toColor));
+        geometry.setColors(property<osg::GeoColors4f>(mesh.mColors[0], mesh.mNumVertices,
+            [](const aiColor4D &c) { return kavoAssimpTypes::toColor(c); }));
     setTexCoords(geometry, mesh);
 }
 

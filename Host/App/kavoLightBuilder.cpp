@@ -1,16 +1,15 @@
 #include "kavoLightBuilder.h"
 
+#include "kavoAssimpTypes.h"
+
 #include <OpenSG/OSGDirectionalLight.h>
 #include <OpenSG/OSGPointLight.h>
 #include <OpenSG/OSGSpotLight.h>
 #include <assimp/light.h>
 
-namespace {
+using namespace kavoAssimpTypes;
 
-osg::Vec3f toVector(const aiVector3D &v)
-{
-    return osg::Vec3f(v.x, v.y, v.z);
-}
+namespace {
 
 osg::LightPtr buildDirectional(const aiLight &light)
 {
@@ -22,7 +21,7 @@ osg::LightPtr buildDirectional(const aiLight &light)
 osg::LightPtr buildSpot(const aiLight &light)
 {
     auto result = osg::SpotLight::create();
-    result->setPosition(osg::Pnt3f(light.mPosition.x, light.mPosition.y, light.mPosition.z));
+    result->setPosition(toPoint(light.mPosition));
     result->setDirection(toVector(light.mDirection));
     result->setSpotCutOff(light.mAngleOuterCone / 2); // from the axis, not across the cone
     return result;
@@ -31,7 +30,7 @@ osg::LightPtr buildSpot(const aiLight &light)
 osg::LightPtr buildPoint(const aiLight &light)
 {
     auto result = osg::PointLight::create();
-    result->setPosition(osg::Pnt3f(light.mPosition.x, light.mPosition.y, light.mPosition.z));
+    result->setPosition(toPoint(light.mPosition));
     return result;
 }
 
@@ -53,9 +52,9 @@ osg::LightPtr kavoLightBuilder::build(const aiLight &light)
 {
     osg::LightPtr result = buildKind(light);
     osg::beginEditCP(result);
-    result->setAmbient(light.mColorAmbient.r, light.mColorAmbient.g, light.mColorAmbient.b, 1);
-    result->setDiffuse(light.mColorDiffuse.r, light.mColorDiffuse.g, light.mColorDiffuse.b, 1);
-    result->setSpecular(light.mColorSpecular.r, light.mColorSpecular.g, light.mColorSpecular.b, 1);
+    result->setAmbient(toColor(light.mColorAmbient));
+    result->setDiffuse(toColor(light.mColorDiffuse));
+    result->setSpecular(toColor(light.mColorSpecular));
     result->setConstantAttenuation(light.mAttenuationConstant);
     result->setLinearAttenuation(light.mAttenuationLinear);
     result->setQuadraticAttenuation(light.mAttenuationQuadratic);

@@ -1,5 +1,6 @@
 #include "kavoMaterialBuilder.h"
 
+#include "kavoAssimpTypes.h"
 #include "kavoTextureSlot.h"
 
 #include <OpenSG/OSGBlendChunk.h>
@@ -11,15 +12,10 @@
 #include <algorithm>
 #include <assimp/GltfMaterial.h>
 #include <assimp/material.h>
+#include <qopengl.h>
 
 namespace {
 
-// OpenGL values of the chunks' fields.
-constexpr GLenum glNone = 0, glBack = 1029;
-constexpr GLenum glSrcAlpha = 770, glOneMinusSrcAlpha = 771;
-constexpr GLenum glModulate = 8448;
-constexpr GLenum glRepeat = 10497, glClampToBorder = 33069, glClampToEdge = 33071,
-                 glMirroredRepeat = 33648;
 constexpr float maxShininess = 128;
 
 template <class Value, class... Key>
@@ -31,9 +27,7 @@ Value read(const aiMaterial &material, Value fallback, Key... key)
 
 osg::Color4f toColor(const aiColor4D &c, float scale, float alpha)
 {
-    osg::Color4f color;
-    color.setValuesRGBA(c.r * scale, c.g * scale, c.b * scale, alpha);
-    return color;
+    return kavoAssimpTypes::toColor(aiColor4D(c.r * scale, c.g * scale, c.b * scale, alpha));
 }
 
 float opacity(const aiMaterial &material)
@@ -78,13 +72,13 @@ GLenum wrapMode(aiTextureMapMode mode)
 {
     switch (mode) {
     case aiTextureMapMode_Clamp:
-        return glClampToEdge;
+        return GL_CLAMP_TO_EDGE;
     case aiTextureMapMode_Decal:
-        return glClampToBorder;
+        return GL_CLAMP_TO_BORDER;
     case aiTextureMapMode_Mirror:
-        return glMirroredRepeat;
+        return GL_MIRRORED_REPEAT;
     default:
-        return glRepeat;
+        return GL_REPEAT;
     }
 }
 
@@ -96,7 +90,7 @@ osg::StateChunkPtr buildTextureChunk(const aiMaterial &material, osg::ImagePtr i
     chunk->setImage(image);
     chunk->setWrapS(wrapMode(slot.wrapS));
     chunk->setWrapT(wrapMode(slot.wrapT));
-    chunk->setEnvMode(glModulate);
+    chunk->setEnvMode(GL_MODULATE);
     osg::endEditCP(chunk);
     return chunk;
 }
@@ -105,8 +99,8 @@ osg::StateChunkPtr buildBlendChunk()
 {
     auto chunk = osg::BlendChunk::create();
     osg::beginEditCP(chunk);
-    chunk->setSrcFactor(glSrcAlpha);
-    chunk->setDestFactor(glOneMinusSrcAlpha);
+    chunk->setSrcFactor(GL_SRC_ALPHA);
+    chunk->setDestFactor(GL_ONE_MINUS_SRC_ALPHA);
     osg::endEditCP(chunk);
     return chunk;
 }
@@ -117,7 +111,7 @@ osg::StateChunkPtr buildPolygonChunk(const aiMaterial &material)
     const bool oneSided = read(material, 1, AI_MATKEY_TWOSIDED) == 0;
     auto chunk = osg::PolygonChunk::create();
     osg::beginEditCP(chunk);
-    chunk->setCullFace(oneSided ? glBack : glNone);
+    chunk->setCullFace(oneSided ? GL_BACK : GL_NONE);
     osg::endEditCP(chunk);
     return chunk;
 }

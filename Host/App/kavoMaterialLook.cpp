@@ -9,9 +9,9 @@
 #include <OpenSG/OSGSimpleTexturedMaterial.h>
 #include <OpenSG/OSGTextureChunk.h>
 
-namespace {
+#include <qopengl.h>
 
-constexpr GLenum glBack = 1029, glFrontAndBack = 1032;
+namespace {
 
 template <class Color> QVector3D toVector(const Color &color)
 {
@@ -61,5 +61,5 @@ void kavoMaterialLook::read(const osg::FieldContainerPtr &container)
              simple != osg::NullFC)
         texture = simple->getImage();
     else if (const auto chunk = osg::PolygonChunkPtr::dcast(container); chunk != osg::NullFC)
-        cullsBack = chunk->getCullFace() == glBack || chunk->getCullFace() == glFrontAndBack;
+        cullsBack = chunk->getCullFace() == GL_BACK || chunk->getCullFace() == GL_FRONT_AND_BACK;
 }

@@ -2,25 +2,12 @@
 
 #include <OpenSG/OSGGeoProperty.h>
 #include <algorithm>
+#include <qopengl.h>
 #include <utility>
 
 namespace {
 
 using Vertex = kavoTriangleSoup::Vertex;
-
-// OpenGL's primitive types, the values of a geometry's "types".
-enum Primitive : osg::UInt8 {
-    Points,
-    Lines,
-    LineLoop,
-    LineStrip,
-    Triangles,
-    TriangleStrip,
-    TriangleFan,
-    Quads,
-    QuadStrip,
-    Polygon
-};
 
 QVector3D toQt(const osg::Pnt3f &p)
 {
@@ -139,25 +126,25 @@ void addLines(kavoTriangleSoup &soup, const std::vector<Vertex> &v, std::size_t 
 void addPrimitive(kavoTriangleSoup &soup, osg::UInt8 type, const std::vector<Vertex> &corners)
 {
     switch (type) {
-    case Points:
+    case GL_POINTS:
         soup.points.insert(soup.points.end(), corners.begin(), corners.end());
         return;
-    case Lines:
+    case GL_LINES:
         return addLines(soup, corners, 2, false);
-    case LineLoop:
+    case GL_LINE_LOOP:
         return addLines(soup, corners, 1, true);
-    case LineStrip:
+    case GL_LINE_STRIP:
         return addLines(soup, corners, 1, false);
-    case Triangles:
+    case GL_TRIANGLES:
         return addTriangles(soup, corners, 3, { 0, 1, 2 });
-    case TriangleStrip:
+    case GL_TRIANGLE_STRIP:
         return addStrip(soup, corners);
-    case Quads:
+    case GL_QUADS:
         return addTriangles(soup, corners, 4, { 0, 1, 2, 0, 2, 3 });
-    case QuadStrip:
+    case GL_QUAD_STRIP:
         return addTriangles(soup, corners, 2, { 0, 1, 3, 0, 3, 2 });
-    case TriangleFan:
-    case Polygon:
+    case GL_TRIANGLE_FAN:
+    case GL_POLYGON:
         return addFan(soup, corners);
     }
 }
