@@ -29,9 +29,11 @@ private:
     void recall();
     void addExportRows(QFormLayout *layout);
 
-    QComboBox *m_format;
-    QComboBox *m_delimiter;
+    // Null at an import:
+    QComboBox *m_format = nullptr;
+    QComboBox *m_delimiter = nullptr;
+    QCheckBox *m_byteOrderMark = nullptr;
+    // Always there:
     QComboBox *m_decimalSeparator;
-    QCheckBox *m_byteOrderMark;
     QCheckBox *m_guardsFormulas;
 };
