@@ -166,14 +166,6 @@ void QKAVODockWindowManager::toggle(const QString &key)
     dock->toggleViewAction()->setChecked(!dock->isClosed());
 }
 
-bool QKAVODockWindowManager::areTabbed(const QString &key, const QString &otherKey) const
-{
-    if (!m_windows.contains(key) || !m_windows.contains(otherKey))
-        return false;
-    const ads::CDockAreaWidget *area = m_windows[key].dock->dockAreaWidget();
-    return area && area == m_windows[otherKey].dock->dockAreaWidget();
-}
-
 QByteArray QKAVODockWindowManager::saveState() const
 {
     QByteArray state;

@@ -54,8 +54,6 @@ public:
     QAction *toggleAction(const QString &key) const;
     /// Opens the window and brings its tab to the front.
     void show(const QString &key);
-    /// Whether the two windows are tabs of the same area.
-    bool areTabbed(const QString &key, const QString &otherKey) const;
 
     /// Places and visibility of all windows.
     QByteArray saveState() const;
