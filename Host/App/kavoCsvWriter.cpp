@@ -48,8 +48,8 @@ void kavoCsvWriter::appendCell(const std::string &cell)
         m_line += cell;
     } else {
         m_line += '"';
-        for (char letter : cell)
-            m_line.append(letter == '"' ? 2 : 1, letter);
+        for (char character : cell)
+            m_line.append(character == '"' ? 2 : 1, character);
         m_line += '"';
     }
     m_line += m_delimiter;

@@ -46,7 +46,7 @@ QList<QCommandLineOption> kavoExportArguments::tableOptions()
     return {
         { formatOption, tr("csv or jsonl; without it by the ending of the file's name."),
             tr("FORMAT") },
-        { delimiterOption, tr("comma, semicolon or tab, or any letter. Found out at an import."),
+        { delimiterOption, tr("comma, semicolon or tab, or any character. Found out at an import."),
             tr("DELIMITER"), QStringLiteral("comma") },
         { decimalOption, tr("Decimal separator of the table: point or comma."), tr("SEPARATOR"),
             QStringLiteral("point") },
@@ -80,7 +80,7 @@ void kavoExportArguments::parseTableOptions(const QCommandLineParser &parser)
     m_format = choose(parser, formatOption, formats, QString());
     m_tableOptions.decimalSeparator = separator == separators.first() ? '.' : ',';
     if (!m_tableOptions.setDelimiter(parser.value(delimiterOption)))
-        m_error = tr("--%1 is comma, semicolon, tab or one letter.").arg(delimiterOption);
+        m_error = tr("--%1 is comma, semicolon, tab or one character.").arg(delimiterOption);
     m_tableOptions.startsWithByteOrderMark = parser.isSet(bomOption);
     m_tableOptions.guardsFormulas = !parser.isSet(noGuardOption);
     m_tableOptions.keys = parsePatterns(parser, keysOption);

@@ -98,10 +98,10 @@ std::string kavoPathWalk::withoutNumbers(const std::string &path)
 {
     std::string plain;
     bool inNumber = false;
-    for (char letter : path) {
-        inNumber = letter == '[' || (inNumber && letter != '/');
+    for (char character : path) {
+        inNumber = character == '[' || (inNumber && character != '/');
         if (!inNumber)
-            plain += letter;
+            plain += character;
     }
     return plain;
 }

@@ -12,10 +12,10 @@ bool kavoTableOptions::setDelimiter(const QString &text)
     static const QMap<QString, QChar> names { { QStringLiteral("comma"), QLatin1Char(',') },
         { QStringLiteral("semicolon"), QLatin1Char(';') },
         { QStringLiteral("tab"), QLatin1Char('\t') } };
-    const QString letter = names.contains(text) ? QString(names.value(text)) : text;
-    const bool isUsable = letter.size() == 1 && letter[0].unicode() < 0x80
-        && !QStringLiteral("\"\r\n").contains(letter) && !letter[0].isNull();
+    const QString character = names.contains(text) ? QString(names.value(text)) : text;
+    const bool isUsable = character.size() == 1 && character[0].unicode() < 0x80
+        && !QStringLiteral("\"\r\n").contains(character) && !character[0].isNull();
     if (isUsable)
-        delimiter = letter[0].toLatin1();
+        delimiter = character[0].toLatin1();
     return isUsable;
 }

@@ -9,8 +9,8 @@ struct kavoTableOptions
 
     /// By the ending of a file's name: .jsonl is JSON Lines.
     static Format formatOf(const QString &fileName);
-    /// \param text comma, semicolon or tab, or the delimiter itself: any ASCII letter that is no
-    /// quote, line end or NUL
+    /// \param text comma, semicolon or tab, or the delimiter itself: any ASCII character that is
+    /// no quote, line end or NUL
     /// \returns false if it is none of these; the delimiter keeps its value then
     bool setDelimiter(const QString &text);
 

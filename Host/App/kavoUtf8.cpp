@@ -47,9 +47,9 @@ bool hasForm(const Form &form, const std::string &text, std::size_t place)
     return true;
 }
 
-bool isAscii(char letter)
+bool isAscii(char character)
 {
-    return static_cast<unsigned char>(letter) < 0x80;
+    return static_cast<unsigned char>(character) < 0x80;
 }
 
 int valueOf(char digit)
@@ -58,8 +58,8 @@ int valueOf(char digit)
     return found ? int(found - digits) : -1;
 }
 
-// The byte that an escape stands for: a percent sign, or one that no ASCII letter has; -1 if there
-// is no escape at that place.
+// The byte that an escape stands for: a percent sign, or one that no ASCII character has; -1 if
+// there is no escape at that place.
 int escapeAt(const std::string &text, std::size_t place)
 {
     if (text[place] != '%' || text.size() - place < 3)

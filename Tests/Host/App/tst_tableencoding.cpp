@@ -26,7 +26,7 @@ private slots:
     void bytesThatAreNoUtf8AreReplaced();
     void keysAndPathsTellBytesThatAreNoUtf8_data();
     void keysAndPathsTellBytesThatAreNoUtf8();
-    void lettersWithAMeaningInPathsAreEscaped();
+    void charactersWithAMeaningInPathsAreEscaped();
 
 private:
     static void formats();
@@ -70,7 +70,7 @@ void tst_TableEncoding::keysAndPathsTellBytesThatAreNoUtf8_data()
                            << QByteArray("/Hull/\xC3\xA4");
     QTest::newRow("Latin-1") << QByteArray("\xE4z") << QByteArray("%E4z")
                              << QByteArray("/Hull/%E4z");
-    QTest::newRow("the same in letters")
+    QTest::newRow("the same spelt out")
         << QByteArray("%E4z") << QByteArray("%25E4z") << QByteArray("/Hull/%25E4z");
     QTest::newRow("percent") << QByteArray("5%") << QByteArray("5%") << QByteArray("/Hull/5%25");
 }
@@ -84,7 +84,7 @@ void tst_TableEncoding::keysAndPathsTellBytesThatAreNoUtf8()
     QVERIFY(m_table->exported().contains(',' + path + ','));
 }
 
-void tst_TableEncoding::lettersWithAMeaningInPathsAreEscaped()
+void tst_TableEncoding::charactersWithAMeaningInPathsAreEscaped()
 {
     addNode(m_table->root, "a/b[2]%", { { "k", "1" } });
     QVERIFY(m_table->exported().contains(",/Hull/a%2Fb%5B2%5D%25,a/b[2]%,"));

@@ -29,8 +29,8 @@ private slots:
     void cellsAreQuotedWhereNeedBe_data();
     void cellsAreQuotedWhereNeedBe();
     void theDelimiterCanBeChosen();
-    void theDelimiterIsKnownByNameOrLetter_data();
-    void theDelimiterIsKnownByNameOrLetter();
+    void theDelimiterIsKnownByNameOrCharacter_data();
+    void theDelimiterIsKnownByNameOrCharacter();
     void numbersGetTheDecimalSeparator_data();
     void numbersGetTheDecimalSeparator();
     void formulasAreGuarded_data();
@@ -117,22 +117,22 @@ void tst_ValuePairTable::theDelimiterCanBeChosen()
     QCOMPARE(m_table->cells(1), QByteArray("\"a,b\";\"a;b\""));
 }
 
-void tst_ValuePairTable::theDelimiterIsKnownByNameOrLetter_data()
+void tst_ValuePairTable::theDelimiterIsKnownByNameOrCharacter_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QChar>("delimiter");
     QTest::newRow("comma") << "comma" << QChar(',');
     QTest::newRow("semicolon") << "semicolon" << QChar(';');
     QTest::newRow("tab") << "tab" << QChar('\t');
-    QTest::newRow("a letter") << "|" << QChar('|');
+    QTest::newRow("a character") << "|" << QChar('|');
     QTest::newRow("a quote") << "\"" << QChar();
     QTest::newRow("a line end") << "\n" << QChar();
     QTest::newRow("not ASCII") << QString(QChar(0xE4)) << QChar();
-    QTest::newRow("two letters") << "::" << QChar();
+    QTest::newRow("two characters") << "::" << QChar();
     QTest::newRow("nothing") << "" << QChar();
 }
 
-void tst_ValuePairTable::theDelimiterIsKnownByNameOrLetter()
+void tst_ValuePairTable::theDelimiterIsKnownByNameOrCharacter()
 {
     QFETCH(QString, text);
     QFETCH(QChar, delimiter);
