@@ -1,6 +1,5 @@
-#include "kavoTableFixture.h"
+#include "kavoShipFixture.h"
 
-#include <kavoNodeUtils.h>
 #include <kavoTestHost.h>
 
 #include <QTest>
@@ -8,6 +7,7 @@
 #include <memory>
 
 using kavoTestPairs::addNode;
+using Ship = kavoShipFixture;
 using Pairs = std::vector<kavoTestPairs::Pair>;
 
 // Which nodes the rows of an edited table are written to.
@@ -16,7 +16,7 @@ class tst_RowPlacer : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
+    void init() { m_table = std::make_unique<kavoShipFixture>(); }
     void cleanup() { m_table.reset(); }
 
     void inAnotherSessionThePathFindsTheNode();
@@ -32,52 +32,32 @@ private slots:
     void otherRowsAreWrittenAllTheSame();
 
 private:
-    static QByteArray row(const osg::NodePtr &node, const QByteArray &cells);
-
-    std::unique_ptr<kavoTableFixture> m_table;
-    osg::NodePtr m_mast, m_deck;
+    std::unique_ptr<kavoShipFixture> m_table;
 };
-
-static const QByteArray header("id,path,name,type,color,size\n");
-
-void tst_RowPlacer::init()
-{
-    m_table = std::make_unique<kavoTableFixture>();
-    m_mast = addNode(m_table->root, "Mast", { { "size", "2" }, { "color", "red" } });
-    m_deck = addNode(m_table->root, "Deck", { { "color", "blue" } });
-}
-
-// A line about that child of the root.
-QByteArray tst_RowPlacer::row(const osg::NodePtr &node, const QByteArray &cells)
-{
-    const QByteArray name = kavoNodeUtils::getName(node);
-    return QByteArray::number(node.getFieldContainerId()) + ",/Hull/" + name + ',' + name
-        + ",Group," + cells + '\n';
-}
 
 void tst_RowPlacer::inAnotherSessionThePathFindsTheNode()
 {
-    const QByteArray wrongId = QByteArray::number(m_deck.getFieldContainerId());
-    m_table->import(header + wrongId + ",/Hull/Mast,Mast,Group,green,2\n");
-    QVERIFY(kavoTestPairs::of(m_mast) == (Pairs { { "size", "2" }, { "color", "green" } }));
-    QVERIFY(kavoTestPairs::of(m_deck) == (Pairs { { "color", "blue" } }));
+    const QByteArray wrongId = QByteArray::number(m_table->deck.getFieldContainerId());
+    m_table->import(Ship::header + wrongId + ",/Hull/Mast,Mast,Group,green,2\n");
+    QVERIFY(kavoTestPairs::of(m_table->mast) == (Pairs { { "size", "2" }, { "color", "green" } }));
+    QVERIFY(kavoTestPairs::of(m_table->deck) == (Pairs { { "color", "blue" } }));
 }
 
 void tst_RowPlacer::whenThePathIsGoneTheIdFindsTheSibling()
 {
-    const QByteArray id = QByteArray::number(m_mast.getFieldContainerId());
+    const QByteArray id = QByteArray::number(m_table->mast.getFieldContainerId());
     m_table->import("id,path,name,type,color\n" + id + ",/Hull/Mast[2],Mast,Group,black\n");
-    QVERIFY(kavoTestPairs::of(m_mast) == (Pairs { { "size", "2" }, { "color", "black" } }));
+    QVERIFY(kavoTestPairs::of(m_table->mast) == (Pairs { { "size", "2" }, { "color", "black" } }));
 }
 
 void tst_RowPlacer::siblingsThatChangedPlacesAreReported()
 {
     const osg::NodePtr second = addNode(m_table->root, "Mast", { { "color", "white" } });
-    const auto report = m_table->import(header + row(second, "black,"));
+    const auto report = m_table->import(Ship::header + Ship::row(second, "black,"));
     QCOMPARE(report.unplacedRows.size(), 1);
     QVERIFY(report.unplacedRows[0].endsWith("id and path name different nodes"));
     QVERIFY(kavoTestPairs::of(second) == (Pairs { { "color", "white" } }));
-    QVERIFY(kavoTestPairs::of(m_mast) == (Pairs { { "size", "2" }, { "color", "red" } }));
+    QVERIFY(kavoTestPairs::of(m_table->mast) == (Pairs { { "size", "2" }, { "color", "red" } }));
 }
 
 void tst_RowPlacer::shiftedIdsOfAnotherSessionChangeNothing_data()
@@ -114,7 +94,7 @@ void tst_RowPlacer::afterASiblingWasDeletedNothingLandsOnItsSuccessor()
 {
     addNode(m_table->root, "Mast", { { "color", "white" } });
     const QByteArray table = m_table->exported();
-    osg::NodePtr(m_table->root)->subChild(m_mast);
+    osg::NodePtr(m_table->root)->subChild(m_table->mast);
     const auto report = m_table->import(table);
     QCOMPARE(report.changedValues, 0);
     QCOMPARE(report.unplacedRows.size(), 2);
@@ -124,43 +104,44 @@ void tst_RowPlacer::afterASiblingWasDeletedNothingLandsOnItsSuccessor()
 
 void tst_RowPlacer::anIdOfANodeElsewhereDoesNotCount()
 {
-    const QByteArray id = QByteArray::number(m_deck.getFieldContainerId());
-    const auto report = m_table->import(header + id + ",/Hull/Sail,Sail,Group,green,\n");
+    const QByteArray id = QByteArray::number(m_table->deck.getFieldContainerId());
+    const auto report = m_table->import(Ship::header + id + ",/Hull/Sail,Sail,Group,green,\n");
     QCOMPARE(report.unplacedRows,
         QStringList { "line 2: '/Hull/Sail' (id " + id + "): the scene has no such node" });
-    QVERIFY(kavoTestPairs::of(m_deck) == (Pairs { { "color", "blue" } }));
+    QVERIFY(kavoTestPairs::of(m_table->deck) == (Pairs { { "color", "blue" } }));
 }
 
 void tst_RowPlacer::rowsWithoutANodeAreReported()
 {
-    const auto report = m_table->import(header + "1,/Hull/A,,,,\n1,/Hull/B,,,,\n");
+    const auto report = m_table->import(Ship::header + "1,/Hull/A,,,,\n1,/Hull/B,,,,\n");
     QCOMPARE(report.unplacedRows,
         (QStringList { "line 2: '/Hull/A' (id 1): the scene has no such node",
             "line 3: '/Hull/B' (id 1): the scene has no such node" }));
-    QCOMPARE(m_table->import(header).unplacedRows, QStringList());
+    QCOMPARE(m_table->import(Ship::header).unplacedRows, QStringList());
 }
 
 void tst_RowPlacer::rowsAreReportedWithTheirPathAsItStands()
 {
-    const auto report = m_table->import(header + "17,/A%2FX,,,,\n");
+    const auto report = m_table->import(Ship::header + "17,/A%2FX,,,,\n");
     QCOMPARE(
         report.unplacedRows, QStringList("line 2: '/A%2FX' (id 17): the scene has no such node"));
 }
 
 void tst_RowPlacer::rowsOfTheSameNodeAreReported()
 {
-    const QByteArray again = row(m_mast, "black,2");
-    const auto report = m_table->import(header + row(m_mast, "green,2") + again);
+    const QByteArray again = Ship::row(m_table->mast, "black,2");
+    const auto report = m_table->import(Ship::header + Ship::row(m_table->mast, "green,2") + again);
     QCOMPARE(report.unplacedRows.size(), 2);
     QVERIFY(report.unplacedRows[0].startsWith("line 2: '/Hull/Mast'"));
     QVERIFY(report.unplacedRows[0].endsWith("line 3 names the same node"));
     QVERIFY(report.unplacedRows[1].endsWith("line 2 names the same node"));
-    QVERIFY(kavoTestPairs::of(m_mast) == (Pairs { { "size", "2" }, { "color", "red" } }));
+    QVERIFY(kavoTestPairs::of(m_table->mast) == (Pairs { { "size", "2" }, { "color", "red" } }));
 }
 
 void tst_RowPlacer::otherRowsAreWrittenAllTheSame()
 {
-    const auto report = m_table->import(header + "1,/Hull/A,,,,\n" + row(m_mast, "green,2"));
+    const auto report
+        = m_table->import(Ship::header + "1,/Hull/A,,,,\n" + Ship::row(m_table->mast, "green,2"));
     QCOMPARE(report.unplacedRows.size(), 1);
     QCOMPARE(report.changedValues, 1);
 }

@@ -1,7 +1,6 @@
-#include "kavoTableFixture.h"
+#include "kavoShipFixture.h"
 #include "kavoTestLoad.h"
 
-#include <kavoNodeUtils.h>
 #include <kavoTestHost.h>
 
 #include <OpenSG/OSGChangeList.h>
@@ -13,6 +12,7 @@
 #include <memory>
 
 using kavoTestPairs::addNode;
+using Ship = kavoShipFixture;
 using Pairs = std::vector<kavoTestPairs::Pair>;
 
 class tst_TableImport : public QObject
@@ -20,7 +20,7 @@ class tst_TableImport : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
+    void init() { m_table = std::make_unique<kavoShipFixture>(); }
     void cleanup() { m_table.reset(); }
 
     void anUneditedTableChangesNothing_data();
@@ -45,28 +45,8 @@ private slots:
     void realScenesComeBackUnchanged();
 
 private:
-    static QByteArray row(const osg::NodePtr &node, const QByteArray &cells);
-
-    std::unique_ptr<kavoTableFixture> m_table;
-    osg::NodePtr m_mast, m_deck;
+    std::unique_ptr<kavoShipFixture> m_table;
 };
-
-static const QByteArray header("id,path,name,type,color,size\n");
-
-void tst_TableImport::init()
-{
-    m_table = std::make_unique<kavoTableFixture>();
-    m_mast = addNode(m_table->root, "Mast", { { "size", "2" }, { "color", "red" } });
-    m_deck = addNode(m_table->root, "Deck", { { "color", "blue" } });
-}
-
-// A line about that child of the root.
-QByteArray tst_TableImport::row(const osg::NodePtr &node, const QByteArray &cells)
-{
-    const QByteArray name = kavoNodeUtils::getName(node);
-    return QByteArray::number(node.getFieldContainerId()) + ",/Hull/" + name + ',' + name
-        + ",Group," + cells + '\n';
-}
 
 void tst_TableImport::anUneditedTableChangesNothing_data()
 {
@@ -101,8 +81,9 @@ void tst_TableImport::anUneditedTableChangesNothing()
 
 void tst_TableImport::anEditedCellIsWrittenBack()
 {
-    const auto report = m_table->import(header + row(m_mast, "green,2") + row(m_deck, "blue,"));
-    QVERIFY(kavoTestPairs::of(m_mast) == (Pairs { { "size", "2" }, { "color", "green" } }));
+    const auto report = m_table->import(
+        Ship::header + Ship::row(m_table->mast, "green,2") + Ship::row(m_table->deck, "blue,"));
+    QVERIFY(kavoTestPairs::of(m_table->mast) == (Pairs { { "size", "2" }, { "color", "green" } }));
     QCOMPARE(report.changedValues, 1);
     QCOMPARE(report.changedNodes, 1);
     QCOMPARE(report.unplacedRows, QStringList());
@@ -112,11 +93,11 @@ void tst_TableImport::anEditedCellIsWrittenBack()
 void tst_TableImport::theChangeIsAnnounced()
 {
     osg::Thread::getCurrentChangeList()->clearAll();
-    m_table->import(header + row(m_mast, "green,2"));
+    m_table->import(Ship::header + Ship::row(m_table->mast, "green,2"));
     osg::ChangeList *changes = osg::Thread::getCurrentChangeList();
     QCOMPARE(int(changes->sizeChanged()), 1);
-    QCOMPARE(
-        changes->beginChanged()->first, kavoTestPairs::attachment(m_mast).getFieldContainerId());
+    QCOMPARE(changes->beginChanged()->first,
+        kavoTestPairs::attachment(m_table->mast).getFieldContainerId());
     QCOMPARE(changes->beginChanged()->second, osg::ValuePairBase::ValuesFieldMask);
 }
 
@@ -131,48 +112,48 @@ void tst_TableImport::aRepeatedKeyIsWrittenByItsPlace()
 
 void tst_TableImport::aFilledCellAddsAPair()
 {
-    m_table->import(header + row(m_deck, "blue,3"));
-    QVERIFY(kavoTestPairs::of(m_deck) == (Pairs { { "color", "blue" }, { "size", "3" } }));
+    m_table->import(Ship::header + Ship::row(m_table->deck, "blue,3"));
+    QVERIFY(kavoTestPairs::of(m_table->deck) == (Pairs { { "color", "blue" }, { "size", "3" } }));
 }
 
 void tst_TableImport::aFilledCellTakesNoValueWithoutAKey()
 {
-    kavoTestPairs::attachment(m_deck)->getValues().push_back("surplus");
-    m_table->import(header + row(m_deck, "blue,3"));
+    kavoTestPairs::attachment(m_table->deck)->getValues().push_back("surplus");
+    m_table->import(Ship::header + Ship::row(m_table->deck, "blue,3"));
     const std::vector<std::string> values { "blue", "3", "surplus" };
-    QCOMPARE(kavoTestPairs::attachment(m_deck)->getValues().getValues(), values);
+    QCOMPARE(kavoTestPairs::attachment(m_table->deck)->getValues().getValues(), values);
 }
 
 void tst_TableImport::aFilledCellAddsTheAttachmentToo()
 {
     const QByteArray id = QByteArray::number(osg::NodePtr(m_table->root).getFieldContainerId());
-    m_table->import(header + id + ",/Hull,Hull,Group,,1\n");
+    m_table->import(Ship::header + id + ",/Hull,Hull,Group,,1\n");
     QVERIFY(kavoTestPairs::of(m_table->root) == (Pairs { { "size", "1" } }));
 }
 
 void tst_TableImport::anEmptiedCellEmptiesTheValue()
 {
-    QCOMPARE(m_table->import(header + row(m_mast, ",2")).changedValues, 1);
-    QVERIFY(kavoTestPairs::of(m_mast) == (Pairs { { "size", "2" }, { "color", "" } }));
+    QCOMPARE(m_table->import(Ship::header + Ship::row(m_table->mast, ",2")).changedValues, 1);
+    QVERIFY(kavoTestPairs::of(m_table->mast) == (Pairs { { "size", "2" }, { "color", "" } }));
 }
 
 void tst_TableImport::aMissingColumnLeavesItsValuesAlone()
 {
-    m_table->import("id,path,name,type,size\n" + row(m_mast, "9"));
-    QVERIFY(kavoTestPairs::of(m_mast) == (Pairs { { "size", "9" }, { "color", "red" } }));
+    m_table->import("id,path,name,type,size\n" + Ship::row(m_table->mast, "9"));
+    QVERIFY(kavoTestPairs::of(m_table->mast) == (Pairs { { "size", "9" }, { "color", "red" } }));
 }
 
 void tst_TableImport::columnsMayChangePlaces()
 {
-    m_table->import("id,path,name,type,size,color\n" + row(m_mast, "9,green"));
-    QVERIFY(kavoTestPairs::of(m_mast) == (Pairs { { "size", "9" }, { "color", "green" } }));
+    m_table->import("id,path,name,type,size,color\n" + Ship::row(m_table->mast, "9,green"));
+    QVERIFY(kavoTestPairs::of(m_table->mast) == (Pairs { { "size", "9" }, { "color", "green" } }));
 }
 
 void tst_TableImport::missingValuesCanBeFilled()
 {
-    kavoTestPairs::attachment(m_mast)->getValues().clear();
-    m_table->import("id,path,name,type,color\n" + row(m_mast, "green"));
-    QVERIFY(kavoTestPairs::of(m_mast) == (Pairs { { "size", "" }, { "color", "green" } }));
+    kavoTestPairs::attachment(m_table->mast)->getValues().clear();
+    m_table->import("id,path,name,type,color\n" + Ship::row(m_table->mast, "green"));
+    QVERIFY(kavoTestPairs::of(m_table->mast) == (Pairs { { "size", "" }, { "color", "green" } }));
 }
 
 void tst_TableImport::jsonLinesAreWrittenBack()
@@ -180,7 +161,8 @@ void tst_TableImport::jsonLinesAreWrittenBack()
     m_table->options.format = kavoTableOptions::JsonLines;
     const QByteArray text = m_table->exported().replace("\"red\"", "\"'=r\xC3\xA4\"");
     QCOMPARE(m_table->import(text).changedValues, 1);
-    QVERIFY(kavoTestPairs::of(m_mast) == (Pairs { { "size", "2" }, { "color", "'=r\xC3\xA4" } }));
+    QVERIFY(kavoTestPairs::of(m_table->mast)
+        == (Pairs { { "size", "2" }, { "color", "'=r\xC3\xA4" } }));
 }
 
 void tst_TableImport::jsonLinesSayWhatToChange()
@@ -189,7 +171,7 @@ void tst_TableImport::jsonLinesSayWhatToChange()
     const auto report = m_table->import(
         R"({"id":0,"path":"/Hull/Mast","values":{"color":"","size":["2","3"],"new":""}})");
     QCOMPARE(report.changedValues, 3);
-    QVERIFY(kavoTestPairs::of(m_mast)
+    QVERIFY(kavoTestPairs::of(m_table->mast)
         == (Pairs { { "size", "2" }, { "color", "" }, { "new", "" }, { "size", "3" } }));
 }
 
@@ -205,13 +187,14 @@ void tst_TableImport::cancelingComesBeforeTheFirstChange()
     for (int i = 0; i < 3000; ++i)
         addNode(m_table->root, nullptr, { { "color", "red" } });
     m_table->exported();
-    kavoTestPairs::attachment(m_mast)->getValues()[1] = "blue"; // the table would make it red
+    kavoTestPairs::attachment(m_table->mast)->getValues()[1]
+        = "blue"; // the table would make it red
     QFETCH(int, callsAllowed);
     int calls = 0;
     const auto monitor = [&](int) { return ++calls <= callsAllowed; };
     QVERIFY(!kavoTableImport::run(m_table->root, m_table->path(), m_table->options, monitor));
     QCOMPARE(calls, callsAllowed + 1);
-    QVERIFY(kavoTestPairs::of(m_mast) == (Pairs { { "size", "2" }, { "color", "blue" } }));
+    QVERIFY(kavoTestPairs::of(m_table->mast) == (Pairs { { "size", "2" }, { "color", "blue" } }));
 }
 
 // Every FBX file there is among the test models, except one that cannot be read.
