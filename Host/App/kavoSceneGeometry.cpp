@@ -9,11 +9,12 @@
 
 namespace {
 
-constexpr float nothing = std::numeric_limits<float>::infinity();
+constexpr float infinity = std::numeric_limits<float>::infinity();
 
-bool meetsBox(const QVector3D &origin, const QVector3D &direction, const kavoTriangleSoup &soup)
+bool intersectsBox(
+    const QVector3D &origin, const QVector3D &direction, const kavoTriangleSoup &soup)
 {
-    float enter = 0, leave = nothing;
+    float enter = 0, leave = infinity;
     for (int axis = 0; axis < 3; ++axis) {
         const float toMin = (soup.min[axis] - origin[axis]) / direction[axis];
         const float toMax = (soup.max[axis] - origin[axis]) / direction[axis];
@@ -24,7 +25,7 @@ bool meetsBox(const QVector3D &origin, const QVector3D &direction, const kavoTri
 }
 
 /// How far along the ray the triangle is met, infinity if it is not (Moeller and Trumbore).
-float meetTriangle(
+float intersectTriangle(
     const QVector3D &origin, const QVector3D &direction, const kavoTriangleSoup::Vertex *corner)
 {
     const QVector3D a = corner[1].position - corner[0].position;
@@ -36,17 +37,17 @@ float meetTriangle(
     const QVector3D q = QVector3D::crossProduct(s, a);
     const float v = QVector3D::dotProduct(direction, q) / det;
     const float distance = QVector3D::dotProduct(b, q) / det;
-    return det != 0 && u >= 0 && v >= 0 && u + v <= 1 && distance > 0 ? distance : nothing;
+    return det != 0 && u >= 0 && v >= 0 && u + v <= 1 && distance > 0 ? distance : infinity;
 }
 
 /// The same for all triangles of a geometry. Distances along the ray are the same in any space.
-float meet(const QVector3D &origin, const QVector3D &direction, const kavoTriangleSoup &soup)
+float intersect(const QVector3D &origin, const QVector3D &direction, const kavoTriangleSoup &soup)
 {
-    float nearest = nothing;
-    if (!meetsBox(origin, direction, soup))
+    float nearest = infinity;
+    if (!intersectsBox(origin, direction, soup))
         return nearest;
     for (std::size_t i = 0; i + 2 < soup.triangles.size(); i += 3)
-        nearest = std::min(nearest, meetTriangle(origin, direction, &soup.triangles[i]));
+        nearest = std::min(nearest, intersectTriangle(origin, direction, &soup.triangles[i]));
     return nearest;
 }
 
@@ -74,7 +75,7 @@ const kavoTriangleSoup &kavoSceneGeometry::soup(osg::UInt32 geometry)
 
 QPair<QVector3D, float> kavoSceneGeometry::bounds()
 {
-    QVector3D min(nothing, nothing, nothing), max = -min;
+    QVector3D min(infinity, infinity, infinity), max = -min;
     for (const kavoRenderItem &item : items()) {
         const kavoTriangleSoup &shape = soup(item.geometry);
         for (int corner = 0; corner < 8 && !shape.isEmpty(); ++corner) {
@@ -96,11 +97,11 @@ QPair<QVector3D, float> kavoSceneGeometry::bounds()
 osg::UInt32 kavoSceneGeometry::pick(const QVector3D &origin, const QVector3D &direction)
 {
     osg::UInt32 node = 0;
-    float nearest = nothing;
+    float nearest = infinity;
     for (const kavoRenderItem &item : items()) {
         const QMatrix4x4 toLocal = item.toWorld.inverted();
         const float distance
-            = meet(toLocal.map(origin), toLocal.mapVector(direction), soup(item.geometry));
+            = intersect(toLocal.map(origin), toLocal.mapVector(direction), soup(item.geometry));
         if (distance < nearest) {
             nearest = distance;
             node = item.node;
