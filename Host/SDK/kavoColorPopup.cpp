@@ -15,6 +15,7 @@
 #include <QtColorWidgets/color_line_edit.hpp>
 #include <QtColorWidgets/swatch.hpp>
 
+#include <algorithm>
 #include <tuple>
 
 namespace {

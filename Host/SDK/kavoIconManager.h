@@ -7,7 +7,7 @@
 #include <string>
 
 /// Icons by key: "ModuleNodeEditor", "Node", "Group", "Transform", "Geometry", "Material", "Light",
-/// "Camera", "Scene", "Log", "Open", "Cancel".
+/// "Camera", "Scene", "Log", "Open", "Cancel", "Eyedropper".
 class KAVO_SDK_EXPORT kavoIconManager
 {
 public:

@@ -32,6 +32,8 @@ public:
     /// Registers a function that is called with each new line, on the thread that writes it.
     /// \returns a number for removeObserver
     static int addObserver(Observer observer);
+    /// Lines to come do not reach it any more; on another thread it may still be running for one
+    /// that was written before.
     static void removeObserver(int number);
 
     /// "info", "warning" or "error".

@@ -67,7 +67,8 @@ inline bool changesIgnored()
     return detail::changesIgnored<osg::FieldContainerPtr>(0);
 }
 
-/// Sets or clears the ignore-change switch.
+/// Sets or clears the ignore-change switch: for hosts that edit many containers at once and refresh
+/// what depends on them afterwards, and for tests of code that asks changesIgnored().
 /// \returns false if there is no such switch, as in stock 1.8
 inline bool setChangesIgnored(bool ignored)
 {
