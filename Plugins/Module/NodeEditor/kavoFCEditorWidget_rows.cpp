@@ -1,7 +1,6 @@
 #include "kavoFCEditorWidget.h"
 
 #include "kavoCustomPropertyGLenum.h"
-#include "kavoRealSpinBox.h"
 
 #include <QHash>
 #include <QSet>
@@ -50,8 +49,6 @@ const QSet<QString> floatVectors { "SFVec2f", "SFPnt2f", "SFVec3f", "SFPnt3f", "
 // The numbers of boxes and quaternions.
 constexpr RowType componentType { RowKind::Real, -FLT_MAX, FLT_MAX };
 
-constexpr int maxDecimals = 13; // of the double manager
-
 // What a row is made of.
 struct RowSource
 {
@@ -68,15 +65,12 @@ std::istringstream numbersOf(const RowSource &source)
     return numbers;
 }
 
-// Lets a row hold every value of its type, where the manager's defaults clamp and round.
-void setRange(QtVariantProperty *row, const RowType &type, double value)
+// Lets a row hold every value of its type; the manager's own range is that of an int.
+void setRange(QtVariantProperty *row, const RowType &type)
 {
     row->setAttribute("minimum", type.minimum);
-    row->setAttribute("maximum", type.maximum);
-    if (type.kind == RowKind::Real) {
-        row->setAttribute("decimals", maxDecimals);
-        row->setAttribute("singleStep", kavoRealSpinBox::stepFor(value));
-    }
+    if (type.maximum != INT_MAX)
+        row->setAttribute("maximum", type.maximum);
 }
 
 // Only single fields have a row that takes one value of a kind.
@@ -111,7 +105,7 @@ QtProperty *makeNumberRow(
         return makeTextRow(manager, source);
     const auto kind = type.kind == RowKind::Real ? QVariant::Double : QVariant::Int;
     QtVariantProperty *row = manager.addProperty(kind, source.name);
-    setRange(row, type, value);
+    setRange(row, type);
     return finishRow(row, source);
 }
 
@@ -184,7 +178,7 @@ QtVariantProperty *kavoFCEditorWidget::createPropertyList(const QString &name,
         text >> number;
         const int type = std::isfinite(number) ? propertyType : int(QVariant::String);
         QtVariantProperty *row = m_variantManager->addProperty(type, subName);
-        setRange(row, componentType, number);
+        setRange(row, componentType);
         row->setValue(QVariant(number));
         group->addSubProperty(row);
     }

@@ -19,17 +19,18 @@ double withoutRoundingNoise(double value)
     return QString::number(value, 'g', std::numeric_limits<double>::digits10).toDouble();
 }
 
+// A tenth of the value's magnitude.
+double stepFor(double value)
+{
+    return value == 0 ? 0.1 : std::pow(10, std::floor(std::log10(std::abs(value))) - 1);
+}
+
 }
 
 kavoRealSpinBox::kavoRealSpinBox(QWidget *parent)
     : kavoRowSpinBox(parent)
 {
     setDecimals(allDecimals);
-}
-
-double kavoRealSpinBox::stepFor(double value)
-{
-    return value == 0 ? 0.1 : std::pow(10, std::floor(std::log10(std::abs(value))) - 1);
 }
 
 // Steps from what is typed. A run of steps keeps the size of its first one: down from 1 it goes in

@@ -16,9 +16,6 @@ class kavoRealSpinBox : public kavoRowSpinBox<QDoubleSpinBox>
 public:
     explicit kavoRealSpinBox(QWidget *parent = nullptr);
 
-    /// A tenth of the value's magnitude.
-    static double stepFor(double value);
-
     void stepBy(int steps) override;
     QString textFromValue(double value) const override;
     double valueFromText(const QString &text) const override;
