@@ -46,10 +46,9 @@ double timeOfSample(kavoFCEditorWidget &editor, const kavoNodePtr &node)
     return BenchClock::time([&] { select(editor, node, sample); }) / sample;
 }
 
-void report(const kavoFCEditorWidget &editor, double bytes, int variantRows)
+void report(const kavoFCEditorWidget &editor, double bytesOfOne, int variantRows)
 {
-    BenchTable::figure(
-        "10,000 selections of a textured node: memory kept of one", bytes / selections, "bytes");
+    BenchTable::figure("selections of a textured node: memory kept of one", bytesOfOne, "bytes");
     BenchTable::figure("10,000 selections: enumeration rows kept of one",
         rowsKept<QtGLenumPropertyManager>(editor), "rows");
     BenchTable::figure("10,000 selections: colour rows kept of one",
@@ -71,9 +70,9 @@ int main(int argc, char **argv)
     const int rowsBefore = rowsOf(variants);
     const double bytesBefore = heapBytes();
     select(editor, node, selections - 2 * sample);
-    const double bytes = heapBytes() - bytesBefore;
+    const double bytesOfOne = (heapBytes() - bytesBefore) / (selections - 2 * sample);
     const double last = timeOfSample(editor, node);
-    report(editor, bytes * selections / (selections - 2 * sample), rowsOf(variants) - rowsBefore);
+    report(editor, bytesOfOne, rowsOf(variants) - rowsBefore);
     BenchTable::figure("10,000 selections: one of the first 100", first, "ms");
     BenchTable::figure("10,000 selections: one of the last 100", last, "ms");
     BenchTable::figure("10,000 selections: destroy the editor",
