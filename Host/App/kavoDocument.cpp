@@ -2,12 +2,15 @@
 
 #include "kavoChangeMonitor.h"
 #include "kavoSceneSaver.h"
+#include "kavoTaskError.h"
 
+#include <kavoLog.h>
 #include <kavoScenegraph.h>
 
 #include <QDir>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <utility>
 
 kavoDocument::kavoDocument(kavoChangeMonitor &changes, QObject *parent)
@@ -20,10 +23,15 @@ kavoDocument::kavoDocument(kavoChangeMonitor &changes, QObject *parent)
     });
 }
 
-void kavoDocument::setFiles(const QStringList &files)
+void kavoDocument::setFiles(const QStringList &files, const QStringList &partlyRead)
 {
-    const bool isSaved = files.size() == 1 && kavoSceneSaver::canSave(files.first());
+    const bool isSaved
+        = files.size() == 1 && kavoSceneSaver::canSave(files.first()) && partlyRead.isEmpty();
     m_files = files;
+    m_partlyRead = partlyRead;
+    for (const QString &file : partlyRead)
+        kavoLog::warning(
+            "%s: not all of it was read, so it is not saved in place", qUtf8Printable(file));
     m_file = isSaved ? files.first() : QString();
     m_changes.drain(); // of what happened while it was built
     m_edits.reset();
@@ -44,7 +52,9 @@ QString kavoDocument::suggestedFile() const
     if (!m_file.isEmpty())
         return m_file;
     const QFileInfo first(m_files.value(0, tr("Scene")));
-    return first.dir().filePath(first.completeBaseName() + '.' + kavoSceneSaver::suffix());
+    const QString name
+        = m_partlyRead.isEmpty() ? QStringLiteral("%1.%2") : QStringLiteral("%1-copy.%2");
+    return first.dir().filePath(name.arg(first.completeBaseName(), kavoSceneSaver::suffix()));
 }
 
 void kavoDocument::discardEdits()
@@ -63,8 +73,21 @@ void kavoDocument::keepEdits()
 
 void kavoDocument::save(const QString &file)
 {
+    if (wasPartlyRead(file)) {
+        throw kavoTaskError(tr("Not all of '%1' could be read, as the log says, and saving there "
+                               "would destroy the rest. Save the scene in another file.")
+                                .arg(file));
+    }
     kavoSceneSaver::save(kavoScenegraph::getRoot(), file);
     setFiles({ file });
+}
+
+bool kavoDocument::wasPartlyRead(const QString &file) const
+{
+    const QString path = QFileInfo(file).canonicalFilePath();
+    return !path.isEmpty()
+        && std::any_of(m_partlyRead.begin(), m_partlyRead.end(),
+            [&](const QString &other) { return QFileInfo(other).canonicalFilePath() == path; });
 }
 
 void kavoDocument::setModified(bool isModified)

@@ -16,10 +16,12 @@ class kavoDocument : public QObject
 public:
     explicit kavoDocument(kavoChangeMonitor &changes, QObject *parent = nullptr);
 
-    /// Another scene is open, which came of these files.
-    void setFiles(const QStringList &files);
+    /// Another scene is open, which came of these files. Some of them may hold more than what could
+    /// be read, which saving the scene there would destroy.
+    void setFiles(const QStringList &files, const QStringList &partlyRead = {});
 
-    /// Where it is saved; empty as long as it is not: files of other formats are never written to.
+    /// Where it is saved; empty as long as it is not: files of other formats, and those that were
+    /// read in part, are never written to.
     QString file() const { return m_file; }
     /// What to call it: the names of its files.
     QString title() const;
@@ -33,7 +35,7 @@ public:
     /// It stays after all, and so do the edits, unless they have been saved meanwhile.
     void keepEdits();
 
-    /// \throws kavoTaskError; then everything is as before
+    /// \throws kavoTaskError, also for a file that was read in part; then everything is as before
     void save(const QString &file);
 
 signals:
@@ -41,11 +43,13 @@ signals:
     void changed();
 
 private:
+    bool wasPartlyRead(const QString &file) const;
     void setModified(bool isModified);
 
     kavoChangeMonitor &m_changes;
     kavoSceneEdits m_edits;
     QStringList m_files;
+    QStringList m_partlyRead;
     QString m_file;
     bool m_isModified = false;
     bool m_hasDiscardedEdits = false;

@@ -77,7 +77,7 @@ private:
     void showTitle();
     void closeScene();
     bool mayReplaceScene();
-    void showScene(const osg::NodePtr &root);
+    void showScene(const osg::NodePtr &root, const QStringList &partlyRead);
     void selectParent();
     void copyName();
     void rebuildViewMenu();

@@ -53,6 +53,7 @@ kavoSceneReader::Scene kavoSceneReader::read(const QString &file)
     if (root == osg::NullFC)
         throw kavoTaskError(reasonOfFailure(file));
     Scene scene;
+    scene.isWhole = !log.hasComplaints();
     scene.root = withoutNewRoot(root, file);
     scene.cameras = kavoSavedCameras::take(osg::NodePtr(scene.root));
     scene.root->updateVolume();

@@ -17,6 +17,7 @@ public:
     {
         kavoNodePtr root;
         kavoSavedCameras::List cameras;
+        bool isWhole = false; ///< all that is in the file was understood
     };
 
     static bool canRead(const QString &file);

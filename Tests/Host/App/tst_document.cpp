@@ -45,6 +45,8 @@ private slots:
     void onlySceneFilesAreSavedInPlace_data();
     void onlySceneFilesAreSavedInPlace();
     void theSuggestedFileIsBesideTheOpenedOne();
+    void aFileThatWasReadInPartIsLeftAlone();
+    void anotherNameOfItIsNoWayAround();
 
 private:
     void edit();
@@ -272,6 +274,28 @@ void tst_document::theSuggestedFileIsBesideTheOpenedOne()
 {
     m_document->setFiles({ "/models/truck.v2.gltf" });
     QCOMPARE(m_document->suggestedFile(), QStringLiteral("/models/truck.v2.osg"));
+}
+
+void tst_document::aFileThatWasReadInPartIsLeftAlone()
+{
+    const QString file = m_folder.filePath("part.osg");
+    QVERIFY(QFile(file).open(QIODevice::WriteOnly));
+    m_document->setFiles({ file }, { file });
+    QCOMPARE(m_document->file(), QString());
+    QCOMPARE(m_document->suggestedFile(), m_folder.filePath("part-copy.osg"));
+    QVERIFY_EXCEPTION_THROWN(m_document->save(file), kavoTaskError);
+    QCOMPARE(QFileInfo(file).size(), 0);
+    m_document->save(m_folder.filePath("copy.osg"));
+    QCOMPARE(m_document->file(), m_folder.filePath("copy.osg"));
+}
+
+void tst_document::anotherNameOfItIsNoWayAround()
+{
+    const QString file = m_folder.filePath("linked.osg");
+    QVERIFY(QFile(file).open(QIODevice::WriteOnly));
+    QVERIFY(QFile::link(file, m_folder.filePath("link.osg")));
+    m_document->setFiles({ file }, { file });
+    QVERIFY_EXCEPTION_THROWN(m_document->save(m_folder.filePath("link.osg")), kavoTaskError);
 }
 
 KAVO_TEST_MAIN(tst_document)

@@ -25,6 +25,7 @@ private slots:
     void aNodeCanBeSelectedByItsId();
     void aScreenshotIsWritten();
     void theSceneIsSavedAndOpensAgain();
+    void aSceneReadInPartIsSavedElsewhereOnly();
     void severalScenesOpenAsOne();
     void badPluginsAreReportedAndSkipped();
     void jobsNeedNoDisplay();
@@ -251,6 +252,21 @@ void tst_kavo::theSceneIsSavedAndOpensAgain()
     const QString scene = run({ box, "--print-window", "Scene" }).output.replace(id, "\n");
     QVERIFY(!scene.isEmpty());
     QCOMPARE(run({ file, "--print-window", "Scene" }).output.replace(id, "\n"), scene);
+}
+
+void tst_kavo::aSceneReadInPartIsSavedElsewhereOnly()
+{
+    const QString file = m_folder.filePath("part.osg");
+    const QByteArray text = "Node { attachments [ VendorNotes { text \"years of work\" } ] }";
+    QFile scene(file);
+    QVERIFY(scene.open(QIODevice::ReadWrite) && scene.write(text) > 0 && scene.flush());
+    const Result result = run({ file, "--save", file });
+    QCOMPARE(result.exitCode, 1);
+    QVERIFY2(result.errors.contains("Not all of"), qPrintable(result.errors));
+    QFile after(file);
+    QVERIFY(after.open(QIODevice::ReadOnly));
+    QCOMPARE(after.readAll(), text);
+    QCOMPARE(run({ file, "--save", m_folder.filePath("copy.osg") }).exitCode, 0);
 }
 
 void tst_kavo::severalScenesOpenAsOne()

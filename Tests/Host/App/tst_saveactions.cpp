@@ -32,6 +32,7 @@ private slots:
     void theTitleMarksUnsavedChanges();
     void lookingAtAModelIsNoChange();
     void ctrlSSavesAnOpenedSceneFile();
+    void ctrlSAsksForAnotherFileIfNotAllWasRead();
     void saveAsAsksForTheFileAndAddsTheSuffix();
     void anotherSceneWaitsUntilTheSaveDialogIsGone();
     void quittingWithoutChangesAsksNothing();
@@ -77,6 +78,8 @@ void tst_saveactions::init()
     m_window->open({ m_file });
     QVERIFY(opened.wait());
     m_window->show();
+    m_window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_window));
 }
 
 void tst_saveactions::edit()
@@ -162,6 +165,19 @@ void tst_saveactions::ctrlSSavesAnOpenedSceneFile()
     QVERIFY(saved().contains("name \"Boat\""));
 }
 
+void tst_saveactions::ctrlSAsksForAnotherFileIfNotAllWasRead()
+{
+    writeScene(m_file, "Ship Oar { } DEF Boat");
+    QSignalSpy opened(m_window, &kavoMainWindow::opened);
+    m_window->open({ m_file });
+    QVERIFY(opened.wait());
+    const QByteArray before = saved();
+    answerSaveDialog(m_folder->filePath("copy"));
+    QTest::keyClick(m_window, Qt::Key_S, Qt::ControlModifier);
+    QCOMPARE(m_window->document().file(), m_folder->filePath("copy.osg"));
+    QCOMPARE(saved(), before);
+}
+
 void tst_saveactions::saveAsAsksForTheFileAndAddsTheSuffix()
 {
     edit();
@@ -176,8 +192,6 @@ void tst_saveactions::anotherSceneWaitsUntilTheSaveDialogIsGone()
 {
     const QString tank = m_folder->filePath("tank.osg");
     writeScene(tank, "Tank");
-    m_window->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_window));
     QSignalSpy opened(m_window, &kavoMainWindow::opened);
     m_window->open({ tank });
     answerSaveDialog(m_file = m_folder->filePath("copy.osg"));

@@ -13,6 +13,7 @@
 #include <OSGTransformVariantList.h>
 #include <OSGValuePairBase.h>
 #include <OpenSG/OSGGroup.h>
+#include <OpenSG/OSGLog.h>
 #include <OpenSG/OSGRegisterCombinersChunk.h>
 #include <OpenSG/OSGSimpleAttachments.h>
 
@@ -50,6 +51,8 @@ private slots:
     void aSceneFileThatCannotBeReadIsNamed();
     void whatCannotBeReadIsInTheLog_data();
     void whatCannotBeReadIsInTheLog();
+    void aFileIsWholeIfAllWasUnderstood_data();
+    void aFileIsWholeIfAllWasUnderstood();
 
 private:
     QString path(const char *name) const { return m_folder->filePath(name); }
@@ -331,6 +334,30 @@ void tst_scenesaver::whatCannotBeReadIsInTheLog()
     kavoLog::removeObserver(observer);
     QFETCH(QString, line);
     QVERIFY2(logged.startsWith(line), qPrintable(logged));
+}
+
+void tst_scenesaver::aFileIsWholeIfAllWasUnderstood_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<bool>("isWhole");
+    QTest::newRow("all") << QByteArray("#OSG V1.0 \nNode { }") << true;
+    QTest::newRow("a header that lost its blank") << QByteArray("#OSG V1.0\nNode { }") << true;
+    QTest::newRow("an unknown attachment")
+        << QByteArray("Node { attachments [ VendorNotes { text \"years of work\" } ] }") << false;
+    QTest::newRow("cut off") << QByteArray("Node { children [ Node { }") << false;
+    QTest::newRow("an unknown name")
+        << QByteArray("Node { core MaterialGroup { material USE Chrome } }") << false;
+}
+
+void tst_scenesaver::aFileIsWholeIfAllWasUnderstood()
+{
+    QFETCH(QByteArray, text);
+    write(path("a.osg"), text);
+    osg::osgLog().setLogLevel(osg::LOG_FATAL);
+    const bool isWhole = kavoSceneReader::read(path("a.osg")).isWhole;
+    QCOMPARE(osg::osgLog().getLogLevel(), osg::LOG_FATAL);
+    osg::osgLog().setLogLevel(osg::LOG_WARNING);
+    QTEST(isWhole, "isWhole");
 }
 
 KAVO_TEST_MAIN(tst_scenesaver)
