@@ -9,8 +9,8 @@
 /// Visits a node and all below it, parents before children, and knows the path of each.
 ///
 /// A path is made of the names from the scene's root down, each after a slash: "/Car/Wheel[2]". The
-/// second and further siblings of one name have their number among these; the characters / % [ ] of a
-/// name, and bytes that are no UTF-8, are written as % and two hexadecimal digits. So paths are
+/// second and further siblings of one name have their number among these; the characters / % [ ] of
+/// a name, and bytes that are no UTF-8, are written as % and two hexadecimal digits. So paths are
 /// UTF-8, and no two nodes of a scene have the same.
 class kavoPathWalk
 {
