@@ -2,10 +2,10 @@
 
 namespace {
 
-QTreeWidgetItem *makeItem(const BenchRow &row)
+QTreeWidgetItem *makeItem(const kavoRecordedRow &row)
 {
     auto *item = new QTreeWidgetItem({ row.title, row.text });
-    for (const BenchRow &child : row.children)
+    for (const kavoRecordedRow &child : row.children)
         item->addChild(makeItem(child));
     return item;
 }
@@ -18,7 +18,7 @@ BenchFloor::BenchFloor()
     setUniformRowHeights(true);
 }
 
-void BenchFloor::build(const BenchRow &top)
+void BenchFloor::build(const kavoRecordedRow &top)
 {
     QTreeWidgetItem *item = makeItem(top);
     addTopLevelItem(item);

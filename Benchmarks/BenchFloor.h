@@ -1,6 +1,6 @@
 #pragma once
 
-#include "BenchRow.h"
+#include "kavoRecordedRow.h"
 
 #include <QTreeWidget>
 
@@ -11,5 +11,5 @@ class BenchFloor : public QTreeWidget
 public:
     BenchFloor();
 
-    void build(const BenchRow &top);
+    void build(const kavoRecordedRow &top);
 };

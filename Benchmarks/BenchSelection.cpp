@@ -4,23 +4,6 @@
 #include "BenchHost.h"
 #include "BenchPaintWatch.h"
 
-namespace {
-
-template <class Build, class Empty>
-BenchSelection::Times medians(int rounds, Build build, Empty empty)
-{
-    std::vector<double> builds, empties;
-    for (int round = 0; round < rounds; ++round) {
-        builds.push_back(BenchClock::time(build));
-        BenchHost::settle();
-        empties.push_back(BenchClock::time(empty));
-        BenchHost::settle();
-    }
-    return { BenchClock::median(builds), BenchClock::median(empties) };
-}
-
-}
-
 BenchSelection::BenchSelection()
     : m_editor(nullptr, "editor")
 {
@@ -35,33 +18,54 @@ void BenchSelection::setUniformRowHeights(bool uniform)
     BenchHost::treeOf(m_baseline).setUniformRowHeights(uniform);
 }
 
-BenchSelection::Times BenchSelection::editor(const osg::FieldContainerPtr &container, int rounds)
+kavoRecordedRow BenchSelection::rowsOf(const osg::FieldContainerPtr &container)
 {
     m_editor.setFC("node", container);
-    m_rows = BenchRow::record(m_editor);
     BenchHost::settle();
-    m_editor.setFC("node", osg::NullFC);
-    return medians(
-        rounds, [&] { m_editor.setFC("node", container); },
-        [&] { m_editor.setFC("", osg::NullFC); });
+    kavoRecordedRow rows = kavoRecordedRow::record(m_editor);
+    m_editor.setFC("", osg::NullFC);
+    BenchHost::settle();
+    return rows;
 }
 
-BenchSelection::Times BenchSelection::baseline(int rounds)
+BenchSelection::Way BenchSelection::editor(const osg::FieldContainerPtr &container)
 {
-    return medians(
-        rounds, [&] { m_baseline.build(m_rows); }, [&] { m_baseline.empty(); });
+    return { [this, container] { m_editor.setFC("node", container); },
+        [this] { m_editor.setFC("", osg::NullFC); } };
 }
 
-BenchSelection::Times BenchSelection::baselineWithRemedies(int rounds)
+BenchSelection::Way BenchSelection::baseline(const kavoRecordedRow &rows)
 {
-    return medians(
-        rounds, [&] { m_baseline.buildClosed(m_rows); }, [&] { m_baseline.emptyRowsFirst(); });
+    return { [this, &rows] { m_baseline.build(rows); }, [this] { m_baseline.empty(); } };
 }
 
-BenchSelection::Times BenchSelection::floor(int rounds)
+BenchSelection::Way BenchSelection::baselineWithRemedies(const kavoRecordedRow &rows)
 {
-    return medians(
-        rounds, [&] { m_floor.build(m_rows); }, [&] { m_floor.clear(); });
+    return { [this, &rows] { m_baseline.buildClosed(rows); },
+        [this] { m_baseline.emptyRowsFirst(); } };
+}
+
+BenchSelection::Way BenchSelection::floor(const kavoRecordedRow &rows)
+{
+    return { [this, &rows] { m_floor.build(rows); }, [this] { m_floor.clear(); } };
+}
+
+std::vector<BenchSelection::Times> BenchSelection::alternate(
+    int rounds, const std::vector<Way> &ways)
+{
+    std::vector<std::vector<double>> builds(ways.size()), empties(ways.size());
+    for (int round = 0; round < rounds; ++round) {
+        for (std::size_t i = 0; i < ways.size(); ++i) {
+            builds[i].push_back(BenchClock::time(ways[i].build));
+            BenchHost::settle();
+            empties[i].push_back(BenchClock::time(ways[i].empty));
+            BenchHost::settle();
+        }
+    }
+    std::vector<Times> times;
+    for (std::size_t i = 0; i < ways.size(); ++i)
+        times.push_back({ BenchClock::median(builds[i]), BenchClock::median(empties[i]) });
+    return times;
 }
 
 double BenchSelection::untilPainted(const osg::FieldContainerPtr &container, int rounds)

@@ -1,9 +1,12 @@
 #pragma once
 
-#include "BenchBaseline.h"
 #include "BenchFloor.h"
 
 #include <kavoFCEditorWidget.h>
+#include <kavoStraightforwardBrowser.h>
+
+#include <functional>
+#include <vector>
 
 /// Times of the same rows in the editor, in the straightforward use of the component and in a bare
 /// tree widget, each in a window on the screen. The event loop runs between building and emptying,
@@ -20,26 +23,37 @@ public:
         double sum() const { return build + empty; }
     };
 
+    /// One way of showing some rows.
+    struct Way
+    {
+        std::function<void()> build;
+        std::function<void()> empty;
+    };
+
     BenchSelection();
 
     /// Whether the views of editor and baseline take all rows for equally high, as the sources of
     /// the component that the build uses do. Others measure each row.
     void setUniformRowHeights(bool uniform);
 
-    /// Medians of as many rounds. The rows of the last round are kept for the others.
-    Times editor(const osg::FieldContainerPtr &container, int rounds);
-    Times baseline(int rounds);
-    Times baselineWithRemedies(int rounds);
-    Times floor(int rounds);
+    /// The rows that the editor shows of a container.
+    kavoRecordedRow rowsOf(const osg::FieldContainerPtr &container);
+
+    Way editor(const osg::FieldContainerPtr &container);
+    // The rows must outlive what is returned.
+    Way baseline(const kavoRecordedRow &rows);
+    Way baselineWithRemedies(const kavoRecordedRow &rows);
+    Way floor(const kavoRecordedRow &rows);
+
+    /// Medians of as many rounds. Every round takes all ways in turn, so that what else the machine
+    /// does, and the state of the heap, meet all of them alike.
+    static std::vector<Times> alternate(int rounds, const std::vector<Way> &ways);
+
     /// From a selection in place of the same until the tree is painted; the median.
     double untilPainted(const osg::FieldContainerPtr &container, int rounds);
 
-    /// The rows that the editor showed last.
-    int rowCount() const { return m_rows.count(); }
-
 private:
     kavoFCEditorWidget m_editor;
-    BenchBaseline m_baseline;
+    kavoStraightforwardBrowser m_baseline;
     BenchFloor m_floor;
-    BenchRow m_rows;
 };

@@ -1,5 +1,5 @@
-// How the cost of a row grows with their number, up to 20,000. In a process of its own, so that the
-// heap is as good for many rows as for few.
+// How the cost of a row in nested groups grows with their number, up to 20,000, and what other ways
+// of showing the same rows cost. Each of the variants has three rows.
 
 #include "BenchHost.h"
 #include "BenchScenes.h"
@@ -10,78 +10,65 @@
 
 namespace {
 
-using Times = BenchSelection::Times;
+constexpr int listLength = 100;
 
-// Each of the variants has three rows.
-Times nestedRows(BenchSelection &selection, int rows, int listLength, int rounds)
+void growth(BenchSelection &selection)
 {
-    const kavoNodePtr node = BenchScenes::makeNodeWithVariants(rows / 3, listLength);
-    return selection.editor(osg::NodePtr(node), rounds);
+    const kavoNodePtr few = BenchScenes::makeNodeWithVariants(666, listLength);
+    const kavoNodePtr many = BenchScenes::makeNodeWithVariants(6666, listLength);
+    const int fewRows = selection.rowsOf(osg::NodePtr(few)).count();
+    const int manyRows = selection.rowsOf(osg::NodePtr(many)).count();
+    const auto times = BenchSelection::alternate(
+        11, { selection.editor(osg::NodePtr(few)), selection.editor(osg::NodePtr(many)) });
+    BenchTable::atMost("nested groups: build a row of 20,000, as against one of 2,000",
+        1000 * times[1].build / manyRows, 1000 * times[0].build / fewRows, 1.3, "us");
+    BenchTable::figure(
+        "nested groups: empty a row of 2,000", 1000 * times[0].empty / fewRows, "us");
+    BenchTable::figure(
+        "nested groups: empty a row of 20,000", 1000 * times[1].empty / manyRows, "us");
 }
 
-void againstFloor(BenchSelection &selection, const Times &ours, int rounds)
+void againstFloor(BenchSelection &selection, int variants)
 {
-    const int rows = selection.rowCount();
-    const Times floor = selection.floor(rounds);
+    const kavoNodePtr node = BenchScenes::makeNodeWithVariants(variants, listLength);
+    const kavoRecordedRow rows = selection.rowsOf(osg::NodePtr(node));
+    const auto times = BenchSelection::alternate(
+        11, { selection.editor(osg::NodePtr(node)), selection.floor(rows) });
+    const int count = rows.count();
     BenchTable::atMost(
-        BenchTable::named("nested groups, %d rows: a row, as against a bare tree widget", rows),
-        1000 * ours.sum() / rows, 1000 * floor.sum() / rows, 40, "us");
+        BenchTable::named("nested groups, %d rows: a row, as against a bare tree widget", count),
+        1000 * times[0].sum() / count, 1000 * times[1].sum() / count, 40, "us");
 }
 
-void againstBaseline(BenchSelection &selection, const Times &ours)
+// The baseline deletes its rows last ones first, then clears the browser and the manager.
+void againstRemedies(BenchSelection &selection)
 {
-    const int rows = selection.rowCount();
-    const Times baseline = selection.baseline(1);
-    BenchTable::faster(BenchTable::named("nested groups, %d rows: build and empty", rows),
-        ours.sum(), baseline.sum(), 30);
-    BenchTable::faster(
-        BenchTable::named("nested groups, %d rows: empty", rows), ours.empty, baseline.empty, 60);
-}
-
-void againstRemedies(BenchSelection &selection, const Times &ours)
-{
-    const int rows = selection.rowCount();
-    const Times simple = selection.baselineWithRemedies(3);
+    const kavoNodePtr node = BenchScenes::makeNodeWithVariants(3333, listLength);
+    const kavoRecordedRow rows = selection.rowsOf(osg::NodePtr(node));
+    const auto times = BenchSelection::alternate(
+        5, { selection.editor(osg::NodePtr(node)), selection.baselineWithRemedies(rows) });
+    const int count = rows.count();
     BenchTable::atMost(
         BenchTable::named(
-            "nested groups, %d rows: build, to a baseline with its top row closed", rows),
-        ours.build, simple.build, 1, "ms");
+            "nested groups, %d rows: build, to a baseline with its top row closed", count),
+        times[0].build, times[1].build, 1, "ms");
     BenchTable::atMost(
         BenchTable::named(
-            "nested groups, %d rows: empty, to a baseline that deletes its rows", rows),
-        ours.empty, simple.empty, 1, "ms");
+            "nested groups, %d rows: empty, to a baseline that deletes its rows first", count),
+        times[0].empty, times[1].empty, 1, "ms");
 }
 
-void growth(const char *name, int rows, int manyRows, double few, double many)
+void againstBaseline(BenchSelection &selection)
 {
-    BenchTable::atMost(name, 1000 * many / manyRows, 1000 * few / rows, 1.3, "us");
-}
-
-void nestedGroups(BenchSelection &selection)
-{
-    constexpr int listLength = 100;
-    const Times few = nestedRows(selection, 2000, listLength, 15);
-    const int fewRows = selection.rowCount();
-    againstFloor(selection, few, 15);
-    const Times many = nestedRows(selection, 20000, listLength, 7);
-    const int manyRows = selection.rowCount();
-    againstFloor(selection, many, 7);
-    growth("nested groups: build a row of 20,000, as against one of 2,000", fewRows, manyRows,
-        few.build, many.build);
-    BenchTable::figure("nested groups: empty a row of 2,000", 1000 * few.empty / fewRows, "us");
-    BenchTable::figure("nested groups: empty a row of 20,000", 1000 * many.empty / manyRows, "us");
-    againstRemedies(selection, many);
-    againstBaseline(selection, many);
-}
-
-// All groups of one list are siblings, whom the component counts for each one that it adds.
-void oneLongList(BenchSelection &selection)
-{
-    const Times few = nestedRows(selection, 2000, 2000, 15);
-    const int fewRows = selection.rowCount();
-    const Times many = nestedRows(selection, 20000, 20000, 5);
-    growth("one long list: build a row of 20,000, as against one of 2,000", fewRows,
-        selection.rowCount(), few.build, many.build);
+    const kavoNodePtr node = BenchScenes::makeNodeWithVariants(6666, listLength);
+    const kavoRecordedRow rows = selection.rowsOf(osg::NodePtr(node));
+    const auto times = BenchSelection::alternate(
+        1, { selection.editor(osg::NodePtr(node)), selection.baseline(rows) });
+    const int count = rows.count();
+    BenchTable::faster(BenchTable::named("nested groups, %d rows: build and empty", count),
+        times[0].sum(), times[1].sum(), 30);
+    BenchTable::faster(BenchTable::named("nested groups, %d rows: empty", count), times[0].empty,
+        times[1].empty, 60);
 }
 
 }
@@ -90,7 +77,10 @@ int main(int argc, char **argv)
 {
     BenchHost::start(argc, argv);
     BenchSelection selection;
-    nestedGroups(selection);
-    oneLongList(selection);
+    growth(selection);
+    againstFloor(selection, 666);
+    againstFloor(selection, 6666);
+    againstRemedies(selection);
+    againstBaseline(selection);
     return 0;
 }

@@ -4,36 +4,48 @@
 #include "BenchScenes.h"
 #include "BenchSelection.h"
 #include "BenchTable.h"
+#include "BenchTitles.h"
 
 #include <OpenSG/OSGNode.h>
 
 namespace {
 
-using Times = BenchSelection::Times;
-
 void typicalSelection(BenchSelection &selection)
 {
     const kavoNodePtr node = BenchScenes::makeTexturedNode();
-    const Times ours = selection.editor(osg::NodePtr(node), 31);
-    const Times baseline = selection.baseline(31);
-    const int rows = selection.rowCount();
-    BenchTable::faster(BenchTable::named("typical selection, %d rows: build and empty", rows),
-        ours.sum(), baseline.sum(), 1.5);
+    const kavoRecordedRow rows = selection.rowsOf(osg::NodePtr(node));
+    const auto times = BenchSelection::alternate(
+        101, { selection.editor(osg::NodePtr(node)), selection.baseline(rows) });
+    const int count = rows.count();
+    BenchTable::faster(BenchTable::named("typical selection, %d rows: build and empty", count),
+        times[0].sum(), times[1].sum(), 1.5);
     BenchTable::figure(
-        BenchTable::named("typical selection, %d rows: build", rows), ours.build, "ms");
+        BenchTable::named("typical selection, %d rows: build", count), times[0].build, "ms");
     BenchTable::figure(
-        BenchTable::named("typical selection, %d rows: empty", rows), ours.empty, "ms");
+        BenchTable::named("typical selection, %d rows: empty", count), times[0].empty, "ms");
     BenchTable::below(
-        BenchTable::named("typical selection, %d rows: empty, build, first paint", rows),
+        BenchTable::named("typical selection, %d rows: empty, build, first paint", count),
         selection.untilPainted(osg::NodePtr(node), 31), 8, "ms");
 }
 
 void manyFields(BenchSelection &selection, const char *name)
 {
-    const Times ours = selection.editor(BenchScenes::makeManyFields(), 11);
-    const Times baseline = selection.baseline(3);
-    BenchTable::faster(
-        BenchTable::named(name, selection.rowCount()), ours.sum(), baseline.sum(), 20);
+    const osg::AttachmentPtr container = BenchScenes::makeManyFields();
+    const kavoRecordedRow rows = selection.rowsOf(container);
+    const auto times
+        = BenchSelection::alternate(11, { selection.editor(container), selection.baseline(rows) });
+    BenchTable::faster(BenchTable::named(name, rows.count()), times[0].sum(), times[1].sum(), 20);
+}
+
+// What no editor made with the component stays below.
+void titlesAlone(int rows)
+{
+    BenchTitles titles;
+    BenchHost::show(titles);
+    const auto times = BenchSelection::alternate(
+        31, { { [&] { titles.build(rows); }, [&] { titles.empty(); } } });
+    BenchTable::figure(BenchTable::named("%d rows with a title alone: build and empty", rows),
+        times[0].sum(), "ms");
 }
 
 }
@@ -44,7 +56,8 @@ int main(int argc, char **argv)
     BenchSelection selection;
     typicalSelection(selection);
     manyFields(selection, "container with 400 fields, %d rows: build and empty");
+    titlesAlone(403);
     selection.setUniformRowHeights(false);
-    manyFields(selection, "the same in a view that measures each row, %d rows");
+    manyFields(selection, "container with 400 fields, %d rows, to a view that measures each row");
     return 0;
 }

@@ -4,7 +4,9 @@
 #include "kavoVariantEditorFactory.h"
 #include "kavoVariantPropertyManager.h"
 
+#include <QScopeGuard>
 #include <QScopedValueRollback>
+#include <QSignalBlocker>
 #include <QTreeWidget>
 
 kavoFCEditorWidget::kavoFCEditorWidget(QWidget *parent, const char *)
@@ -48,25 +50,33 @@ kavoFCEditorWidget::~kavoFCEditorWidget()
     delete m_colorManager;
 }
 
+// The view hears nothing of the single rows and lays them all out at the end: it would lay out the
+// open top row anew for each row in it, and look for the place of each text that is set.
 void kavoFCEditorWidget::setFC(const QString &name, osg::FieldContainerPtr fc)
 {
     deleteAllRows();
-    clear();
     m_variantManager->clear();
 
+    auto &view = *findChild<QTreeWidget *>();
+    const auto layOut = qScopeGuard([&view] { view.doItemsLayout(); });
+    const QSignalBlocker silent(view.model());
     const QScopedValueRollback<bool> building(m_building, true);
     setFC(nullptr, fc, name, false);
 }
 
 // What was typed and not finished arrives when its editor closes: nothing is bound any more then.
-// For each row that goes, the view's model looks at all rows that the view remembers as open or as
-// spanning both columns: it forgets them first.
+// The view forgets all rows at once. It would look at those that are open or span both columns for
+// each one that goes.
 void kavoFCEditorWidget::deleteAllRows()
 {
     m_bindings.clear();
     setCurrentItem(nullptr);
-    findChild<QTreeWidget *>()->reset();
-    deleteRows(properties());
+    auto &view = *findChild<QTreeWidget *>();
+    view.reset();
+    const QSignalBlocker silent(view.model());
+    const QList<QtProperty *> rows = properties();
+    clear();
+    deleteRows(rows);
 }
 
 // The manager's own clear() copies the set of all its rows for every row that it deletes, which

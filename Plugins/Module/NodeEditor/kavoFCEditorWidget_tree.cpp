@@ -71,7 +71,7 @@ void kavoFCEditorWidget::setFC(
             addField({ group, fc, description->getFieldMask(), field, description->getCName(),
                 field->getType().getCName() });
     }
-    finishGroup(group, expand || !parent);
+    finishGroup(group, expand);
 }
 
 void kavoFCEditorWidget::setFCnr(
@@ -83,7 +83,7 @@ void kavoFCEditorWidget::setFCnr(
     const osg::NodePtr node = osg::NodePtr::dcast(fc);
     if (kavoNodeUtils::hasName(node))
         title += QStringLiteral(" name:") + kavoNodeUtils::getName(node);
-    finishGroup(addGroup(parent, title), expand || !parent);
+    finishGroup(addGroup(parent, title), expand);
 }
 
 QtBrowserItem *kavoFCEditorWidget::collapseProperty(QtProperty *property)
@@ -94,17 +94,16 @@ QtBrowserItem *kavoFCEditorWidget::collapseProperty(QtProperty *property)
     return item;
 }
 
-// Every group is closed while it is filled, the top one too: the view lays out an open one anew for
-// each row that it gains.
 QtProperty *kavoFCEditorWidget::addGroup(QtProperty *parent, const QString &title)
 {
     QtProperty *group
         = m_variantManager->addProperty(QtVariantPropertyManager::groupTypeId(), title);
-    if (parent)
+    if (parent) {
         parent->addSubProperty(group);
-    else
+        collapseProperty(group);
+    } else {
         addProperty(group);
-    collapseProperty(group);
+    }
     return group;
 }
 

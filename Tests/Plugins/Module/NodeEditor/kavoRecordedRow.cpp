@@ -1,17 +1,17 @@
-#include "BenchRow.h"
+#include "kavoRecordedRow.h"
 
 #include <kavoCustomPropertyGLenum.h>
 
 namespace {
 
-void readValue(BenchRow &row, const QtProperty &property)
+void readValue(kavoRecordedRow &row, const QtProperty &property)
 {
     QtAbstractPropertyManager *manager = property.propertyManager();
     if (const auto *enums = qobject_cast<QtGLenumPropertyManager *>(manager)) {
-        row.manager = BenchRow::Enum;
+        row.manager = kavoRecordedRow::Enum;
         row.number = enums->value(&property);
     } else if (const auto *colors = qobject_cast<QtKavoColorPropertyManager *>(manager)) {
-        row.manager = BenchRow::Color;
+        row.manager = kavoRecordedRow::Color;
         row.color = colors->value(&property);
     } else {
         row.type = qobject_cast<QtVariantPropertyManager *>(manager)->propertyType(&property);
@@ -19,9 +19,9 @@ void readValue(BenchRow &row, const QtProperty &property)
     }
 }
 
-BenchRow recordRow(const kavoFCEditorWidget &editor, QtProperty &property)
+kavoRecordedRow recordRow(const kavoFCEditorWidget &editor, QtProperty &property)
 {
-    BenchRow row;
+    kavoRecordedRow row;
     readValue(row, property);
     row.title = property.propertyName();
     row.toolTip = property.toolTip();
@@ -33,21 +33,21 @@ BenchRow recordRow(const kavoFCEditorWidget &editor, QtProperty &property)
 
 }
 
-BenchRow BenchRow::record(const kavoFCEditorWidget &editor)
+kavoRecordedRow kavoRecordedRow::record(const kavoFCEditorWidget &editor)
 {
     return recordRow(editor, *editor.properties().value(0));
 }
 
-bool BenchRow::isGroup() const
+bool kavoRecordedRow::isGroup() const
 {
     return toolTip.isEmpty() && manager == Variant
         && type == QtVariantPropertyManager::groupTypeId();
 }
 
-int BenchRow::count() const
+int kavoRecordedRow::count() const
 {
     int count = 1;
-    for (const BenchRow &child : children)
+    for (const kavoRecordedRow &child : children)
         count += child.count();
     return count;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "BenchRow.h"
+#include "kavoRecordedRow.h"
 
 #include <kavoCustomPropertyGLenum.h>
 
@@ -9,28 +9,31 @@
 
 /// The straightforward use of the property browser: every group enters the tree empty and is
 /// filled row by row below its open top row; to empty the tree the browser is cleared, then the
-/// manager. It is given the texts of the rows, so that it has less to do than the editor.
-class BenchBaseline : public QtTreePropertyBrowser
+/// manager. The tests compare the editor's tree with this one, the benchmarks its speed.
+///
+/// It is given the texts of the rows, so that it has less to do than the editor. Its managers are
+/// the component's own: a real number is shown with two decimals and has the range of an int.
+class kavoStraightforwardBrowser : public QtTreePropertyBrowser
 {
     Q_OBJECT
 
 public:
-    BenchBaseline();
+    kavoStraightforwardBrowser();
 
-    void build(const BenchRow &top);
+    void build(const kavoRecordedRow &top);
     void empty();
 
     /// The same with two simple remedies: the top row is closed while it is filled, and the rows
-    /// are deleted, in the order in which they stand, before browser and manager are cleared.
-    void buildClosed(const BenchRow &top);
+    /// are deleted, last ones first, before browser and manager are cleared.
+    void buildClosed(const kavoRecordedRow &top);
     void emptyRowsFirst();
 
 private:
-    void add(const BenchRow &row, QtProperty *parent);
-    void addGroup(const BenchRow &row, QtProperty *parent);
+    void add(const kavoRecordedRow &row, QtProperty *parent);
+    void addGroup(const kavoRecordedRow &row, QtProperty *parent);
     void deleteRows(const QList<QtProperty *> &rows);
-    QtProperty *makeValue(const BenchRow &row);
-    QtProperty *makeVariant(const BenchRow &row);
+    QtProperty *makeValue(const kavoRecordedRow &row);
+    QtProperty *makeVariant(const kavoRecordedRow &row);
     QtBrowserItem *collapse(QtProperty *property);
 
     bool m_closesTop = false;

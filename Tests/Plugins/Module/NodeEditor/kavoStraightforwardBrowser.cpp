@@ -1,6 +1,6 @@
-#include "BenchBaseline.h"
+#include "kavoStraightforwardBrowser.h"
 
-BenchBaseline::BenchBaseline()
+kavoStraightforwardBrowser::kavoStraightforwardBrowser()
 {
     setFactoryForManager(&m_variants, &m_variantEditors);
     setFactoryForManager(&m_enums, &m_enumEditors);
@@ -9,40 +9,40 @@ BenchBaseline::BenchBaseline()
     setRootIsDecorated(true);
 }
 
-void BenchBaseline::build(const BenchRow &top)
+void kavoStraightforwardBrowser::build(const kavoRecordedRow &top)
 {
     addGroup(top, nullptr);
 }
 
-void BenchBaseline::empty()
+void kavoStraightforwardBrowser::empty()
 {
     clear();
     m_variants.clear();
 }
 
-void BenchBaseline::buildClosed(const BenchRow &top)
+void kavoStraightforwardBrowser::buildClosed(const kavoRecordedRow &top)
 {
     m_closesTop = true;
     build(top);
     m_closesTop = false;
 }
 
-void BenchBaseline::emptyRowsFirst()
+void kavoStraightforwardBrowser::emptyRowsFirst()
 {
     deleteRows(properties());
     empty();
 }
 
-void BenchBaseline::deleteRows(const QList<QtProperty *> &rows)
+void kavoStraightforwardBrowser::deleteRows(const QList<QtProperty *> &rows)
 {
-    for (QtProperty *row : rows) {
-        deleteRows(row->subProperties());
-        if (row->propertyManager() == &m_variants)
-            delete row;
+    for (auto row = rows.rbegin(); row != rows.rend(); ++row) {
+        deleteRows((*row)->subProperties());
+        if ((*row)->propertyManager() == &m_variants)
+            delete *row;
     }
 }
 
-void BenchBaseline::add(const BenchRow &row, QtProperty *parent)
+void kavoStraightforwardBrowser::add(const kavoRecordedRow &row, QtProperty *parent)
 {
     if (row.isGroup()) {
         addGroup(row, parent);
@@ -53,7 +53,7 @@ void BenchBaseline::add(const BenchRow &row, QtProperty *parent)
     collapse(property);
 }
 
-void BenchBaseline::addGroup(const BenchRow &row, QtProperty *parent)
+void kavoStraightforwardBrowser::addGroup(const kavoRecordedRow &row, QtProperty *parent)
 {
     QtProperty *group = m_variants.addProperty(QtVariantPropertyManager::groupTypeId(), row.title);
     if (parent)
@@ -61,24 +61,24 @@ void BenchBaseline::addGroup(const BenchRow &row, QtProperty *parent)
     else
         addProperty(group);
     QtBrowserItem *item = parent || m_closesTop ? collapse(group) : nullptr;
-    for (const BenchRow &child : row.children)
+    for (const kavoRecordedRow &child : row.children)
         add(child, group);
     if (item && row.open)
         setExpanded(item, true);
 }
 
-QtProperty *BenchBaseline::makeValue(const BenchRow &row)
+QtProperty *kavoStraightforwardBrowser::makeValue(const kavoRecordedRow &row)
 {
     QtProperty *property = nullptr;
     switch (row.manager) {
-    case BenchRow::Variant:
+    case kavoRecordedRow::Variant:
         property = makeVariant(row);
         break;
-    case BenchRow::Enum:
+    case kavoRecordedRow::Enum:
         property = m_enums.addProperty(row.title);
         m_enums.setValue(property, row.number);
         break;
-    case BenchRow::Color:
+    case kavoRecordedRow::Color:
         property = m_colors.addProperty(row.title);
         m_colors.setValue(property, row.color);
         break;
@@ -87,16 +87,16 @@ QtProperty *BenchBaseline::makeValue(const BenchRow &row)
     return property;
 }
 
-QtProperty *BenchBaseline::makeVariant(const BenchRow &row)
+QtProperty *kavoStraightforwardBrowser::makeVariant(const kavoRecordedRow &row)
 {
     QtVariantProperty *property = m_variants.addProperty(row.type, row.title);
     property->setValue(row.text);
-    for (const BenchRow &child : row.children)
+    for (const kavoRecordedRow &child : row.children)
         property->addSubProperty(makeValue(child));
     return property;
 }
 
-QtBrowserItem *BenchBaseline::collapse(QtProperty *property)
+QtBrowserItem *kavoStraightforwardBrowser::collapse(QtProperty *property)
 {
     QtBrowserItem *item = items(property).value(0);
     if (item)

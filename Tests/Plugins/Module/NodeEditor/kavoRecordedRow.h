@@ -7,7 +7,7 @@
 
 /// One row of a finished editor with the rows below it, so that the very same tree can be built in
 /// another way.
-struct BenchRow
+struct kavoRecordedRow
 {
     enum Manager { Variant, Enum, Color };
 
@@ -19,10 +19,10 @@ struct BenchRow
     colorVal color {}; ///< of a colour row
     QString toolTip;
     bool open = false;
-    std::vector<BenchRow> children;
+    std::vector<kavoRecordedRow> children;
 
     /// The editor's only top row and all below it.
-    static BenchRow record(const kavoFCEditorWidget &editor);
+    static kavoRecordedRow record(const kavoFCEditorWidget &editor);
 
     /// A container or a list, as opposed to a value, which may have rows of its own.
     bool isGroup() const;

@@ -1,0 +1,226 @@
+#include "OSGFieldSampler.h"
+#include "kavoRecordedRow.h"
+#include "kavoStraightforwardBrowser.h"
+
+#include <kavoNodePtr.h>
+#include <kavoTestHost.h>
+
+#include <OpenSG/OSGChunkMaterial.h>
+#include <OpenSG/OSGGeometry.h>
+#include <OpenSG/OSGMaterialChunk.h>
+#include <OpenSG/OSGNode.h>
+#include <OpenSG/OSGSimpleGeometry.h>
+
+#include <QScrollBar>
+#include <QTreeWidget>
+#include <QtTest>
+
+namespace {
+
+kavoNodePtr makeScene()
+{
+    const kavoNodePtr node(osg::Node::create());
+    const osg::GeometryPtr geometry = osg::makeBoxGeo(1, 1, 1, 1, 1, 1);
+    const osg::ChunkMaterialPtr material = osg::ChunkMaterial::create();
+    material->addChunk(osg::MaterialChunk::create());
+    geometry->setMaterial(material);
+    node->setCore(geometry);
+    node->addAttachment(osg::FieldSampler::create());
+    return node;
+}
+
+QTreeWidget &treeOf(const QWidget &browser)
+{
+    return *browser.findChild<QTreeWidget *>();
+}
+
+enum RealTexts { WithRealTexts, WithoutRealTexts };
+
+bool isReal(const QtProperty *row)
+{
+    const auto *variant = dynamic_cast<const QtVariantProperty *>(row);
+    return variant && variant->propertyType() == QVariant::Double;
+}
+
+QString stateOf(const QTreeWidgetItem &item, const QString &text)
+{
+    return QStringLiteral("%1|%2|%3|%4|open %5 spanned %6 flags %7 icon %8")
+        .arg(item.text(0), text, item.toolTip(0), item.toolTip(1))
+        .arg(item.isExpanded())
+        .arg(item.isFirstColumnSpanned())
+        .arg(int(item.flags()))
+        .arg(!item.icon(1).isNull());
+}
+
+void collectItems(const QTreeWidgetItem &item, const QtBrowserItem &row, RealTexts texts,
+    const QString &indent, QStringList &states)
+{
+    const bool isHidden = texts == WithoutRealTexts && isReal(row.property());
+    states.append(indent + stateOf(item, isHidden ? "real" : item.text(1)));
+    const QList<QtBrowserItem *> children = row.children();
+    QCOMPARE(item.childCount(), children.size());
+    for (int i = 0; i < item.childCount(); ++i)
+        collectItems(*item.child(i), *children[i], texts, indent + "  ", states);
+}
+
+// All rows with all that the tree knows of each.
+QStringList itemsOf(const QtTreePropertyBrowser &browser, RealTexts texts = WithRealTexts)
+{
+    QStringList states;
+    const QTreeWidget &tree = treeOf(browser);
+    for (int i = 0; i < tree.topLevelItemCount(); ++i)
+        collectItems(*tree.topLevelItem(i), *browser.topLevelItems().value(i), texts, "", states);
+    return states;
+}
+
+// The titles of the rows that are laid out on the screen, one below the other.
+QStringList shownRows(const QWidget &browser)
+{
+    QStringList titles;
+    const QTreeWidget &tree = treeOf(browser);
+    for (auto *item = tree.topLevelItem(0); item; item = tree.itemBelow(item))
+        titles.append(item->text(0) + ' ' + QString::number(tree.visualItemRect(item).top()));
+    return titles;
+}
+
+// What an editor that shows something signals while it shows something else.
+struct SignalLog
+{
+    explicit SignalLog(kavoFCEditorWidget &editor)
+    {
+        const auto *manager = editor.properties().constFirst()->propertyManager();
+        QObject::connect(manager, &QtAbstractPropertyManager::propertyInserted, &editor,
+            [this](QtProperty *row, QtProperty *parent, QtProperty *after) {
+                lines.append(QStringLiteral("%1 below %2 after %3")
+                                 .arg(row->propertyName(), parent->propertyName(),
+                                     after ? after->propertyName() : QString()));
+            });
+        watch(editor, &QtTreePropertyBrowser::expanded, "opened ");
+        watch(editor, &QtTreePropertyBrowser::collapsed, "closed ");
+    }
+
+    template <class Signal>
+    void watch(QtTreePropertyBrowser &browser, Signal signal, const QString &what)
+    {
+        QObject::connect(&browser, signal, &browser, [this, what](QtBrowserItem *item) {
+            lines.append(what + item->property()->propertyName());
+        });
+    }
+
+    QStringList lines;
+};
+
+}
+
+// The quick ways of filling and of emptying the tree end like the straightforward ones.
+class TestStraightforward : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void theTreeEndsLikeOneWhoseViewFollowsEachRow();
+    void aSecondTreeEndsLikeOneWhoseViewFollowsEachRow();
+    void anEmptiedTreeIsLaidOutEmpty();
+    void theTreeIsThatOfThePlainComponent();
+    void theSignalsAreThoseOfAnEditorWhoseViewFollowsEachRow();
+
+private:
+    void show();
+    void showPlainly();
+    void emptyPlainly();
+
+    kavoNodePtr m_node;
+    kavoFCEditorWidget *m_editor = nullptr;
+    kavoFCEditorWidget *m_plain = nullptr; ///< is filled without the help of setFC(name, container)
+};
+
+void TestStraightforward::init()
+{
+    m_node = makeScene();
+    for (kavoFCEditorWidget **editor : { &m_editor, &m_plain }) {
+        *editor = new kavoFCEditorWidget(nullptr, nullptr);
+        (*editor)->resize(400, 300);
+        (*editor)->show();
+    }
+}
+
+void TestStraightforward::cleanup()
+{
+    delete m_editor;
+    delete m_plain;
+    m_node = kavoNodePtr();
+}
+
+void TestStraightforward::show()
+{
+    m_editor->setFC("node", osg::NodePtr(m_node));
+}
+
+void TestStraightforward::showPlainly()
+{
+    m_plain->setFC(nullptr, osg::NodePtr(m_node), "node", false);
+}
+
+void TestStraightforward::emptyPlainly()
+{
+    const auto *manager = m_plain->properties().value(0)->propertyManager();
+    m_plain->clear();
+    manager->clear();
+}
+
+void TestStraightforward::theTreeEndsLikeOneWhoseViewFollowsEachRow()
+{
+    show();
+    showPlainly();
+    QVERIFY(itemsOf(*m_editor).size() > 100);
+    QCOMPARE(itemsOf(*m_editor), itemsOf(*m_plain));
+    QVERIFY(shownRows(*m_editor).size() > 20);
+    QCOMPARE(shownRows(*m_editor), shownRows(*m_plain));
+}
+
+void TestStraightforward::aSecondTreeEndsLikeOneWhoseViewFollowsEachRow()
+{
+    show();
+    show();
+    showPlainly();
+    emptyPlainly();
+    showPlainly();
+    QCOMPARE(itemsOf(*m_editor), itemsOf(*m_plain));
+    QCOMPARE(shownRows(*m_editor), shownRows(*m_plain));
+}
+
+void TestStraightforward::anEmptiedTreeIsLaidOutEmpty()
+{
+    show();
+    m_editor->setFC("node", osg::NullFC);
+    const QTreeWidget &tree = treeOf(*m_editor);
+    QCOMPARE(tree.topLevelItemCount(), 0);
+    QCOMPARE(tree.itemAt(5, 5), nullptr);
+    QCOMPARE(tree.verticalScrollBar()->maximum(), 0);
+}
+
+// But for real numbers, which the component rounds to two decimals.
+void TestStraightforward::theTreeIsThatOfThePlainComponent()
+{
+    kavoStraightforwardBrowser plain;
+    show();
+    plain.build(kavoRecordedRow::record(*m_editor));
+    QCOMPARE(itemsOf(*m_editor, WithoutRealTexts), itemsOf(plain, WithoutRealTexts));
+}
+
+void TestStraightforward::theSignalsAreThoseOfAnEditorWhoseViewFollowsEachRow()
+{
+    show();
+    showPlainly();
+    SignalLog ours(*m_editor), theirs(*m_plain);
+    show();
+    emptyPlainly();
+    showPlainly();
+    QVERIFY(ours.lines.size() > 100);
+    QCOMPARE(ours.lines, theirs.lines);
+}
+
+KAVO_TEST_MAIN(TestStraightforward)
+#include "tst_straightforward.moc"
