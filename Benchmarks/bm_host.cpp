@@ -15,6 +15,7 @@
 
 #include <OpenSG/OSGNode.h>
 
+#include <QElapsedTimer>
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <QTreeView>
@@ -24,9 +25,18 @@
 
 namespace {
 
+// A figure of something that did not happen is worth nothing.
+void expect(bool isTrue, const char *what)
+{
+    if (!isTrue)
+        qFatal("Not measured: %s", what);
+}
+
 QWidget &window(kavoMainWindow &host, const char *key)
 {
-    return *host.docks().window(key);
+    QWidget *window = host.docks().window(key);
+    expect(window, key);
+    return *window;
 }
 
 void showScene(const kavoNodePtr &root)
@@ -34,6 +44,17 @@ void showScene(const kavoNodePtr &root)
     kavoScenegraph::setRoot(root);
     kavoMessage loaded(kavoMessageIds::sceneLoaded);
     kavoController::sendMessage(loaded);
+}
+
+void waitUntilOpen(const bool &isOpen)
+{
+    constexpr int limit = 60000;
+    QElapsedTimer timer;
+    timer.start();
+    while (!isOpen) {
+        expect(timer.elapsed() < limit, "the model does not open");
+        QCoreApplication::processEvents();
+    }
 }
 
 void openModel(kavoMainWindow &host)
@@ -44,11 +65,12 @@ void openModel(kavoMainWindow &host)
         isOpen = true;
         frames.forget();
     });
+    QObject::connect(&host, &kavoMainWindow::openFailed, &frames,
+        [](const QString &message) { expect(false, qPrintable(message)); });
     const double before = BenchHost::residentMemory();
     const double time = BenchClock::wallTime([&] {
         host.open({ KAVO_BENCH_MODEL });
-        while (!isOpen)
-            QCoreApplication::processEvents();
+        waitUntilOpen(isOpen);
         frames.waitForPaint();
     });
     BenchTable::figure("AC14-FZK-Haus.ifc: from opening to the first frame", time, "ms");
@@ -73,6 +95,15 @@ void openLargeScene(kavoMainWindow &host)
     BenchTable::figure("200,000 nodes: memory, shown", BenchHost::residentMemory() - before, "MiB");
 }
 
+// Its title ends with the id of the node that it shows.
+void expectEditorShows(kavoMainWindow &host, const osg::NodePtr &node)
+{
+    expect(node != osg::NullFC, "nothing is selected");
+    const QString id = QStringLiteral("(%1)").arg(node.getFieldContainerId());
+    expect(window(host, "Node Editor").windowTitle().endsWith(id),
+        "the Node Editor does not show the selected node");
+}
+
 /// A node as many levels below the root, or above if its branch ends earlier.
 osg::NodePtr anyNode(std::mt19937 &random, int levels)
 {
@@ -88,12 +119,14 @@ void select(const osg::NodePtr &node)
     BenchHost::settle();
 }
 
-void selecting()
+void selecting(kavoMainWindow &host)
 {
     std::mt19937 random(1);
     const std::vector<double> times = BenchClock::timesOf(201, [&] {
         const osg::NodePtr node = anyNode(random, 2 + int(random() % 2));
-        return BenchClock::wallTime([&] { select(node); });
+        const double time = BenchClock::wallTime([&] { select(node); });
+        expectEditorShows(host, node);
+        return time;
     });
     const double one = BenchClock::median(times);
     const double many = BenchClock::medianOf(11, [&] {
@@ -151,9 +184,14 @@ void dragging(kavoMainWindow &host)
     sendMouse(*tree.viewport(), QEvent::MouseButtonPress, at(0));
     int row = 0;
     const std::vector<double> times = BenchClock::timesOf(201, [&] {
+        const osg::NodePtr before = kavoScenegraph::getSelectedNode();
         row = row % (rows - 1) + 1;
-        return BenchClock::wallTime(
+        const double time = BenchClock::wallTime(
             [&] { sendMouse(*tree.viewport(), QEvent::MouseMove, at(row)); });
+        const osg::NodePtr after = kavoScenegraph::getSelectedNode();
+        expect(after != before, "the drag did not move the selection");
+        expectEditorShows(host, after);
+        return time;
     });
     sendMouse(*tree.viewport(), QEvent::MouseButtonRelease, at(row));
     BenchTable::below(
@@ -186,7 +224,7 @@ int main(int argc, char **argv)
     showScene(BenchScenes::makeTree(100000, false));
     BenchHost::settle();
     host->docks().show("Node Editor");
-    selecting();
+    selecting(*host);
     scrolling(*host);
     dragging(*host);
     openLevels(*host);
