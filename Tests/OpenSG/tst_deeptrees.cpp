@@ -1,13 +1,15 @@
 #include <OpenSG/OSGAction.h>
 #include <OpenSG/OSGBaseFunctions.h>
+#include <OpenSG/OSGFieldContainerFactory.h>
 #include <OpenSG/OSGRefPtr.h>
+#include <OpenSG/OSGSwitchMaterial.h>
 #include <OpenSG/OSGTransform.h>
 
 #include <QtTest>
 
 using namespace osg;
 
-/// Trees of more levels than calls fit on the stack.
+/// Trees of more levels than calls fit on the stack, and chains of as many links.
 class tst_DeepTrees : public QObject
 {
     Q_OBJECT
@@ -22,6 +24,7 @@ private slots:
     void theirNodesHaveAPlaceInTheWorld();
     void theyAreCloned();
     void theyAreDestroyed();
+    void chainsOfMaterialsAreDestroyed();
 
 private:
     NodeRefPtr m_root;
@@ -113,6 +116,21 @@ void tst_DeepTrees::theyAreDestroyed()
     m_root = NodeRefPtr();
     QVERIFY(kept->getParent() == NullFC);
     QCOMPARE(kept.get().getRefCount(), 1);
+}
+
+void tst_DeepTrees::chainsOfMaterialsAreDestroyed()
+{
+    const SwitchMaterialPtr first = SwitchMaterial::create();
+    const UInt32 firstId = first.getFieldContainerId();
+    MaterialRefPtr last(first);
+    for (int link = 1; link < 3 * depth; ++link) {
+        const SwitchMaterialPtr next = SwitchMaterial::create();
+        next->getMaterials().push_back(last.get());
+        endEditCP(next, SwitchMaterial::MaterialsFieldMask);
+        last = next;
+    }
+    last = NullFC;
+    QVERIFY(FieldContainerFactory::the()->getContainer(firstId) == NullFC);
 }
 
 QTEST_APPLESS_MAIN(tst_DeepTrees)

@@ -102,6 +102,7 @@ private:
     template <class Function> void forEachField(BitVector whichField, const Function &function);
     static void enterInStore(const FieldContainerPtr &container);
     void destroy();
+    void destroyNow();
     /// The fields whose containers know this one in return: only methods may set them.
     virtual BitVector getMutualFields() const { return FieldBits::NoField; }
 

@@ -95,7 +95,6 @@ private:
     void takeAsChild(const NodePtr &child);
     static void releaseChild(const NodePtr &child);
     static void leaveParent(const NodePtr &child);
-    void orphanChildren(std::vector<NodePtr> &orphans);
     bool needsVolume() const;
     void computeVolume();
 

@@ -8,6 +8,7 @@
 #include <OpenSG/OSGThread.h>
 
 #include <new>
+#include <utility>
 
 OSG_BEGIN_NAMESPACE
 
@@ -138,7 +139,27 @@ void FieldContainer::enterInStore(const FieldContainerPtr &container)
     }
 }
 
+// A container may take others along, these further ones, and so on: what lies too deep for the
+// stack waits until the first of them has gone.
 void FieldContainer::destroy()
+{
+    constexpr UInt32 maxDepth = 64;
+    thread_local UInt32 depth = 0;
+    thread_local FieldContainer *waiting = nullptr;
+
+    if (depth == maxDepth) {
+        header().nextToGo = std::exchange(waiting, this);
+        return;
+    }
+    ++depth;
+    destroyNow();
+    --depth;
+    while (depth == 0 && waiting) {
+        std::exchange(waiting, waiting->header().nextToGo)->destroy();
+    }
+}
+
+void FieldContainer::destroyNow()
 {
     const UInt32 id = header().id;
     if (ChangeList *changes = Thread::getCurrentChangeList()) {

@@ -11,6 +11,7 @@ struct alignas(std::max_align_t) FieldContainer::Header
 {
     Int32 refCount = 0;
     UInt32 id = 0;
+    FieldContainer *nextToGo = nullptr;
 };
 
 inline FieldContainer::Header &FieldContainer::header()

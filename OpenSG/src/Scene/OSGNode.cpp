@@ -37,31 +37,14 @@ Node::Node(const Node &source)
     exchangeCore(source.getCore());
 }
 
-// Node by node, however deep the tree is: those that go with this one have no children any more.
+// Children have no parent any more when the first of them goes.
 Node::~Node()
 {
     Traversal::forget(NodePtr(this));
-    std::vector<NodePtr> released;
-    orphanChildren(released);
-    while (!released.empty()) {
-        const NodePtr node = released.back();
-        released.pop_back();
-        if (node.getRefCount() == 1) {
-            node->orphanChildren(released);
-        }
-        subRefCP(node);
-    }
-    exchangeCore(NullFC);
-}
-
-// The references go with the children.
-void Node::orphanChildren(std::vector<NodePtr> &orphans)
-{
     const std::vector<NodePtr> children = std::exchange(_mfChildren.getValues(), {});
-    for (const NodePtr &child : children) {
-        leaveParent(child);
-        orphans.push_back(child);
-    }
+    std::for_each(children.begin(), children.end(), leaveParent);
+    std::for_each(children.begin(), children.end(), subRefCP);
+    exchangeCore(NullFC);
 }
 
 void Node::onCreate(const Node *)
