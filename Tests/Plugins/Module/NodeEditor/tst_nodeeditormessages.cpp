@@ -6,7 +6,7 @@
 
 #include <OpenSG/OSGMaterial.h>
 
-#include <QTreeWidget>
+#include <qtpropertybrowser.h>
 
 using namespace kavoTreeRows;
 
@@ -126,8 +126,8 @@ void TestNodeEditorMessages::selectionChangedToANodeLeavesTheEditor()
 void TestNodeEditorMessages::severalSelectionsInOneRoundFillTheEditorOnce()
 {
     int fillings = 0;
-    connect(editor().findChild<QTreeWidget *>()->model(), &QAbstractItemModel::rowsInserted, this,
-        [&](const QModelIndex &parent) { fillings += !parent.isValid(); });
+    connect(top(editor())->propertyManager(), &QtAbstractPropertyManager::propertyInserted, this,
+        [&](const QtProperty *row) { fillings += row->propertyName() == "travMask"; });
     const osg::NodePtr wheel = osg::NodePtr(m_node)->getChild(0);
     for (const osg::NodePtr &node : { wheel, osg::NodePtr(m_node), wheel->getChild(0), wheel })
         kavoScenegraph::setSelectedNode(node);
