@@ -131,23 +131,28 @@ def protected_part(c):
     parts.append(f"    ~{c.cpp_name}() override = default;\n")
     parts += [accessors(c, f) for f in c.fields if f.protected]
     parts += [forgotten(c, f) for f in c.fields if f.numbered]
-    parts.append(counted_fields(c))
+    parts.append(held_containers(c))
     parts.append("\n" if c.fields else "")
     parts += [f"    {f.type} {f.member}{f.initializer()};\n" for f in c.fields]
     parts += [f"    {holder(f)} _held{f.title};\n" for f in c.fields if f.counted]
     return "".join(parts)
 
 
-def counted_fields(c):
-    masks = [f"{f.title}FieldMask" for f in c.fields if f.counted]
-    if not masks:
+def held_containers(c):
+    calls = "".join(held_call(f) for f in c.fields if f.counted)
+    if not calls:
         return ""
     return f"""
-    BitVector getCountedFields() const override
+    void forEachHeld(const HeldFunction &function) const override
     {{
-        return {" | ".join(["Inherited::getCountedFields()", *masks])};
-    }}
+        Inherited::forEachHeld(function);
+{calls}    }}
 """
+
+
+def held_call(f):
+    held = f"_held{f.title}"
+    return f"        {held}.forEach(function);\n" if f.multi else f"        function({held}.get());\n"
 
 
 def forgotten(c, f):

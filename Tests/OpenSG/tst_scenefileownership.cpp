@@ -45,6 +45,30 @@ public:
 
 NodeRefPtr TakingOp::taken;
 
+/// Takes the first node out of the tree, and keeps its material.
+class MaterialTakingOp : public GraphOp
+{
+public:
+    MaterialTakingOp()
+        : GraphOp("TakeMaterial")
+    {
+    }
+    GraphOp *create() override { return new MaterialTakingOp; }
+    void setParams(const std::string) override { }
+    std::string usage() override { return "no parameters"; }
+    bool traverse(NodePtr &root) override
+    {
+        const auto group = MaterialGroupPtr::dcast(root->getChild(0)->getCore());
+        taken = MaterialRefPtr(group->getMaterial());
+        root->subChild(0u);
+        return true;
+    }
+
+    static MaterialRefPtr taken;
+};
+
+MaterialRefPtr MaterialTakingOp::taken;
+
 }
 
 /// Who holds the containers of a file, while it is read and afterwards.
@@ -70,6 +94,8 @@ private slots:
     void whatIsPointedToSurvivesTheOperations();
     void whatAnOperationHoldsStaysWhole_data();
     void whatAnOperationHoldsStaysWhole();
+    void whatAnOperationHoldsStaysWholeWhileChangesAreIgnored();
+    void whatIsLeftOutIsReported();
     void containersWithoutPlaceAreNoScene();
 
 private:
@@ -129,7 +155,9 @@ void tst_SceneFileOwnership::aContainerOutlivesThePlaceItWasIn_data()
 void tst_SceneFileOwnership::aContainerOutlivesThePlaceItWasIn()
 {
     QFETCH(QByteArray, text);
-    const std::string written = m_text->write(m_text->read(text.toStdString()));
+    const NodePtr scene = m_text->read(text.toStdString());
+    m_text->takeLog();
+    const std::string written = m_text->write(scene);
     QVERIFY(!written.empty());
     QVERIFY(m_text->read(written) != NullFC);
     QCOMPARE(m_text->takeLog(), std::string());
@@ -269,6 +297,33 @@ void tst_SceneFileOwnership::whatAnOperationHoldsStaysWhole()
     QCOMPARE(taken.get().getRefCount(), 1);
     QCOMPARE(getName(taken.get()), "a");
     QCOMPARE(getName(taken->getChild(0)), "b");
+}
+
+// What is read takes no references then.
+void tst_SceneFileOwnership::whatAnOperationHoldsStaysWholeWhileChangesAreIgnored()
+{
+    MaterialTakingOp prototype;
+    GraphOpFactory::the().registerOp(&prototype);
+    GraphOpSeq sequence("TakeMaterial()");
+    std::istringstream text("Node { core MaterialGroup { material SimpleMaterial { "
+                            "attachments [ Name { name \"x\" } ] } } }");
+    FieldContainerPtr::setIgnoreChanged(true);
+    const NodeRefPtr root(SceneFileHandler::the().read(text, "osg", &sequence));
+    FieldContainerPtr::setIgnoreChanged(false);
+    const MaterialRefPtr taken = std::exchange(MaterialTakingOp::taken, MaterialRefPtr());
+    GraphOpFactory::the().unRegisterOp(&prototype);
+    QCOMPARE(taken.get().getRefCount(), 1);
+    QCOMPARE(getName(taken.get()), "x");
+}
+
+void tst_SceneFileOwnership::whatIsLeftOutIsReported()
+{
+    QVERIFY(m_text->read("DEF used SimpleMaterial { } SimpleMaterial { } "
+                         "Node { core MaterialGroup { material USE used } }")
+        != NullFC);
+    QCOMPARE(m_text->takeLog(),
+        std::string("WARNING:  A SimpleMaterial at the top is left out: nothing in the scene leads "
+                    "to it\n"));
 }
 
 void tst_SceneFileOwnership::containersWithoutPlaceAreNoScene()

@@ -30,7 +30,7 @@ protected:
     AttachmentContainer(const AttachmentContainer &source);
     ~AttachmentContainer() override;
 
-    BitVector getCountedFields() const override { return AttachmentsFieldMask; }
+    void forEachHeld(const HeldFunction &function) const override;
 
 private:
     void unlink(AttachmentMap::iterator entry);

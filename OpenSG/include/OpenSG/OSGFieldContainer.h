@@ -4,6 +4,7 @@
 #include <OpenSG/OSGFieldContainerType.h>
 
 #include <cstddef>
+#include <functional>
 
 OSG_BEGIN_NAMESPACE
 
@@ -83,9 +84,10 @@ protected:
     /// Called when the last reference has gone, before the destructors.
     virtual void onDestroy() { }
 
-    /// The fields by which it holds references to other containers. References of classes that
-    /// do not say so are taken for those of somebody else.
-    virtual BitVector getCountedFields() const { return FieldBits::NoField; }
+    typedef std::function<void(const FieldContainerPtr &)> HeldFunction;
+    /// Calls `function` once for every reference that it holds to another container. References of
+    /// classes that do not tell of them are taken for somebody else's.
+    virtual void forEachHeld(const HeldFunction &) const { }
 
     /// Takes over the masked fields of another container of the same type.
     virtual void executeSync(FieldContainer &other, const BitVector &whichField);

@@ -65,7 +65,7 @@ protected:
     ~Geometry() override;
 
     void adjustVolume(Volume &volume) override;
-    BitVector getCountedFields() const override;
+    void forEachHeld(const HeldFunction &function) const override;
 
 private:
     static constexpr UInt32 propertyCount = IndicesFieldId - TypesFieldId + 1;

@@ -26,6 +26,13 @@ public:
         }
     }
 
+    template <class Function> void forEach(const Function &function) const
+    {
+        for (const RefPtr<PtrT> &held : _held) {
+            function(held.get());
+        }
+    }
+
 private:
     std::vector<RefPtr<PtrT>> _held;
 };

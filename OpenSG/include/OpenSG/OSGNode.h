@@ -77,10 +77,7 @@ protected:
 
     void onCreate(const Node *source = nullptr);
 
-    BitVector getCountedFields() const override
-    {
-        return Inherited::getCountedFields() | ChildrenFieldMask | CoreFieldMask;
-    }
+    void forEachHeld(const HeldFunction &function) const override;
 
 private:
     static constexpr UInt32 allBits = 0xffffffff;

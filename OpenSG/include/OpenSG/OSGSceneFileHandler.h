@@ -77,8 +77,8 @@ public:
     /// Options of a format, all at once and with blanks between them; false if the format is
     /// unknown. Of "osg": `whitespace=keep`, to write the blanks and line ends in strings as they
     /// are, which other writers of the format do not; and `lists=replace`, to read lists as they
-    /// were written: they replace the values that new containers have in the field, to which they
-    /// are appended otherwise, and keep their empty places.
+    /// were written: values replace those that new containers have in the field, to which they are
+    /// appended otherwise, and pointers keep their empty places.
     virtual bool setOptions(const Char8 *suffix, const Char8 *options);
 
 protected:

@@ -18,10 +18,9 @@ namespace {
 typedef std::vector<FieldContainerPtr> Containers;
 
 /// Internal attachments belong to their containers like all others.
-void forEachReachedDirectly(const FieldContainerPtr &container, const TargetFunction &function,
-    BitVector whichField = FieldBits::AllFields)
+void forEachReachedDirectly(const FieldContainerPtr &container, const TargetFunction &function)
 {
-    forEachTarget(container, function, whichField);
+    forEachTarget(container, function);
     if (const auto owner = AttachmentContainerPtr::dcast(container)) {
         for (const auto &[key, attachment] : owner->getSFAttachments()->getValue()) {
             if (attachment->getInternal().getValue()) {
@@ -123,7 +122,7 @@ Containers ContainerKeeper::heldElsewhere(const Containers &containers)
     };
     for (const FieldContainerPtr &container : containers) {
         count(container);
-        forEachReachedDirectly(container, count, container->getCountedFields());
+        container->forEachHeld(count);
     }
     Containers held;
     std::copy_if(containers.begin(), containers.end(), std::back_inserter(held),

@@ -28,7 +28,7 @@ public:
     /// a reference to lead to, the results never. When every one has a reference they are not
     /// looked at: a circle that nothing leads to goes only together with another container. What is
     /// left of a long chain of containers that hold one another without saying so
-    /// (FieldContainer::getCountedFields) stays, too.
+    /// (FieldContainer::forEachHeld) stays, too.
     void release(const std::vector<FieldContainerPtr> &results);
 
 private:

@@ -3,6 +3,7 @@
 #include "OSGAsciiFileType.h"
 #include "OSGContainerKeeper.h"
 
+#include <OpenSG/OSGFieldContainerFactory.h>
 #include <OpenSG/OSGGroup.h>
 #include <OpenSG/OSGLog.h>
 
@@ -10,7 +11,10 @@
 #include <chrono>
 #include <fstream>
 #include <iterator>
+#include <string>
 #include <strings.h>
+#include <utility>
+#include <vector>
 
 OSG_BEGIN_NAMESPACE
 
@@ -76,16 +80,35 @@ NodePtr makeRoot(const FCPtrStore &containers)
     return root;
 }
 
+typedef std::vector<std::pair<UInt32, std::string>> NamesById;
+
+void reportLost(const NamesById &names)
+{
+    for (const auto &[id, type] : names) {
+        if (FieldContainerFactory::the()->getContainer(id) == NullFC) {
+            SWARNING << "A " << type << " at the top is left out: nothing in the scene leads to it"
+                     << endLog;
+        }
+    }
+}
+
 // What has no place in a scene goes, with all that belongs to nothing else. Null if that is all.
 NodePtr gather(const FCPtrStore &containers)
 {
     FCPtrStore strangers;
     std::remove_copy_if(
         containers.begin(), containers.end(), std::back_inserter(strangers), hasPlaceInScene);
+    NamesById names;
+    for (const FieldContainerPtr &stranger : strangers) {
+        names.emplace_back(stranger.getFieldContainerId(), stranger->getTypeName());
+    }
     ContainerKeeper keeper;
     keeper.keepAllFrom(strangers);
     const NodePtr root = strangers.size() < containers.size() ? makeRoot(containers) : NodePtr();
     keeper.release({ root });
+    if (root) {
+        reportLost(names);
+    }
     return root;
 }
 

@@ -32,14 +32,12 @@ void forEachPointer(const Field &field, const TargetFunction &function)
 
 } // namespace
 
-void forEachTarget(
-    const FieldContainerPtr &container, const TargetFunction &function, BitVector whichField)
+void forEachTarget(const FieldContainerPtr &container, const TargetFunction &function)
 {
     const FieldContainerType &type = container->getType();
     for (UInt32 id = 1; id <= type.getNumFieldDescs(); ++id) {
-        const FieldDescription &description = *type.getFieldDescription(id);
-        const bool isAsked = !description.isInternal() && (description.getFieldMask() & whichField);
-        const Field *field = isAsked ? container->getField(id) : nullptr;
+        const bool isInternal = type.getFieldDescription(id)->isInternal();
+        const Field *field = isInternal ? nullptr : container->getField(id);
         const auto kind = field ? FieldSyntax::of(field->getType()).kind : FieldSyntax::None;
         if (kind == FieldSyntax::Attachments) {
             forEachAttachment(*field, function);

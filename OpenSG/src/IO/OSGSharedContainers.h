@@ -16,8 +16,7 @@ void forEachAttachment(const Field &field, const TargetFunction &function);
 
 /// Calls `function` with every container that a container refers to, in the order of its fields:
 /// the targets of fields that are not internal, and attachments that are not.
-void forEachTarget(const FieldContainerPtr &container, const TargetFunction &function,
-    BitVector whichField = FieldBits::AllFields);
+void forEachTarget(const FieldContainerPtr &container, const TargetFunction &function);
 
 /// Knows which containers of a graph are reached more than once, and gives these the names by which
 /// a file refers to them: their own, if that can be told from all others, or one made of type and

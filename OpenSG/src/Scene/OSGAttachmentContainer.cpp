@@ -29,6 +29,14 @@ AttachmentContainer::~AttachmentContainer()
     }
 }
 
+void AttachmentContainer::forEachHeld(const HeldFunction &function) const
+{
+    Inherited::forEachHeld(function);
+    for (const auto &[key, attachment] : _sfAttachments.getValue()) {
+        function(attachment);
+    }
+}
+
 // The argument may be the handle in the map that is about to be replaced.
 void AttachmentContainer::addAttachment(const AttachmentPtr &newAttachment, UInt16 binding)
 {

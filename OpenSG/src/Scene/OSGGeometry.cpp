@@ -44,10 +44,12 @@ void Geometry::adjustVolume(Volume &volume)
     }
 }
 
-BitVector Geometry::getCountedFields() const
+void Geometry::forEachHeld(const HeldFunction &function) const
 {
-    constexpr BitVector properties = (TypeTraits<BitVector>::One << propertyCount) - 1;
-    return Inherited::getCountedFields() | properties << TypesFieldId;
+    Inherited::forEachHeld(function);
+    for (const AttachmentRefPtr &property : _held) {
+        function(property.get());
+    }
 }
 
 void Geometry::hold(UInt32 fieldId, const AttachmentPtr &property)

@@ -37,14 +37,22 @@ Node::Node(const Node &source)
     exchangeCore(source.getCore());
 }
 
-// Children have no parent any more when the first of them goes.
+// Children have no parent any more when the first of them goes. The last ones go first: cores and
+// attachments that they share look for their parents from the back.
 Node::~Node()
 {
     Traversal::forget(NodePtr(this));
     const std::vector<NodePtr> children = std::exchange(_mfChildren.getValues(), {});
     std::for_each(children.begin(), children.end(), leaveParent);
-    std::for_each(children.begin(), children.end(), subRefCP);
+    std::for_each(children.rbegin(), children.rend(), subRefCP);
     exchangeCore(NullFC);
+}
+
+void Node::forEachHeld(const HeldFunction &function) const
+{
+    Inherited::forEachHeld(function);
+    std::for_each(_mfChildren.begin(), _mfChildren.end(), function);
+    function(getCore());
 }
 
 void Node::onCreate(const Node *)
@@ -167,9 +175,11 @@ void Node::releaseChild(const NodePtr &child)
 
 void Node::leaveParent(const NodePtr &child)
 {
-    beginEditCP(child, ParentFieldMask);
-    child->setParent(NullFC);
-    endEditCP(child, ParentFieldMask);
+    if (child) {
+        beginEditCP(child, ParentFieldMask);
+        child->setParent(NullFC);
+        endEditCP(child, ParentFieldMask);
+    }
 }
 
 Matrix Node::getToWorld()
@@ -218,7 +228,7 @@ void Node::updateVolume()
     }
     for (std::size_t i = 0; i < outdated.size(); ++i) {
         for (const NodePtr &child : outdated[i]->_mfChildren) {
-            if (child->needsVolume()) {
+            if (child && child->needsVolume()) {
                 outdated.push_back(child.getCPtr());
             }
         }
@@ -238,7 +248,7 @@ void Node::computeVolume()
     DynamicVolume &volume = _sfVolume.getValue();
     volume.getInstance().setEmpty();
     for (const NodePtr &child : _mfChildren) {
-        if (child->getTravMask() != 0) {
+        if (child && child->getTravMask() != 0) {
             volume.getInstance().extendBy(child->getVolume());
         }
     }
