@@ -106,6 +106,15 @@ NodePtr makeGroupNode(int)
     return makeCoredNode<Group>();
 }
 
+NodePtr makeInstances(int count)
+{
+    const NodePtr root = makeCoredNode<Group>();
+    for (int i = 1; i < count; ++i) {
+        root->addChild(makeNodeFor(root->getCore()));
+    }
+    return root;
+}
+
 // As scenes are: transformations, groups, and names now and then.
 NodePtr makeSceneNode(int index)
 {
@@ -154,6 +163,8 @@ void nodes()
     const double bytes = (residentBytes() - before) / nodeCount;
     const double walk = BenchClock::time([&] { visited -= countNodes(root.get()); });
     const double destroy = BenchClock::time([&] { root = NodeRefPtr(); });
+    root = NodeRefPtr(makeInstances(nodeCount));
+    const double destroyInstances = BenchClock::time([&] { root = NodeRefPtr(); });
     if (visited != 0) {
         std::abort();
     }
@@ -163,6 +174,8 @@ void nodes()
         perItem(walk, nodeCount), perItem(walkPlain, nodeCount), 5, "ns");
     BenchTable::atMost("1,000,000 nodes with cores: destroy one, as against two plain objects",
         perItem(destroy, nodeCount), perItem(destroyPlain, nodeCount), 25, "ns");
+    BenchTable::atMost("1,000,000 nodes of one core: destroy one, as against cores of their own",
+        perItem(destroyInstances, nodeCount), perItem(destroy, nodeCount), 1, "ns");
     BenchTable::below("1,000,000 nodes with cores: memory of one", bytes, 1000, "bytes");
 }
 

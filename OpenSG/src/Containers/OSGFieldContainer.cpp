@@ -12,6 +12,26 @@
 
 OSG_BEGIN_NAMESPACE
 
+namespace {
+
+/// One call deeper as long as it lives.
+class Nested
+{
+public:
+    explicit Nested(UInt32 &depth)
+        : _depth(++depth)
+    {
+    }
+    ~Nested() { --_depth; }
+    Nested(const Nested &) = delete;
+    Nested &operator=(const Nested &) = delete;
+
+private:
+    UInt32 &_depth;
+};
+
+} // namespace
+
 FieldContainerType FieldContainer::_type("FieldContainer");
 
 // The copy is another container, with a count and an id of its own.
@@ -140,22 +160,28 @@ void FieldContainer::enterInStore(const FieldContainerPtr &container)
 }
 
 // A container may take others along, these further ones, and so on: what lies too deep for the
-// stack waits until the first of them has gone.
+// stack waits in a list, which holds a reference to it, until the first of them has gone.
 void FieldContainer::destroy()
 {
     constexpr UInt32 maxDepth = 64;
     thread_local UInt32 depth = 0;
-    thread_local FieldContainer *waiting = nullptr;
+    thread_local FieldContainer *firstToGo = nullptr;
+    thread_local FieldContainer *lastToGo = nullptr;
 
     if (depth == maxDepth) {
-        header().nextToGo = std::exchange(waiting, this);
+        header().refCount = 1;
+        header().nextToGo = nullptr;
+        (firstToGo ? lastToGo->header().nextToGo : firstToGo) = this;
+        lastToGo = this;
         return;
     }
-    ++depth;
+    const Nested nested(depth);
     destroyNow();
-    --depth;
-    while (depth == 0 && waiting) {
-        std::exchange(waiting, waiting->header().nextToGo)->destroy();
+    while (depth == 1 && firstToGo) {
+        FieldContainer *next = std::exchange(firstToGo, firstToGo->header().nextToGo);
+        if (--next->header().refCount <= 0) {
+            next->destroyNow();
+        }
     }
 }
 
