@@ -26,6 +26,7 @@ private slots:
     void enteringAloneVisitsEverything();
     void listsAreVisitedInOrder();
     void nullNodesArePassedOver();
+    void nullChildrenArePassedOver();
     void coreLessNodesAreVisited();
     void aCallbackMayTakeAChildAway();
     void methodsMayBeInherited();
@@ -215,6 +216,17 @@ void tst_Traversal::nullNodesArePassedOver()
     QCOMPARE(traverse(list, noting()), Action::Continue);
     QCOMPARE(visited.join(' '), QString("b"));
     QCOMPARE(traverse(NodePtr(), noting()), Action::Continue);
+}
+
+void tst_Traversal::nullChildrenArePassedOver()
+{
+    NOT_IN_STOCK("stock 1.8 crashes at a null node");
+    m_root->getMFChildren()->insert(m_root->getMFChildren()->begin(), NodePtr());
+    m_root->getMFChildren()->push_back(NodePtr());
+    traverse(m_root, noting());
+    QCOMPARE(visited.join(' '), QString("r a aa ab b"));
+    m_root->updateVolume();
+    QVERIFY(m_root->getVolume().isValid());
 }
 
 void tst_Traversal::coreLessNodesAreVisited()

@@ -1,6 +1,5 @@
 #include "OSGTraversal.h"
 
-#include <algorithm>
 #include <utility>
 
 OSG_BEGIN_NAMESPACE
@@ -16,8 +15,9 @@ constexpr UInt32 fetchedAhead = 4;
 // next are on their way while others are visited.
 void fetchChild(const NodePtr &node, UInt32 index)
 {
-    if (index < node->getNChildren()) {
-        __builtin_prefetch(node->getChild(index)->getMFChildren());
+    const NodePtr child = index < node->getNChildren() ? node->getChild(index) : NodePtr();
+    if (child) {
+        __builtin_prefetch(child->getMFChildren());
     }
 }
 
@@ -62,10 +62,10 @@ void Traversal::forget(const NodePtr &node)
         if (traversal->_entering == node) {
             traversal->_entering = NullFC;
         }
-        const auto level = std::find_if(traversal->_path.begin(), traversal->_path.end(),
-            [&](const Level &candidate) { return candidate.node == node; });
-        if (level != traversal->_path.end()) {
-            level->node = NullFC;
+        for (Level &level : traversal->_path) {
+            if (level.node == node) {
+                level.node = NullFC;
+            }
         }
     }
 }
