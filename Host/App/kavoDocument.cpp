@@ -25,15 +25,20 @@ kavoDocument::kavoDocument(kavoChangeMonitor &changes, QObject *parent)
 
 void kavoDocument::setFiles(const QStringList &files, const QStringList &partlyRead)
 {
-    const bool isSaved
-        = files.size() == 1 && kavoSceneSaver::canSave(files.first()) && partlyRead.isEmpty();
-    m_files = files;
     m_partlyRead = partlyRead;
     for (const QString &file : partlyRead)
         kavoLog::warning(
             "%s: not all of it was read, so it is not saved in place", qUtf8Printable(file));
+    beginWith(files);
+}
+
+void kavoDocument::beginWith(const QStringList &files)
+{
+    const bool isSaved = files.size() == 1 && kavoSceneSaver::canSave(files.first())
+        && !wasPartlyRead(files.first());
+    m_files = files;
     m_file = isSaved ? files.first() : QString();
-    m_changes.drain(); // of what happened while it was built
+    m_changes.drain(); // of what is in the files
     m_edits.reset();
     m_hasDiscardedEdits = false;
     setModified(false);
@@ -79,7 +84,7 @@ void kavoDocument::save(const QString &file)
                                 .arg(file));
     }
     kavoSceneSaver::save(kavoScenegraph::getRoot(), file);
-    setFiles({ file });
+    beginWith({ file });
 }
 
 bool kavoDocument::wasPartlyRead(const QString &file) const

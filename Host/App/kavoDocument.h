@@ -17,7 +17,7 @@ public:
     explicit kavoDocument(kavoChangeMonitor &changes, QObject *parent = nullptr);
 
     /// Another scene is open, which came of these files. Some of them may hold more than what could
-    /// be read, which saving the scene there would destroy.
+    /// be read, which saving the scene there would destroy, also after it was saved elsewhere.
     void setFiles(const QStringList &files, const QStringList &partlyRead = {});
 
     /// Where it is saved; empty as long as it is not: files of other formats, and those that were
@@ -43,13 +43,14 @@ signals:
     void changed();
 
 private:
+    void beginWith(const QStringList &files);
     bool wasPartlyRead(const QString &file) const;
     void setModified(bool isModified);
 
     kavoChangeMonitor &m_changes;
     kavoSceneEdits m_edits;
     QStringList m_files;
-    QStringList m_partlyRead;
+    QStringList m_partlyRead; ///< of the files opened, whatever the scene is saved in since
     QString m_file;
     bool m_isModified = false;
     bool m_hasDiscardedEdits = false;

@@ -46,6 +46,7 @@ private slots:
     void onlySceneFilesAreSavedInPlace();
     void theSuggestedFileIsBesideTheOpenedOne();
     void aFileThatWasReadInPartIsLeftAlone();
+    void itIsLeftAloneAfterSavingElsewhere();
     void anotherNameOfItIsNoWayAround();
 
 private:
@@ -287,6 +288,22 @@ void tst_document::aFileThatWasReadInPartIsLeftAlone()
     QCOMPARE(QFileInfo(file).size(), 0);
     m_document->save(m_folder.filePath("copy.osg"));
     QCOMPARE(m_document->file(), m_folder.filePath("copy.osg"));
+}
+
+void tst_document::itIsLeftAloneAfterSavingElsewhere()
+{
+    const QString file = m_folder.filePath("damaged.osg");
+    const QString copy = m_folder.filePath("whole.osg");
+    QVERIFY(QFile(file).open(QIODevice::WriteOnly));
+    m_document->setFiles({ file }, { file });
+    m_document->save(copy);
+    QVERIFY_EXCEPTION_THROWN(m_document->save(file), kavoTaskError);
+    QCOMPARE(QFileInfo(file).size(), 0);
+    QCOMPARE(m_document->suggestedFile(), copy);
+    m_document->save(copy);
+    m_document->setFiles({ copy });
+    m_document->save(file);
+    QCOMPARE(m_document->file(), file);
 }
 
 void tst_document::anotherNameOfItIsNoWayAround()
