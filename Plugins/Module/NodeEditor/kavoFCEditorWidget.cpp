@@ -58,7 +58,10 @@ void kavoFCEditorWidget::setFC(const QString &name, osg::FieldContainerPtr fc)
     m_variantManager->clear();
 
     auto &view = *findChild<QTreeWidget *>();
-    const auto layOut = qScopeGuard([&view] { view.doItemsLayout(); });
+    const auto layOut = qScopeGuard([&view] {
+        view.doItemsLayout();
+        view.scrollToTop();
+    });
     const QSignalBlocker silent(view.model());
     const QScopedValueRollback<bool> building(m_building, true);
     setFC(nullptr, fc, name, false);

@@ -97,13 +97,14 @@ struct SignalLog
             });
         watch(editor, &QtTreePropertyBrowser::expanded, "opened ");
         watch(editor, &QtTreePropertyBrowser::collapsed, "closed ");
+        watch(editor, &QtTreePropertyBrowser::currentItemChanged, "current ");
     }
 
     template <class Signal>
     void watch(QtTreePropertyBrowser &browser, Signal signal, const QString &what)
     {
         QObject::connect(&browser, signal, &browser, [this, what](QtBrowserItem *item) {
-            lines.append(what + item->property()->propertyName());
+            lines.append(what + (item ? item->property()->propertyName() : QString()));
         });
     }
 
@@ -125,6 +126,9 @@ private slots:
     void anEmptiedTreeIsLaidOutEmpty();
     void theTreeIsThatOfThePlainComponent();
     void theSignalsAreThoseOfAnEditorWhoseViewFollowsEachRow();
+    void aTreeThatCouldNotBeFilledIsLaidOutWithTheRowsItHas();
+    void anotherContainerIsShownFromItsTopRowOn();
+    void theDownKeyGoesToTheTopRowOfANewTree();
 
 private:
     void show();
@@ -148,6 +152,7 @@ void TestStraightforward::init()
 
 void TestStraightforward::cleanup()
 {
+    osg::FieldSampler::accessThrows = false;
     delete m_editor;
     delete m_plain;
     m_node = kavoNodePtr();
@@ -214,12 +219,47 @@ void TestStraightforward::theSignalsAreThoseOfAnEditorWhoseViewFollowsEachRow()
 {
     show();
     showPlainly();
+    for (kavoFCEditorWidget *editor : { m_editor, m_plain })
+        editor->setCurrentItem(editor->topLevelItems().constFirst()->children().constLast());
     SignalLog ours(*m_editor), theirs(*m_plain);
     show();
     emptyPlainly();
     showPlainly();
     QVERIFY(ours.lines.size() > 100);
+    QVERIFY(ours.lines.contains("current "));
     QCOMPARE(ours.lines, theirs.lines);
+}
+
+void TestStraightforward::aTreeThatCouldNotBeFilledIsLaidOutWithTheRowsItHas()
+{
+    show();
+    osg::FieldSampler::accessThrows = true;
+    QVERIFY_EXCEPTION_THROWN(show(), int);
+    QVERIFY_EXCEPTION_THROWN(showPlainly(), int);
+    QCOMPARE(itemsOf(*m_editor), itemsOf(*m_plain));
+    QCOMPARE(shownRows(*m_editor).size(), 2);
+    QCOMPARE(shownRows(*m_editor), shownRows(*m_plain));
+}
+
+void TestStraightforward::anotherContainerIsShownFromItsTopRowOn()
+{
+    show();
+    const QScrollBar &bar = *treeOf(*m_editor).verticalScrollBar();
+    treeOf(*m_editor).scrollToBottom();
+    QVERIFY(bar.value() > 0);
+    m_editor->setFC("core", m_node->getCore());
+    QVERIFY(bar.maximum() > 0);
+    QCOMPARE(bar.value(), 0);
+}
+
+void TestStraightforward::theDownKeyGoesToTheTopRowOfANewTree()
+{
+    show();
+    m_editor->setCurrentItem(m_editor->topLevelItems().constFirst()->children().constLast());
+    show();
+    QTest::keyClick(&treeOf(*m_editor), Qt::Key_Down);
+    QVERIFY(m_editor->currentItem());
+    QCOMPARE(m_editor->currentItem(), m_editor->topLevelItems().constFirst());
 }
 
 KAVO_TEST_MAIN(TestStraightforward)
