@@ -32,8 +32,8 @@ public:
     kavoFCEditorWidget(QWidget *parent, const char *name);
     ~kavoFCEditorWidget() override;
 
-    /// Shows a container in place of what was shown, scrolled to its top row; null empties the
-    /// tree. \param name stands before the container's type in the title of the top row
+    /// Shows a container, from its top row on, in place of what was shown; null empties the tree.
+    /// \param name stands before the container's type in the title of the top row
     void setFC(const QString &name, osg::FieldContainerPtr fc);
     /// Adds a container with its fields below a row, or as top row if parent is null. Follows
     /// pointer fields without a limit of depth; only links back to owners are cut off.
