@@ -4,6 +4,7 @@
 #include "kavoTableExport.h"
 #include "kavoTableExportDialog.h"
 #include "kavoTableImportDialog.h"
+#include "kavoTry.h"
 #include "kavoValuePairExport.h"
 #include "kavoValuePairExportDialog.h"
 
@@ -13,8 +14,6 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QProgressDialog>
-
-#include <exception>
 
 kavoExportActions::kavoExportActions(QWidget *window, QMenu *fileMenu)
     : QObject(window)
@@ -86,14 +85,12 @@ void kavoExportActions::run(
 {
     QProgressDialog progress(title, tr("Cancel"), 0, 100, m_window);
     progress.setWindowModality(Qt::WindowModal);
-    try {
-        task([&](int percent) {
-            progress.setValue(percent);
-            return !progress.wasCanceled();
-        });
-    } catch (const std::exception &error) {
-        emit failed(QString::fromUtf8(error.what()));
-    }
+    const auto monitor = [&](int percent) {
+        progress.setValue(percent);
+        return !progress.wasCanceled();
+    };
+    if (const auto reason = kavoTry([&] { task(monitor); }))
+        emit failed(*reason);
 }
 
 void kavoExportActions::show(const kavoTableImport::Report &report)

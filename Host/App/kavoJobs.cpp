@@ -5,6 +5,7 @@
 #include "kavoMainWindow.h"
 #include "kavoStandardOutput.h"
 #include "kavoTaskError.h"
+#include "kavoTry.h"
 #include "kavoWindowPrinter.h"
 
 #include <QKAVODockWindowManager.h>
@@ -18,7 +19,6 @@
 #include <QTimer>
 
 #include <cstdio>
-#include <exception>
 
 namespace {
 
@@ -53,25 +53,26 @@ void kavoJobs::start()
 void kavoJobs::run()
 {
     forgetScenes();
-    bool isComplete = true;
-    try {
-        const QString node = m_commandLine.nodeToSelect();
-        if (!node.isEmpty() && !m_window.select(node))
-            throw kavoTaskError(tr("The scene has no node named or numbered '%1'").arg(node));
-        settle();
-        isComplete = exportValuePairs();
-        if (!m_commandLine.fileToSave().isEmpty())
-            m_window.document().save(m_commandLine.fileToSave());
-        if (!m_commandLine.windowToPrint().isEmpty())
-            printWindow(m_commandLine.windowToPrint());
-        if (!m_commandLine.screenshotFile().isEmpty())
-            saveScreenshot(m_commandLine.screenshotFile());
-    } catch (const std::exception &error) {
-        return fail(QString::fromUtf8(error.what()));
-    }
-    m_exitCode = isComplete ? 0 : 1;
+    if (const auto reason = kavoTry([this] { runAll(); }))
+        return fail(*reason);
     if (m_commandLine.isJob())
         QCoreApplication::quit();
+}
+
+void kavoJobs::runAll()
+{
+    const QString node = m_commandLine.nodeToSelect();
+    if (!node.isEmpty() && !m_window.select(node))
+        throw kavoTaskError(tr("The scene has no node named or numbered '%1'").arg(node));
+    settle();
+    const bool isComplete = exportValuePairs();
+    if (!m_commandLine.fileToSave().isEmpty())
+        m_window.document().save(m_commandLine.fileToSave());
+    if (!m_commandLine.windowToPrint().isEmpty())
+        printWindow(m_commandLine.windowToPrint());
+    if (!m_commandLine.screenshotFile().isEmpty())
+        saveScreenshot(m_commandLine.screenshotFile());
+    m_exitCode = isComplete ? 0 : 1;
 }
 
 void kavoJobs::cancel()

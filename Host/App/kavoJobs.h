@@ -25,6 +25,7 @@ public:
 
 private:
     void run();
+    void runAll();
     void cancel();
     void forgetScenes();
     void fail(const QString &message);

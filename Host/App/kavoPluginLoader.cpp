@@ -1,5 +1,7 @@
 #include "kavoPluginLoader.h"
 
+#include "kavoTry.h"
+
 #include <kavoLog.h>
 
 #include <OpenSG/OSGFieldContainerFactory.h>
@@ -7,8 +9,6 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QLibrary>
-
-#include <exception>
 
 namespace {
 
@@ -18,18 +18,6 @@ bool skip(const QString &file, const QString &reason)
 {
     kavoLog::error("Plug-in '%s' skipped: %s", qUtf8Printable(file), qUtf8Printable(reason));
     return false;
-}
-
-bool start(Entry entry, const QString &file)
-{
-    try {
-        entry();
-        return true;
-    } catch (const std::exception &error) {
-        return skip(file, QStringLiteral("initPlugin failed: %1").arg(error.what()));
-    } catch (...) {
-        return skip(file, QStringLiteral("initPlugin failed with an unknown exception"));
-    }
 }
 
 }
@@ -68,8 +56,8 @@ bool kavoPluginLoader::loadLibrary(const QString &file)
     const auto entry = reinterpret_cast<Entry>(library.resolve("initPlugin"));
     if (!entry)
         return skip(file, QStringLiteral("it has no entry initPlugin"));
-    if (!start(entry, file))
-        return false;
+    if (const auto reason = kavoTry(entry))
+        return skip(file, QStringLiteral("initPlugin failed: %1").arg(*reason));
     kavoLog::info("Plug-in '%s' loaded", qUtf8Printable(file));
     return true;
 }

@@ -2,13 +2,12 @@
 
 #include "kavoDocument.h"
 #include "kavoSceneSaver.h"
+#include "kavoTry.h"
 
 #include <QApplication>
 #include <QFileDialog>
 #include <QMenu>
 #include <QMessageBox>
-
-#include <exception>
 
 namespace {
 
@@ -58,11 +57,12 @@ bool kavoSaveActions::saveAs()
 
 bool kavoSaveActions::saveTo(const QString &file)
 {
-    try {
+    const auto reason = kavoTry([&] {
         const WaitCursor cursor;
         m_document.save(file);
-    } catch (const std::exception &error) { // also of field types that plug-ins bring along
-        emit failed(QString::fromUtf8(error.what()));
+    });
+    if (reason) {
+        emit failed(*reason);
         return false;
     }
     emit saved(file);

@@ -5,14 +5,13 @@
 #include "kavoSceneCameras.h"
 #include "kavoSceneImporter.h"
 #include "kavoSceneReader.h"
+#include "kavoTry.h"
 
 #include <kavoLog.h>
 
 #include <QApplication>
 #include <QFileInfo>
 #include <QPointer>
-
-#include <exception>
 
 namespace {
 
@@ -114,11 +113,8 @@ void kavoSceneLoader::conclude()
     m_cameras = m_builder->cameras();
     kavoNodePtr root = m_builder->root();
     for (const QString &file : QStringList(m_sceneFiles)) {
-        try {
-            root = withSceneFile(root, file);
-        } catch (const std::exception &error) { // also of field types that plug-ins bring along
-            return fail(file, QString::fromUtf8(error.what()));
-        }
+        if (const auto reason = kavoTry([&] { root = withSceneFile(root, file); }))
+            return fail(file, *reason);
     }
     if (!mayReplaceScene())
         return;

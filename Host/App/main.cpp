@@ -3,7 +3,7 @@
 #include "kavoJobs.h"
 #include "kavoMainWindow.h"
 #include "kavoStandardOutput.h"
-#include "kavoTaskError.h"
+#include "kavoTry.h"
 
 #include <OpenSG/OSGBaseFunctions.h>
 #include <OpenSG/OSGChangeList.h>
@@ -54,12 +54,8 @@ int fail(const QString &reason)
 
 template <class Task> int run(Task task)
 {
-    try {
-        task();
-        return Success;
-    } catch (const std::exception &error) {
-        return fail(QString::fromUtf8(error.what()));
-    }
+    const auto reason = kavoTry(task);
+    return reason ? fail(*reason) : Success;
 }
 
 int printText(const QString &text)

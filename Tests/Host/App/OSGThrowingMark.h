@@ -13,7 +13,7 @@ class ThrowingMark;
 typedef FCPtr<AttachmentPtr, ThrowingMark> ThrowingMarkPtr;
 
 /// Attachment as a plug-in may bring it along, with a fault: its field "text" throws where others
-/// are written or read.
+/// are written or read. What it throws is no std::exception if its text says so.
 class ThrowingMark : public Attachment
 {
     typedef Attachment Inherited;
@@ -41,7 +41,14 @@ private:
     class ThrowingField : public SFString
     {
     public:
-        void pushValueByStr(const Char8 *) override { throw std::runtime_error("no reading"); }
+        void pushValueByStr(const Char8 *text) override
+        {
+            SFString::pushValueByStr(text);
+            if (getValue() == "1 when read")
+                throw 1;
+            if (getValue() != "1 when written")
+                throw std::runtime_error("no reading");
+        }
         std::string &getValueByStr(std::string &) const override { fail(); }
         std::string &getValueByStr(std::string &, StringConversionStateBase &) const override
         {
@@ -49,7 +56,12 @@ private:
         }
 
     private:
-        [[noreturn]] static void fail() { throw std::runtime_error("no writing"); }
+        [[noreturn]] void fail() const
+        {
+            if (getValue() == "1 when written")
+                throw 1;
+            throw std::runtime_error("no writing");
+        }
     };
 
     friend class FieldContainer;

@@ -15,6 +15,8 @@ private slots:
     void wrongUsageExitsWithTwo();
     void aFailedJobExitsWithOneAndSaysWhy_data();
     void aFailedJobExitsWithOneAndSaysWhy();
+    void aFieldTypeThatThrowsFailsTheJob_data();
+    void aFieldTypeThatThrowsFailsTheJob();
     void aJobThatIsNotDoneExitsWithOne();
     void aFullDiskFailsTheJob_data();
     void aFullDiskFailsTheJob();
@@ -114,13 +116,6 @@ void tst_kavo::aFailedJobExitsWithOneAndSaysWhy_data()
         << "a.png': Cannot open device for writing: No such file or directory";
     QTest::newRow("no place for the scene")
         << QStringList { truck, "--save", "/no/such/folder/a.osg" } << "/no/such/folder/a.osg";
-    const QString throwing = m_folder.filePath("throwing.osg");
-    QFile scene(throwing);
-    QVERIFY(scene.open(QIODevice::WriteOnly)
-        && scene.write("Node { attachments [ ThrowingMark { } ] }") > 0);
-    QTest::newRow("a field type that throws") << QStringList { throwing, "--plugins",
-        KAVO_TEST_PLUGIN_DIR "/throwingfield", "--save", m_folder.filePath("saved.osg") }
-                                              << "kavo: no writing\n";
     QTest::newRow("nothing to save")
         << QStringList { "--save", "a.osg" } << "There is no scene to save";
 }
@@ -130,6 +125,30 @@ void tst_kavo::aFailedJobExitsWithOneAndSaysWhy()
     QFETCH(QStringList, arguments);
     QFETCH(QString, reason);
     const Result result = run(arguments);
+    QCOMPARE(result.exitCode, 1);
+    QVERIFY2(result.errors.contains(reason), qPrintable(result.errors));
+}
+
+void tst_kavo::aFieldTypeThatThrowsFailsTheJob_data()
+{
+    QTest::addColumn<QByteArray>("mark");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("an exception") << QByteArray("ThrowingMark { }") << "kavo: no writing\n";
+    QTest::newRow("a number in reading")
+        << QByteArray("ThrowingMark { text \"1 when read\" }") << "osg': unknown exception\n";
+    QTest::newRow("a number in writing")
+        << QByteArray("ThrowingMark { text \"1 when written\" }") << "kavo: unknown exception\n";
+}
+
+void tst_kavo::aFieldTypeThatThrowsFailsTheJob()
+{
+    QFETCH(QByteArray, mark);
+    QFETCH(QString, reason);
+    QFile scene(m_folder.filePath("throwing.osg"));
+    QVERIFY(scene.open(QIODevice::WriteOnly));
+    QVERIFY(scene.write("Node { attachments [ " + mark + " ] }") > 0 && scene.flush());
+    const Result result = run({ scene.fileName(), "--plugins",
+        KAVO_TEST_PLUGIN_DIR "/throwingfield", "--save", m_folder.filePath("saved.osg") });
     QCOMPARE(result.exitCode, 1);
     QVERIFY2(result.errors.contains(reason), qPrintable(result.errors));
 }

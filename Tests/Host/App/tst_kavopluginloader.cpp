@@ -54,7 +54,7 @@ void tst_kavoPluginLoader::whatGoesWrongIsLogged_data()
     QTest::newRow("exception")
         << "libThrowingPlugin.so' skipped: initPlugin failed: no licence today";
     QTest::newRow("unknown exception")
-        << "libUnknownThrowingPlugin.so' skipped: initPlugin failed with an unknown exception";
+        << "libUnknownThrowingPlugin.so' skipped: initPlugin failed: unknown exception";
 }
 
 void tst_kavoPluginLoader::whatGoesWrongIsLogged()
