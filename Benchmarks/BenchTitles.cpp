@@ -9,9 +9,9 @@ void BenchTitles::build(int rows)
     {
         const QSignalBlocker silent(view.model());
         QtProperty *top = m_groups.addProperty("top");
-        addProperty(top);
         for (int i = 1; i < rows; ++i)
             top->addSubProperty(m_groups.addProperty("field"));
+        addProperty(top);
     }
     view.doItemsLayout();
 }
@@ -25,7 +25,6 @@ void BenchTitles::empty()
     QtProperty *top = properties().constFirst();
     const QList<QtProperty *> rows = top->subProperties();
     clear();
-    for (auto row = rows.rbegin(); row != rows.rend(); ++row)
-        delete *row;
     delete top;
+    qDeleteAll(rows);
 }

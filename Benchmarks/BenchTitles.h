@@ -3,9 +3,10 @@
 #include <qtpropertymanager.h>
 #include <qttreepropertybrowser.h>
 
-/// The cheapest rows that the component can show: they have a title and nothing else, and neither
-/// the view nor the order in which they go costs more than it must. What any editor that is made
-/// with the component costs at least.
+/// The cheapest way we found to show rows with the component: they have a title and nothing else,
+/// the view hears nothing of them one by one, they enter the browser all at once, and the row
+/// above them goes first, so that they need not be taken out of it. Not an order that the editor
+/// can take: each of its groups is in the tree, closed, before it is filled.
 class BenchTitles : public QtTreePropertyBrowser
 {
     Q_OBJECT

@@ -37,7 +37,7 @@ void manyFields(BenchSelection &selection, const char *name)
     BenchTable::faster(BenchTable::named(name, rows.count()), times[0].sum(), times[1].sum(), 20);
 }
 
-// What no editor made with the component stays below.
+// The cheapest way we found to show as many rows with the component.
 void titlesAlone(int rows)
 {
     BenchTitles titles;
