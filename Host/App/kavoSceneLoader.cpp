@@ -43,8 +43,6 @@ kavoSceneLoader::kavoSceneLoader(QObject *parent)
     });
 }
 
-kavoSceneLoader::~kavoSceneLoader() = default;
-
 void kavoSceneLoader::load(const QStringList &files)
 {
     cancel();
@@ -97,9 +95,9 @@ void kavoSceneLoader::addFile(const std::shared_ptr<kavoImportedScene> &file)
 
 void kavoSceneLoader::build()
 {
-    m_builder = std::make_unique<kavoSceneBuilder>(m_imported);
-    connect(m_builder.get(), &kavoSceneBuilder::finished, this, &kavoSceneLoader::conclude);
-    connect(m_builder.get(), &kavoSceneBuilder::progress, this, [this](int percent) {
+    m_builder = new kavoSceneBuilder(m_imported, this);
+    connect(m_builder, &kavoSceneBuilder::finished, this, &kavoSceneLoader::conclude);
+    connect(m_builder, &kavoSceneBuilder::progress, this, [this](int percent) {
         emit progress(
             parsingShare + percent * (100 - parsingShare) / 100, tr("Building the scene"));
     });
@@ -128,9 +126,9 @@ void kavoSceneLoader::conclude()
 // The confirmation may run an event loop, in which this load ends or another begins.
 bool kavoSceneLoader::mayReplaceScene()
 {
-    const QPointer<kavoSceneBuilder> builder = m_builder.get();
+    const QPointer<kavoSceneBuilder> builder = m_builder;
     const bool mayReplace = m_mayReplaceScene();
-    const bool isSameLoad = builder && builder == m_builder.get();
+    const bool isSameLoad = builder && builder == m_builder;
     if (isSameLoad && !mayReplace)
         cancel();
     return isSameLoad && mayReplace;
@@ -166,6 +164,7 @@ void kavoSceneLoader::reset()
     m_imported.clear();
     if (m_builder) { // perhaps in the midst of a signal
         m_builder->disconnect(this);
-        m_builder.release()->deleteLater();
+        m_builder->deleteLater();
+        m_builder = nullptr;
     }
 }

@@ -28,7 +28,6 @@ class kavoSceneLoader : public QObject
 
 public:
     explicit kavoSceneLoader(QObject *parent = nullptr);
-    ~kavoSceneLoader() override;
 
     /// Begins to load; a load under way is canceled first. Ends in exactly one of `loaded`,
     /// `failed` and `canceled`; an empty list loads nothing. The open scene is not touched. As
@@ -79,6 +78,6 @@ private:
     std::vector<std::shared_ptr<kavoImportedScene>> m_imported;
     std::function<bool()> m_mayReplaceScene = [] { return true; };
     kavoSceneImporter *m_importer;
-    std::unique_ptr<kavoSceneBuilder> m_builder;
+    kavoSceneBuilder *m_builder = nullptr;
     QTimer m_retry; ///< of concluding
 };

@@ -2,6 +2,7 @@
 
 #include <kavoContainers.h>
 #include <kavoNodeUtils.h>
+#include <kavoSceneBuilder.h>
 #include <kavoSceneLoader.h>
 #include <kavoScenegraph.h>
 #include <kavoTestHost.h>
@@ -53,12 +54,14 @@ QString damagedFile(const QTemporaryDir &folder, Damage damage)
     return file;
 }
 
-/// Waits until nothing more can come of what was canceled.
-void rest(kavoSceneLoader &loader)
+/// Waits until the worker is through with what was canceled.
+/// \returns whether nothing can come of it any more: no scene is under construction
+bool isAtRest(kavoSceneLoader &loader)
 {
     loader.shutDown();
     QCoreApplication::processEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    return !loader.findChild<kavoSceneBuilder *>();
 }
 
 /// A pipe that keeps its readers waiting for a moment, then is empty whenever they look.
@@ -205,16 +208,18 @@ private slots:
     void cancelingEndsTheLoadAtOnceAndForGood()
     {
         kavoSceneLoader loader;
+        QSignalSpy progress(&loader, &kavoSceneLoader::progress);
         QSignalSpy canceled(&loader, &kavoSceneLoader::canceled);
         QSignalSpy failed(&loader, &kavoSceneLoader::failed);
         QSignalSpy loaded(&loader, &kavoSceneLoader::loaded);
         loader.load({ model(house) });
-        QTest::qWait(30); // the worker is in the midst of it
+        QTRY_VERIFY(progress.count() > 1); // the worker is in the midst of it
         loader.cancel();
         QCOMPARE(canceled.count(), 1);
         QVERIFY(!loader.isLoading());
-        rest(loader);
-        QCOMPARE(loaded.count() + failed.count(), 0);
+        progress.clear();
+        QVERIFY(isAtRest(loader));
+        QCOMPARE(progress.count() + loaded.count() + failed.count(), 0);
     }
 
     void shuttingDownWaitsForTheWorker()
@@ -241,8 +246,29 @@ private slots:
         // Their textures take longer than a slice.
         loader.load({ model(truck), model(truck), model(truck) });
         QTRY_COMPARE_WITH_TIMEOUT(canceled.count(), 1, 20000);
-        rest(loader);
+        QVERIFY(isAtRest(loader));
         QCOMPARE(loaded.count(), 0);
+    }
+
+    void nothingIsToldOfACanceledSceneWhileAReceiverWaits()
+    {
+        kavoSceneLoader loader;
+        QSignalSpy progress(&loader, &kavoSceneLoader::progress);
+        QSignalSpy canceled(&loader, &kavoSceneLoader::canceled);
+        connect(&loader, &kavoSceneLoader::progress, [&](int percent) {
+            if (percent > 75)
+                QTimer::singleShot(0, &loader, &kavoSceneLoader::cancel); // between two slices
+        });
+        int toldBefore = 0, toldAfter = 0;
+        connect(&loader, &kavoSceneLoader::canceled, [&] {
+            toldBefore = progress.count();
+            for (int round = 0; round < 20; ++round) // a slice each
+                QCoreApplication::processEvents();
+            toldAfter = progress.count();
+        });
+        loader.load({ model(truck), model(truck), model(truck) });
+        QTRY_COMPARE_WITH_TIMEOUT(canceled.count(), 1, 20000);
+        QCOMPARE(toldAfter, toldBefore);
     }
 
     void loadingAgainCancelsTheLoadBefore()
@@ -254,7 +280,7 @@ private slots:
         loader.load({ model(truck) });
         QTRY_COMPARE(loaded.count(), 1);
         QCOMPARE(canceled.count(), 1);
-        rest(loader);
+        QVERIFY(isAtRest(loader));
         QCOMPARE(loaded.count(), 1);
     }
 
