@@ -59,6 +59,11 @@ kavoLibraryLog::~kavoLibraryLog()
         write(m_text);
 }
 
+bool kavoLibraryLog::hasComplaints() const
+{
+    return m_hasComplaints || (!m_text.isEmpty() && isComplaint(m_text));
+}
+
 // The library hands over pieces of lines.
 void kavoLibraryLog::append(const char *data, int size, void *log)
 {

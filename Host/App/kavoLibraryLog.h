@@ -17,12 +17,12 @@ public:
 
     /// Whether something was said so far that is more than information: what a reader says of a
     /// file that it does not understand is at any of the other levels.
-    bool hasComplaints() const { return m_hasComplaints; }
+    bool hasComplaints() const;
 
 private:
     static void append(const char *data, int size, void *log);
 
     const osg::LogLevel m_level; ///< as it was before
-    QByteArray m_text;
+    QByteArray m_text; ///< of a line that has not ended
     bool m_hasComplaints = false;
 };
