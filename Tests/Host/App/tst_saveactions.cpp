@@ -1,6 +1,7 @@
 #include "OSGThrowingMark.h"
 
 #include <QKAVODockWindowManager.h>
+#include <kavoChangeMonitor.h>
 #include <kavoDocument.h>
 #include <kavoMainWindow.h>
 #include <kavoScenegraph.h>
@@ -19,6 +20,9 @@
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QtTest>
+
+#include <functional>
+#include <memory>
 
 // Saving by keys and dialogs of the main window.
 class tst_saveactions : public QObject
@@ -50,14 +54,17 @@ private slots:
 
 private:
     void edit();
+    void drainChanges();
     void writeScene(const QString &file, const QByteArray &rootName) const;
     QByteArray saved() const;
+    template <class Dialog> void whenOpen(const std::function<void(Dialog &)> &act);
     void answerSaveDialog(const QString &file);
     void drop(const QString &file);
     void answerNextQuestion(QMessageBox::StandardButton button);
 
     kavoMainWindow *m_window = nullptr;
     std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<QTimer> m_user;
     QString m_file, m_question;
 };
 
@@ -72,6 +79,7 @@ void tst_saveactions::initTestCase()
 
 void tst_saveactions::init()
 {
+    m_user.reset();
     m_folder = std::make_unique<QTemporaryDir>();
     m_file = m_folder->filePath("ship.osg");
     writeScene(m_file, "Ship");
@@ -90,6 +98,12 @@ void tst_saveactions::edit()
     QTRY_VERIFY(m_window->isWindowModified());
 }
 
+void tst_saveactions::drainChanges()
+{
+    QCoreApplication::processEvents();
+    m_window->findChild<kavoChangeMonitor *>()->drain();
+}
+
 void tst_saveactions::writeScene(const QString &file, const QByteArray &rootName) const
 {
     QFile scene(file);
@@ -103,12 +117,24 @@ QByteArray tst_saveactions::saved() const
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
+// What opens a dialog returns when it closes, so what the user does in it is arranged beforehand.
+template <class Dialog> void tst_saveactions::whenOpen(const std::function<void(Dialog &)> &act)
+{
+    m_user = std::make_unique<QTimer>();
+    connect(m_user.get(), &QTimer::timeout, this, [this, act] {
+        auto *dialog = qobject_cast<Dialog *>(QApplication::activeModalWidget());
+        if (!dialog)
+            return;
+        m_user->stop();
+        act(*dialog);
+    });
+    m_user->start(10);
+}
+
 void tst_saveactions::answerSaveDialog(const QString &file)
 {
-    QTimer::singleShot(300, this, [file] {
-        auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
-        QVERIFY(dialog);
-        auto *name = dialog->findChild<QLineEdit *>();
+    whenOpen<QFileDialog>([file](QFileDialog &dialog) {
+        auto *name = dialog.findChild<QLineEdit *>();
         name->setText(file);
         QTest::keyClick(name, Qt::Key_Return);
     });
@@ -127,17 +153,15 @@ void tst_saveactions::drop(const QString &file)
 void tst_saveactions::answerNextQuestion(QMessageBox::StandardButton button)
 {
     m_question.clear();
-    QTimer::singleShot(200, this, [this, button] {
-        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-        QVERIFY(box);
-        m_question = box->text();
-        QTest::mouseClick(static_cast<QWidget *>(box->button(button)), Qt::LeftButton);
+    whenOpen<QMessageBox>([this, button](QMessageBox &box) {
+        m_question = box.text();
+        QTest::mouseClick(static_cast<QWidget *>(box.button(button)), Qt::LeftButton);
     });
 }
 
 void tst_saveactions::theTitleMarksUnsavedChanges()
 {
-    QTest::qWait(50);
+    drainChanges();
     QVERIFY(!m_window->isWindowModified());
     QCOMPARE(m_window->windowTitle(), QStringLiteral("ship.osg[*]"));
     edit();
@@ -151,10 +175,11 @@ void tst_saveactions::lookingAtAModelIsNoChange()
     QVERIFY(opened.wait(20000));
     for (const QString &key : m_window->docks().keys()) {
         m_window->docks().show(key);
-        QTest::qWait(50);
+        m_window->docks().window(key)->grab();
+        drainChanges();
     }
     QVERIFY(m_window->select("Geometry-mesh002Node"));
-    QTest::qWait(200);
+    drainChanges();
     QVERIFY(!m_window->isWindowModified());
 }
 
@@ -204,7 +229,7 @@ void tst_saveactions::anotherSceneWaitsUntilTheSaveDialogIsGone()
 
 void tst_saveactions::quittingWithoutChangesAsksNothing()
 {
-    QTest::qWait(50);
+    drainChanges();
     QVERIFY(m_window->close());
 }
 
