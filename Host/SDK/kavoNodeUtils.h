@@ -17,9 +17,11 @@ public:
     static bool hasName(const osg::NodePtr &node);
 
     /// The attachment of that type or of one derived from it, null if there is none.
+    /// \param container not null
     static osg::AttachmentPtr findAttachment(
         const osg::AttachmentContainerPtr &container, const osg::FieldContainerType &type);
 
     /// Whether no bit of the node's traversal mask is cleared.
+    /// \param node not null
     static bool isFullyVisible(const osg::NodePtr &node);
 };
