@@ -1,4 +1,5 @@
 #include "OSGThrowingMark.h"
+#include "kavoDialogUser.h"
 
 #include <QKAVODockWindowManager.h>
 #include <kavoChangeMonitor.h>
@@ -18,10 +19,8 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QTimer>
 #include <QtTest>
 
-#include <functional>
 #include <memory>
 
 // Saving by keys and dialogs of the main window.
@@ -57,14 +56,14 @@ private:
     void drainChanges();
     void writeScene(const QString &file, const QByteArray &rootName) const;
     QByteArray saved() const;
-    template <class Dialog> void whenOpen(const std::function<void(Dialog &)> &act);
+    QString takeMessage() const;
     void answerSaveDialog(const QString &file);
     void drop(const QString &file);
     void answerNextQuestion(QMessageBox::StandardButton button);
 
     kavoMainWindow *m_window = nullptr;
     std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<QTimer> m_user;
+    std::unique_ptr<kavoDialogUser> m_user;
     QString m_file, m_question;
 };
 
@@ -117,23 +116,15 @@ QByteArray tst_saveactions::saved() const
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-// What opens a dialog returns when it closes, so what the user does in it is arranged beforehand.
-template <class Dialog> void tst_saveactions::whenOpen(const std::function<void(Dialog &)> &act)
+QString tst_saveactions::takeMessage() const
 {
-    m_user = std::make_unique<QTimer>();
-    connect(m_user.get(), &QTimer::timeout, this, [this, act] {
-        auto *dialog = qobject_cast<Dialog *>(QApplication::activeModalWidget());
-        if (!dialog)
-            return;
-        m_user->stop();
-        act(*dialog);
-    });
-    m_user->start(10);
+    const std::unique_ptr<QMessageBox> box(m_window->findChild<QMessageBox *>());
+    return box ? box->text() : QString();
 }
 
 void tst_saveactions::answerSaveDialog(const QString &file)
 {
-    whenOpen<QFileDialog>([file](QFileDialog &dialog) {
+    m_user = std::make_unique<kavoDialogUser>([file](QWidget &dialog) {
         auto *name = dialog.findChild<QLineEdit *>();
         name->setText(file);
         QTest::keyClick(name, Qt::Key_Return);
@@ -153,7 +144,8 @@ void tst_saveactions::drop(const QString &file)
 void tst_saveactions::answerNextQuestion(QMessageBox::StandardButton button)
 {
     m_question.clear();
-    whenOpen<QMessageBox>([this, button](QMessageBox &box) {
+    m_user = std::make_unique<kavoDialogUser>([this, button](QWidget &dialog) {
+        const auto &box = dynamic_cast<QMessageBox &>(dialog);
         m_question = box.text();
         QTest::mouseClick(static_cast<QWidget *>(box.button(button)), Qt::LeftButton);
     });
@@ -315,10 +307,7 @@ void tst_saveactions::aSaveThatFailsIsShownAndKeepsTheWindow()
     answerNextQuestion(QMessageBox::Save);
     QVERIFY(!m_window->close());
     QVERIFY(m_window->isWindowModified());
-    const auto boxes = m_window->findChildren<QMessageBox *>();
-    QCOMPARE(boxes.size(), 1);
-    QVERIFY(boxes.first()->text().contains(m_file));
-    delete boxes.first();
+    QVERIFY(takeMessage().contains(m_file));
 }
 
 void tst_saveactions::aFieldTypeThatThrowsFailsTheSave_data()
@@ -341,10 +330,7 @@ void tst_saveactions::aFieldTypeThatThrowsFailsTheSave()
     QTest::keyClick(m_window, Qt::Key_S, Qt::ControlModifier);
     QVERIFY(!QApplication::overrideCursor());
     QCOMPARE(saved(), before);
-    const auto boxes = m_window->findChildren<QMessageBox *>();
-    QCOMPARE(boxes.size(), 1);
-    QTEST(boxes.first()->text(), "message");
-    delete boxes.first();
+    QTEST(takeMessage(), "message");
 }
 
 void tst_saveactions::cleanupTestCase()
