@@ -124,6 +124,7 @@ void tst_Destruction::whatWaitsForItsEndMayBeReferencedMeanwhile()
     const RefPtr<WatchingGroup::Ptr> core(WatchingGroup::make());
     NodePtr root = makeChain(depth);
     const NodePtr lowest = lowestOf(root);
+    lowest->setCore(core.get());
     std::vector<UInt32> leaves;
     for (int i = 0; i < 3; ++i) {
         const NodePtr leaf = makeNodeFor(core.get());

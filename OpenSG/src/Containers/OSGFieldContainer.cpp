@@ -185,14 +185,22 @@ void FieldContainer::destroy()
     }
 }
 
+// It holds a reference to itself: a client that takes and drops one meanwhile must not destroy it
+// again.
 void FieldContainer::destroyNow()
 {
+    header().refCount = 1;
     const UInt32 id = header().id;
     if (ChangeList *changes = Thread::getCurrentChangeList()) {
         changes->addDestroyed(id);
     }
     FieldContainerFactory::the()->unregisterContainer(id);
-    onDestroy();
+    try {
+        onDestroy();
+    } catch (...) {
+        delete this;
+        throw;
+    }
     delete this;
 }
 
