@@ -5,6 +5,7 @@
 #include "kavoImportedScene.h"
 #include "kavoTextureReader.h"
 #include "kavoTextureSlot.h"
+#include "kavoTry.h"
 
 #include <assimp/config.h>
 #include <assimp/postprocess.h>
@@ -71,14 +72,13 @@ void kavoSceneImporter::cancel()
 
 void kavoSceneImporter::run(const std::shared_ptr<Job> &job)
 {
-    try {
+    const auto failure = kavoTry([&] {
         parse(*job);
         readTextures(*job);
-    } catch (const kavoImportCanceled &) {
+    });
+    if (job->canceled)
         return;
-    } catch (const std::exception &error) {
-        job->reason = QString::fromUtf8(error.what());
-    }
+    job->reason = failure.value_or(QString());
     QMetaObject::invokeMethod(
         this, [this, job] { conclude(job); }, Qt::QueuedConnection);
 }

@@ -4,6 +4,7 @@
 #include "kavoContainers.h"
 #include "kavoSceneCameras.h"
 #include "kavoSceneEvents.h"
+#include "kavoTry.h"
 
 #include <OpenSG/OSGPerspectiveCamera.h>
 
@@ -106,11 +107,10 @@ osg::NodePtr kavoViewport::nodeAt(const QPoint &point)
 void kavoViewport::initializeGL()
 {
     connect(context(), &QOpenGLContext::aboutToBeDestroyed, this, &kavoViewport::dropRenderer);
-    try {
-        m_renderer = std::make_unique<kavoSceneRenderer>(m_geometry);
-    } catch (const std::exception &error) {
-        kavoLog::error("The scene cannot be drawn: %s", error.what());
-    }
+    const auto failure
+        = kavoTry([this] { m_renderer = std::make_unique<kavoSceneRenderer>(m_geometry); });
+    if (failure)
+        kavoLog::error("The scene cannot be drawn: %s", qUtf8Printable(*failure));
 }
 
 void kavoViewport::paintGL()
