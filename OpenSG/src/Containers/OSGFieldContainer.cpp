@@ -181,12 +181,14 @@ void FieldContainer::destroy()
         FieldContainer *next = std::exchange(firstToGo, firstToGo->header().nextToGo);
         if (--next->header().refCount <= 0) {
             next->destroyNow();
+        } else if (ChangeList *changes = Thread::getCurrentChangeList()) {
+            changes->addSubRefd(next->header().id);
         }
     }
 }
 
 // It holds a reference to itself: a client that takes and drops one meanwhile must not destroy it
-// again.
+// again. An exception goes no further: handles are dropped in destructors.
 void FieldContainer::destroyNow()
 {
     header().refCount = 1;
@@ -198,8 +200,7 @@ void FieldContainer::destroyNow()
     try {
         onDestroy();
     } catch (...) {
-        delete this;
-        throw;
+        SWARNING << getTypeName() << "::onDestroy threw an exception" << endLog;
     }
     delete this;
 }
