@@ -39,7 +39,7 @@ void requireScene(const aiScene *scene, const Assimp::Importer &importer)
 struct kavoSceneImporter::Job
 {
     std::shared_ptr<kavoImportedScene> result = std::make_shared<kavoImportedScene>();
-    QString reason;
+    std::optional<QString> reason; // of a failure
     std::atomic_bool canceled { false };
 };
 
@@ -78,7 +78,7 @@ void kavoSceneImporter::run(const std::shared_ptr<Job> &job)
     });
     if (job->canceled)
         return;
-    job->reason = failure.value_or(QString());
+    job->reason = failure;
     QMetaObject::invokeMethod(
         this, [this, job] { conclude(job); }, Qt::QueuedConnection);
 }
@@ -120,9 +120,9 @@ void kavoSceneImporter::conclude(const std::shared_ptr<Job> &job)
     if (job != m_job)
         return; // canceled meanwhile
     m_job.reset();
-    if (job->reason.isEmpty()) {
+    if (!job->reason) {
         emit finished(job->result);
     } else {
-        emit failed(job->result->fileName, job->reason);
+        emit failed(job->result->fileName, *job->reason);
     }
 }
