@@ -32,6 +32,11 @@ kavoFCEditorWidget::kavoFCEditorWidget(QWidget *parent, const char *)
     m_colorFactory = new QtKavoColorEditorFactory(this);
     setFactoryForManager(m_colorManager, m_colorFactory);
 
+    for (auto *manager : std::initializer_list<QtAbstractPropertyManager *> {
+             m_variantManager, m_enumManager, m_colorManager })
+        connect(manager, &QtAbstractPropertyManager::propertyDestroyed, this,
+            [this](QtProperty *row) { m_bindings.erase(row); });
+
     setPropertiesWithoutValueMarked(true);
     setRootIsDecorated(true);
     setAcceptDrops(true);
@@ -44,6 +49,7 @@ kavoFCEditorWidget::~kavoFCEditorWidget()
     unsetFactoryForManager(m_enumManager);
     deleteAllRows();
     delete m_variantManager;
+    delete m_enumManager;
     // The factory of colours cannot be disconnected without a warning, but knows when they go.
     connect(m_colorManager, &QObject::destroyed, this,
         [this] { unsetFactoryForManager(m_colorManager); });

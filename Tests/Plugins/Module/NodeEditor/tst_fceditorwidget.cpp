@@ -32,6 +32,7 @@ private slots:
     void anOpenRowEditorGoesWithItsTree();
     void anEditorTakesUnfinishedTypingWithIt();
     void rowsLeftFromAnEarlierContainerAreBoundNoMore();
+    void rowsThatTheirManagersDeletedAreBoundNoMore();
     void showingTheSameContainerAgainMakesNewRows();
     void showingAnotherContainerReplacesTheRows();
     void theRowsOfAnotherContainerAreBoundToIt();
@@ -164,6 +165,20 @@ void TestFCEditorWidget::rowsLeftFromAnEarlierContainerAreBoundNoMore()
     QCOMPARE(sampler->minFilter.getValue(), GLenum(0));
     QCOMPARE(output.text(), QByteArray("property 'minFilter' changed to '9729'\n"));
     osg::subRefCP(sampler);
+}
+
+// A new row may take the address of a deleted one.
+void TestFCEditorWidget::rowsThatTheirManagersDeletedAreBoundNoMore()
+{
+    const osg::FieldSamplerPtr sampler = osg::FieldSampler::create();
+    osg::addRefCP(sampler);
+    kavoFCEditorWidget editor(nullptr, nullptr);
+    editor.setFC("sampler", sampler);
+    const QList<QtProperty *> values = top(editor)->subProperties();
+    for (const char *name : { "minFilter", "color4", "flag" })
+        row(editor, name)->propertyManager()->clear();
+    osg::subRefCP(sampler);
+    QCOMPARE(boundRows(editor, values), 0);
 }
 
 void TestFCEditorWidget::showingTheSameContainerAgainMakesNewRows()
