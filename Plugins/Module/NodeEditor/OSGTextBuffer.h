@@ -44,13 +44,13 @@ public:
         m_size += size;
     }
 
-    void append(char letter) { m_text[m_size++] = letter; }
+    void append(char c) { m_text[m_size++] = c; }
 
-    /// Appends a letter so many times, a few more at one go than it counts.
-    void append(std::size_t count, char letter)
+    /// Appends a character so many times, a few more at one go than it counts.
+    void append(std::size_t count, char c)
     {
         for (std::size_t done = 0; done < count; done += stride)
-            std::memset(&m_text[m_size + done], letter, stride);
+            std::memset(&m_text[m_size + done], c, stride);
         m_size += count;
     }
 

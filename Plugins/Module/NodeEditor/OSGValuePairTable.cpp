@@ -41,8 +41,8 @@ std::size_t slotOf(const std::string &key, std::size_t slotCount)
     return slot % slotCount;
 }
 
-// A newline takes the byte after it along, be it a comma, half a letter or another newline, and
-// leaves a blank: readers of these files count on it.
+// A newline takes the byte after it along, be it a comma, part of a character or another newline,
+// and leaves a blank: readers of these files count on it.
 std::string withoutNewlines(const std::string &value)
 {
     std::string text;
