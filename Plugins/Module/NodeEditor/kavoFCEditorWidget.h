@@ -27,6 +27,8 @@ class kavoFCEditorWidget : public QtTreePropertyBrowser
 public:
     /// Lists with at least this many elements are summarised and not opened or listed.
     static constexpr osg::UInt32 maxListedElements = 100;
+    /// So many containers are opened one inside the other; several times as many exhaust the stack.
+    static constexpr int maxDepth = 2000;
 
     /// \param name accepted for the host's widget convention and not used
     kavoFCEditorWidget(QWidget *parent, const char *name);
@@ -36,7 +38,8 @@ public:
     /// \param name stands before the container's type in the title of the top row
     void setFC(const QString &name, osg::FieldContainerPtr fc);
     /// Adds a container with its fields below a row, or as top row if parent is null. Follows
-    /// pointer fields without a limit of depth; only links back to owners are cut off.
+    /// pointer fields; links back to owners are cut off. A container inside itself, and one deeper
+    /// than maxDepth, is added by setFCnr().
     /// \param expand whether the new row is open; a top row always is
     void setFC(QtProperty *parent, osg::FieldContainerPtr fc, const QString &name, bool expand);
     /// The same without fields: the container's title, with a node's name, is all.
@@ -114,5 +117,6 @@ private:
     QtKavoColorPropertyManager *m_colorManager = nullptr;
     QtKavoColorEditorFactory *m_colorFactory = nullptr;
     bool m_building = false;
+    QVector<osg::UInt32> m_path; ///< ids of the containers being filled, the outermost first
     std::map<QtProperty *, FieldBinding> m_bindings;
 };

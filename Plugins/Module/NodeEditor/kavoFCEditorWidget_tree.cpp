@@ -7,6 +7,7 @@
 #include <OpenSG/OSGAttachmentContainer.h>
 #include <OpenSG/OSGNode.h>
 
+#include <QScopeGuard>
 #include <QSet>
 
 // A field on its way into the tree: where it comes from and the group that it goes into.
@@ -62,6 +63,11 @@ void kavoFCEditorWidget::setFC(
 {
     if (fc == osg::NullFC)
         return;
+    const osg::UInt32 containerId = fc.getFieldContainerId();
+    if (m_path.contains(containerId) || m_path.size() == maxDepth)
+        return setFCnr(parent, fc, name, expand);
+    m_path.append(containerId);
+    const auto leave = qScopeGuard([this] { m_path.removeLast(); });
     QtProperty *group = addGroup(parent, titleOf(fc, name));
     const osg::FieldContainerType &type = fc->getType();
     for (osg::UInt32 id = 1; id <= type.getNumFieldDescs(); ++id) {
