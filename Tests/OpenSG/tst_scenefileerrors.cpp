@@ -5,6 +5,7 @@
 #include <OpenSG/OSGGeometry.h>
 #include <OpenSG/OSGGroup.h>
 #include <OpenSG/OSGImage.h>
+#include <OpenSG/OSGSimpleAttachments.h>
 #include <OpenSG/OSGSwitch.h>
 
 #include <QtTest>
@@ -25,6 +26,8 @@ private slots:
 
     void anErrorTellsLineAndToken_data();
     void anErrorTellsLineAndToken();
+    void anErrorShowsTheFirstLineOfItsToken();
+    void aNullCharacterIsLeftOutAndReported();
     void aWrongValueLeavesTheFieldAlone();
     void unknownContainersAreSkippedWithAllThatIsInThem();
     void theListGoesOnBehindAnUnknownContainer();
@@ -73,6 +76,9 @@ void tst_SceneFileErrors::anErrorTellsLineAndToken_data()
         << QByteArray("attachments [ StateChunk { } ]") << 3 << QByteArray("StateChunk");
     QTest::newRow("reserved word") << QByteArray("PROTO 1") << 3 << QByteArray("PROTO");
     QTest::newRow("foreign character") << QByteArray("choice 'a'") << 3 << QByteArray("'");
+    QTest::newRow("five numbers for a volume")
+        << QByteArray("choice 1 } volume 1 2 3 4 5 travMask 7 core Group {") << 3
+        << QByteArray("travMask");
     QTest::newRow("name that is none")
         << QByteArray("attachments [ DEF 5 Name { } ]") << 3 << QByteArray("5");
 }
@@ -86,6 +92,25 @@ void tst_SceneFileErrors::anErrorTellsLineAndToken()
     const QString expected = QStringLiteral("WARNING:  -----> parse error in Line %1, read '%2'\n");
     QCOMPARE(QString::fromStdString(m_text->takeLog()), expected.arg(line + 1).arg(token.data()));
     QCOMPARE(root->getNChildren(), 2u);
+}
+
+void tst_SceneFileErrors::anErrorShowsTheFirstLineOfItsToken()
+{
+    m_text->read("Node { attachments Name { name \"never\nclosed } }");
+    const QString log = QString::fromStdString(m_text->takeLog());
+    QVERIFY2(log.startsWith("WARNING:  -----> parse error in Line 1, read '\"never'\n"),
+        qPrintable(log));
+}
+
+// Fields take text up to its first null character: the rest must not get lost without a word.
+void tst_SceneFileErrors::aNullCharacterIsLeftOutAndReported()
+{
+    std::string text = "Node {\nattachments Name { name \"abc def\" } }";
+    text[text.find("c d") + 1] = '\0';
+    const NodePtr node = m_text->readFirst(text);
+    QCOMPARE(std::string(getName(node)), std::string("abcdef"));
+    QCOMPARE(m_text->takeLog(),
+        std::string("WARNING:  A null character in the text in Line 2 is left out\n"));
 }
 
 void tst_SceneFileErrors::aWrongValueLeavesTheFieldAlone()

@@ -9,6 +9,11 @@ namespace {
 
 constexpr std::size_t shownTokenLength = 60;
 
+std::string_view firstLine(std::string_view text)
+{
+    return text.substr(0, text.find_first_of("\r\n"));
+}
+
 }
 
 bool SceneCursor::atWord(std::string_view word) const
@@ -33,7 +38,7 @@ bool SceneCursor::fail()
     if (_reportedPosition != _scanner.position()) {
         _reportedPosition = _scanner.position();
         SWARNING << "-----> parse error in Line " << token.line << ", read '"
-                 << token.text.substr(0, shownTokenLength) << "'" << endLog;
+                 << firstLine(token.text).substr(0, shownTokenLength) << "'" << endLog;
     }
     return false;
 }

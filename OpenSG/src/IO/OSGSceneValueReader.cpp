@@ -2,6 +2,9 @@
 
 #include "OSGFieldSyntax.h"
 
+#include <OpenSG/OSGLog.h>
+
+#include <algorithm>
 #include <strings.h>
 
 OSG_BEGIN_NAMESPACE
@@ -49,8 +52,20 @@ bool SceneValueReader::readString()
         i += text[i] == '\\' && (next == '"' || next == '\\');
         _text += text[i];
     }
+    leaveOutNulls();
     _scanner.advance();
     return true;
+}
+
+// Fields take a text up to its first null character.
+void SceneValueReader::leaveOutNulls()
+{
+    const auto end = std::remove(_text.begin(), _text.end(), '\0');
+    if (end != _text.end()) {
+        SWARNING << "A null character in the text in Line " << _scanner.token().line
+                 << " is left out" << endLog;
+    }
+    _text.erase(end, _text.end());
 }
 
 bool SceneValueReader::readNumbers(UInt32 count, bool areReals)
@@ -74,11 +89,12 @@ bool SceneValueReader::readVolume()
     if (!readNumbers(sphereCount, true)) {
         return false;
     }
-    for (UInt32 count = sphereCount; isNumber(true) && count < boxCount; ++count) {
+    UInt32 count = sphereCount;
+    for (; isNumber(true) && count < boxCount; ++count) {
         _text.append(" ").append(_scanner.token().text);
         _scanner.advance();
     }
-    return true;
+    return count == sphereCount || count == boxCount;
 }
 
 bool SceneValueReader::isNumber(bool isReal) const

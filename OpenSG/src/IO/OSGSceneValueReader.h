@@ -25,6 +25,7 @@ public:
 private:
     bool readBool();
     bool readString();
+    void leaveOutNulls();
     bool readNumbers(UInt32 count, bool areReals);
     bool readVolume();
     bool isNumber(bool isReal) const;
