@@ -1,6 +1,9 @@
+#include "NotInStock.h"
+
 #include <OpenSG/OSGBaseFunctions.h>
 #include <OpenSG/OSGChangeList.h>
 #include <OpenSG/OSGComponentTransform.h>
+#include <OpenSG/OSGFieldContainerFactory.h>
 #include <OpenSG/OSGInverseTransform.h>
 #include <OpenSG/OSGNode.h>
 #include <OpenSG/OSGSimpleGeometry.h>
@@ -28,6 +31,8 @@ private slots:
     void theMatrixCanBeEditedInPlace();
     void anInverseTransformPlacesItsChildrenInTheWorld();
     void whatAnInverseTransformTakesUpIsToldInItsParent();
+    void aParentThatIsNullIsPassedOver_data();
+    void aParentThatIsNullIsPassedOver();
     void lightsTakeColoursAsNumbers();
     void spotAnglesAreInRadiansOrDegrees();
     void aLightDoesNotHoldItsBeacon();
@@ -137,6 +142,39 @@ void tst_Transforms::whatAnInverseTransformTakesUpIsToldInItsParent()
     inverse->addChild(makeBox(2.f, 2.f, 2.f, 1, 1, 1));
     QCOMPARE(inverse->getVolume(true).getMax(), Pnt3f(-6.f, 1.f, 1.f));
     QCOMPARE(root->getVolume(true).getMax(), Pnt3f(1.f, 1.f, 1.f));
+}
+
+void tst_Transforms::aParentThatIsNullIsPassedOver_data()
+{
+    QTest::addColumn<QByteArray>("core");
+    QTest::addColumn<float>("rightEnd");
+    QTest::newRow("Group") << QByteArray("Group") << 1.f;
+    QTest::newRow("Transform") << QByteArray("Transform") << 1.f;
+    QTest::newRow("InverseTransform") << QByteArray("InverseTransform") << -6.f;
+}
+
+// A text that is pushed into a field of handles adds null to it.
+void tst_Transforms::aParentThatIsNullIsPassedOver()
+{
+    NOT_IN_STOCK("stock 1.8 crashes");
+    QFETCH(QByteArray, core);
+    QFETCH(float, rightEnd);
+    TransformPtr transform;
+    const NodeRefPtr root(makeCoredNode<Transform>(&transform));
+    transform->getMatrix().setTranslate(7.f, 0.f, 0.f);
+    const NodeCorePtr edited
+        = NodeCorePtr::dcast(FieldContainerFactory::the()->createFieldContainer(core));
+    edited->getField("parents")->pushValueByStr("any text");
+    const NodePtr node = makeNodeFor(edited);
+    edited->getField("parents")->pushValueByStr("any text");
+    root->addChild(node);
+    node->addChild(makeBox(2.f, 2.f, 2.f, 1, 1, 1));
+    node->updateVolume();
+    endEditCP(edited);
+    edited->invalidateVolume();
+    QVERIFY(!node->getVolume().isValid());
+    node->updateVolume();
+    QCOMPARE(node->getVolume().getMax(), Pnt3f(rightEnd, 1.f, 1.f));
 }
 
 void tst_Transforms::lightsTakeColoursAsNumbers()

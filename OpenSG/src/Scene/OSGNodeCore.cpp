@@ -16,7 +16,9 @@ NodeCore::NodeCore(const NodeCore &source)
 void NodeCore::invalidateVolume()
 {
     for (const NodePtr &parent : _mfParents) {
-        parent->invalidateVolume();
+        if (parent) {
+            parent->invalidateVolume();
+        }
     }
 }
 

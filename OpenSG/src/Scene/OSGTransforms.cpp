@@ -2,6 +2,8 @@
 #include <OpenSG/OSGInverseTransform.h>
 #include <OpenSG/OSGNode.h>
 
+#include <algorithm>
+
 OSG_BEGIN_NAMESPACE
 
 void Transform::changed(BitVector whichField, UInt32 origin)
@@ -43,7 +45,9 @@ void InverseTransform::accumulateMatrix(Matrix &result)
 
 void InverseTransform::adjustVolume(Volume &volume)
 {
-    const NodePtr place = getParents().empty() ? NodePtr() : getParents(0)->getParent();
+    const auto isPresent = [](const NodePtr &parent) { return parent != NullFC; };
+    const auto node = std::find_if(_mfParents.begin(), _mfParents.end(), isPresent);
+    const NodePtr place = node != _mfParents.end() ? (*node)->getParent() : NodePtr();
     Matrix fromWorld;
     if (place && place->getToWorld().inverse(fromWorld)) {
         volume.transform(fromWorld);
