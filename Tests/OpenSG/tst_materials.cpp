@@ -14,6 +14,7 @@
 
 #include <QtTest>
 
+#include <algorithm>
 #include <type_traits>
 
 using namespace osg;
@@ -39,6 +40,9 @@ private slots:
     void aSimpleMaterialsChunksAreItsOwn();
     void aTexturedMaterialMakesFourChunksAndAState();
     void theStateFollowsTheMaterial();
+    void manyChunksAreFoundInTheirSlots();
+    void allAtOnceTakeTheSameSlotsAsOneAfterTheOther();
+    void aChunkWhoseSlotIsTakenIsNotHeldByTheState();
     void makeStateLeavesTheStateToTheCaller();
     void transparencyIsFoundOrForced();
     void aMaterialGroupCountsItsMaterial();
@@ -225,6 +229,59 @@ void tst_Materials::theStateFollowsTheMaterial()
         = MaterialChunkPtr::dcast(material->getState()->getChunk(MaterialChunk::getClassType()));
     QCOMPARE(chunk->getDiffuse(), Color4f(1.f, 0.5f, 0.f, 0.75f));
     QVERIFY(material->getState()->getChunk(BlendChunk::getClassType()) != NullFC);
+}
+
+void tst_Materials::manyChunksAreFoundInTheirSlots()
+{
+    const ChunkMaterialRefPtr material(ChunkMaterial::create());
+    for (Int32 slot = 0; slot < 2000; ++slot) {
+        material->getChunks().push_back(BlendChunk::create());
+        material->getChunks().push_back(TextureChunk::create());
+        material->getSlots().push_back(slot);
+        material->getSlots().push_back(slot);
+    }
+    endEditCP(material.get());
+    const StatePtr state = material->getState();
+    QCOMPARE(state->getChunks().size(), 4000u);
+    for (UInt32 slot = 0; slot < 2000; slot += 37) {
+        QVERIFY(state->getChunk(BlendChunk::getClassType(), slot) == material->getChunks(2 * slot));
+        QVERIFY(state->getChunk(TextureChunk::getClassType(), slot)
+            == material->getChunks(2 * slot + 1));
+    }
+}
+
+// Slots that are free, taken or beyond the next free one, and both automatic ones.
+void tst_Materials::allAtOnceTakeTheSameSlotsAsOneAfterTheOther()
+{
+    const RefPtr<SimpleMaterialPtr> material(SimpleMaterial::create());
+    endEditCP(material.get());
+    const RefPtr<StatePtr> expected(material->makeState());
+    for (Int32 i = 0; i < 3000; ++i) {
+        material->getChunks().push_back(
+            i % 3 ? StateChunkPtr(BlendChunk::create()) : StateChunkPtr(MaterialChunk::create()));
+        material->getSlots().push_back(i * 7919 % 500 - 2);
+    }
+    endEditCP(material.get());
+    for (UInt32 i = 0; i < 3000; ++i) {
+        expected.get()->addChunk(material->getChunks(i), material->getSlots(i));
+    }
+    const MFStateChunkPtr &taken = material->getState()->getChunks();
+    const MFStateChunkPtr &oneByOne = expected.get()->getChunks();
+    QVERIFY(taken.size() > 100u && taken.size() < 3000u);
+    QVERIFY(std::equal(taken.begin(), taken.end(), oneByOne.begin(), oneByOne.end()));
+}
+
+void tst_Materials::aChunkWhoseSlotIsTakenIsNotHeldByTheState()
+{
+    const ChunkMaterialRefPtr material(ChunkMaterial::create());
+    const BlendChunkPtr first = BlendChunk::create();
+    const BlendChunkPtr second = BlendChunk::create();
+    material->addChunk(first);
+    material->addChunk(second);
+    const StatePtr state = material->getState();
+    QCOMPARE(first.getRefCount(), 1);
+    QCOMPARE(second.getRefCount(), 2);
+    QVERIFY(state->getChunk(BlendChunk::getClassType()) == second);
 }
 
 void tst_Materials::makeStateLeavesTheStateToTheCaller()

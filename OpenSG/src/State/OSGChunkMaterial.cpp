@@ -3,8 +3,28 @@
 #include <OpenSG/OSGLog.h>
 
 #include <algorithm>
+#include <unordered_map>
+#include <vector>
 
 OSG_BEGIN_NAMESPACE
+
+namespace {
+
+// Of the chunks of each type, by the type's id, in the order of their slots.
+typedef std::unordered_map<UInt32, std::vector<UInt32>> IndicesByType;
+
+IndicesByType indicesByType(const MFStateChunkPtr &chunks)
+{
+    IndicesByType indices;
+    for (UInt32 i = 0; i < chunks.size(); ++i) {
+        if (chunks[i]) {
+            indices[chunks[i]->getType().getId()].push_back(i);
+        }
+    }
+    return indices;
+}
+
+} // namespace
 
 bool ChunkMaterial::addChunk(StateChunkPtr chunk, Int32 slot)
 {
@@ -59,11 +79,24 @@ void ChunkMaterial::clearChunks()
     _heldChunks.follow(_mfChunks);
 }
 
+// Puts each chunk where State::addChunk would, which looks through the whole list every time.
 void ChunkMaterial::fillState(State &state)
 {
+    MFStateChunkPtr &chunks = state.getChunks();
+    IndicesByType taken = indicesByType(chunks);
     for (UInt32 i = 0; i < _mfChunks.size(); ++i) {
-        state.addChunk(_mfChunks[i], slotOf(i));
+        if (const StateChunkPtr chunk = _mfChunks[i]) {
+            std::vector<UInt32> &indices = taken[chunk->getType().getId()];
+            const Int32 slot = slotOf(i) == State::AutoSlotReplace ? 0 : slotOf(i);
+            if (slot >= 0 && static_cast<UInt32>(slot) < indices.size()) {
+                chunks[indices[slot]] = chunk;
+            } else {
+                indices.push_back(chunks.size());
+                chunks.push_back(chunk);
+            }
+        }
     }
+    state.changed(State::ChunksFieldMask, ChangedOrigin::Abstract);
 }
 
 bool ChunkMaterial::hasTransparentPart() const
