@@ -1,11 +1,17 @@
 #include <OpenSG/OSGAction.h>
 #include <OpenSG/OSGBaseFunctions.h>
 #include <OpenSG/OSGFieldContainerFactory.h>
+#include <OpenSG/OSGGraphOpFactory.h>
+#include <OpenSG/OSGMaterialGroup.h>
+#include <OpenSG/OSGMultiPassMaterial.h>
 #include <OpenSG/OSGRefPtr.h>
+#include <OpenSG/OSGSimpleMaterial.h>
 #include <OpenSG/OSGSwitchMaterial.h>
 #include <OpenSG/OSGTransform.h>
 
 #include <QtTest>
+
+#include <memory>
 
 using namespace osg;
 
@@ -25,6 +31,8 @@ private slots:
     void theyAreCloned();
     void theyAreDestroyed();
     void chainsOfMaterialsAreDestroyed();
+    void chainsOfMaterialsAreShared();
+    void chainsOfMaterialsAreDrawnWithTheirLast();
 
 private:
     NodeRefPtr m_root;
@@ -53,6 +61,32 @@ int countNodes(const NodePtr &root)
     visits = 0;
     traverse(root, osgTypedFunctionFunctor1CPtrRef<Action::ResultE, NodePtr>(count));
     return visits;
+}
+
+template <class MaterialT> MaterialPtr makeMaterialOf(const MaterialPtr &part)
+{
+    const auto material = MaterialT::create();
+    material->getMaterials().push_back(part);
+    endEditCP(material, MaterialT::MaterialsFieldMask);
+    return material;
+}
+
+MaterialRefPtr makeChain(const MaterialPtr &last, int links)
+{
+    MaterialRefPtr first(last);
+    for (int link = 1; link < links; ++link) {
+        first = link % 2 ? makeMaterialOf<SwitchMaterial>(first.get())
+                         : makeMaterialOf<MultiPassMaterial>(first.get());
+    }
+    return first;
+}
+
+MaterialGroupPtr addMaterialGroup(const NodePtr &parent, const MaterialPtr &material)
+{
+    const MaterialGroupPtr group = MaterialGroup::create();
+    group->setMaterial(material);
+    parent->addChild(makeNodeFor(group));
+    return group;
 }
 
 } // namespace
@@ -120,17 +154,35 @@ void tst_DeepTrees::theyAreDestroyed()
 
 void tst_DeepTrees::chainsOfMaterialsAreDestroyed()
 {
-    const SwitchMaterialPtr first = SwitchMaterial::create();
-    const UInt32 firstId = first.getFieldContainerId();
-    MaterialRefPtr last(first);
-    for (int link = 1; link < 3 * depth; ++link) {
-        const SwitchMaterialPtr next = SwitchMaterial::create();
-        next->getMaterials().push_back(last.get());
-        endEditCP(next, SwitchMaterial::MaterialsFieldMask);
-        last = next;
-    }
-    last = NullFC;
-    QVERIFY(FieldContainerFactory::the()->getContainer(firstId) == NullFC);
+    const MaterialPtr last = SimpleMaterial::create();
+    const UInt32 lastId = last.getFieldContainerId();
+    makeChain(last, 3 * depth);
+    QVERIFY(FieldContainerFactory::the()->getContainer(lastId) == NullFC);
+}
+
+// Both chains end alike, so that each pair of links is equal once those behind it are one.
+void tst_DeepTrees::chainsOfMaterialsAreShared()
+{
+    NodePtr root = makeCoredNode<Group>();
+    const NodeRefPtr held(root);
+    const MaterialGroupPtr first
+        = addMaterialGroup(root, makeChain(SimpleMaterial::create(), depth).get());
+    const MaterialGroupPtr second
+        = addMaterialGroup(root, makeChain(SimpleMaterial::create(), depth).get());
+    const std::unique_ptr<GraphOp> share(GraphOpFactory::the().create("SharePtr"));
+    share->setParams("includes=Material");
+    QVERIFY(share->traverse(root));
+    QVERIFY(first->getMaterial() == second->getMaterial());
+}
+
+void tst_DeepTrees::chainsOfMaterialsAreDrawnWithTheirLast()
+{
+    const SimpleMaterialPtr last = SimpleMaterial::create();
+    const MaterialRefPtr first = makeChain(last, 3 * depth);
+    QVERIFY(first.get()->getState() == last->getState());
+    QVERIFY(!first.get()->isTransparent());
+    last->setTransparency(0.5f);
+    QVERIFY(first.get()->isTransparent());
 }
 
 QTEST_APPLESS_MAIN(tst_DeepTrees)

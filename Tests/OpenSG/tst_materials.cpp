@@ -51,6 +51,9 @@ private slots:
     void aTextureTakesItsImageFromAVariable();
     void theContentChangeOfAnImageIsAnEdit();
     void otherMaterialsAreDrawnWith();
+    void nestedMaterialsAreTransparentIfAPartIs();
+    void materialsInACircleEnd();
+    void aCircleOnTheWayToAStateIsNoEnd();
     void parametersAreSetByNameAndType();
     void aParameterHasAName();
     void parametersAreHeldByTheChunk();
@@ -370,6 +373,54 @@ void tst_Materials::otherMaterialsAreDrawnWith()
     QVERIFY(choice->getState() == NullFC);
     choice->getMaterials().push_back(pass);
     QVERIFY(choice->getState() == pass->getState());
+}
+
+void tst_Materials::nestedMaterialsAreTransparentIfAPartIs()
+{
+    const RefPtr<SimpleMaterialPtr> glass(SimpleMaterial::create());
+    glass->setTransparency(0.5f);
+    const MultiPassMaterialRefPtr passes(MultiPassMaterial::create());
+    passes->getMaterials().push_back(SimpleMaterial::create());
+    passes->getMaterials().push_back(glass.get());
+    endEditCP(passes.get());
+    const SwitchMaterialRefPtr choice(SwitchMaterial::create());
+    choice->getMaterials().push_back(passes.get());
+    endEditCP(choice.get());
+    QVERIFY(choice->isTransparent());
+    passes->setTransparencyMode(Material::TransparencyForceOpaque);
+    QVERIFY(!choice->isTransparent());
+    choice->setTransparencyMode(Material::TransparencyForceTransparent);
+    QVERIFY(choice->isTransparent());
+    choice->setTransparencyMode(Material::TransparencyAutoDetection);
+    choice->setChoice(1);
+    QVERIFY(!choice->isTransparent());
+}
+
+void tst_Materials::materialsInACircleEnd()
+{
+    NOT_IN_STOCK("stock 1.8 does not come back");
+    const MultiPassMaterialRefPtr passes(MultiPassMaterial::create());
+    const SwitchMaterialRefPtr choice(SwitchMaterial::create());
+    choice->getMaterials().push_back(passes.get());
+    passes->getMaterials().push_back(choice.get());
+    QVERIFY(!passes->isTransparent());
+    QVERIFY(!choice->isTransparent());
+    QVERIFY(passes->getState() == NullFC);
+    QVERIFY(choice->getState() == NullFC);
+}
+
+// The switch is passed twice, each time with another index.
+void tst_Materials::aCircleOnTheWayToAStateIsNoEnd()
+{
+    const RefPtr<SimpleMaterialPtr> glass(SimpleMaterial::create());
+    glass->setTransparency(0.5f);
+    const MultiPassMaterialRefPtr passes(MultiPassMaterial::create());
+    const SwitchMaterialRefPtr choice(SwitchMaterial::create());
+    choice->getMaterials().push_back(passes.get());
+    passes->getMaterials().push_back(glass.get());
+    passes->getMaterials().push_back(choice.get());
+    QVERIFY(choice->getState(1) == glass->getState());
+    QVERIFY(choice->isTransparent());
 }
 
 void tst_Materials::parametersAreSetByNameAndType()

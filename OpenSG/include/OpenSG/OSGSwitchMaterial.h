@@ -21,9 +21,6 @@ protected:
     ~SwitchMaterial() override = default;
 
     bool hasTransparentPart() const override;
-
-private:
-    MaterialPtr chosen() const;
 };
 
 OSG_END_NAMESPACE

@@ -79,6 +79,37 @@ std::string keyOf(const FieldContainerPtr &container)
     return key;
 }
 
+template <class Function>
+void forEachPointerField(const FieldContainerPtr &owner, const Function &function)
+{
+    const FieldContainerType &type = owner->getType();
+    for (UInt32 id = 1; id <= type.getNumFieldDescs(); ++id) {
+        const FieldDescription &description = *type.getFieldDescription(id);
+        Field *field = description.isInternal() ? nullptr : owner->getField(id);
+        if (field && FieldSyntax::of(field->getType()).kind == FieldSyntax::Pointers) {
+            function(*field, description);
+        }
+    }
+}
+
+/// A container on the way from a core to what is below it.
+struct Level
+{
+    explicit Level(const FieldContainerPtr &container)
+        : owner(container)
+    {
+        forEachPointerField(owner, [this](const Field &field, const FieldDescription &) {
+            for (UInt32 i = 0; i < field.getSize(); ++i) {
+                targets.push_back(field.getFieldContainer(i));
+            }
+        });
+    }
+
+    FieldContainerPtr owner;
+    std::vector<FieldContainerPtr> targets;
+    std::size_t nextTarget = 0;
+};
+
 } // namespace
 
 SharePtrGraphOp::SharePtrGraphOp(const char *name)
@@ -120,47 +151,51 @@ bool SharePtrGraphOp::traverse(NodePtr &root)
 Action::ResultE SharePtrGraphOp::traverseEnter(NodePtr &node)
 {
     if (node && node->getCore()) {
-        shareTargets(node->getCore());
+        shareBelow(node->getCore());
     }
     return Action::Continue;
 }
 
-void SharePtrGraphOp::shareTargets(const FieldContainerPtr &owner)
+// What the targets of a container refer to comes first: they may be equal afterwards.
+void SharePtrGraphOp::shareBelow(const FieldContainerPtr &core)
 {
-    if (!_visited.insert(owner.getFieldContainerId()).second) {
-        return;
-    }
-    const FieldContainerType &type = owner->getType();
-    for (UInt32 id = 1; id <= type.getNumFieldDescs(); ++id) {
-        const FieldDescription &description = *type.getFieldDescription(id);
-        const Field *field = description.isInternal() ? nullptr : owner->getField(id);
-        if (field && FieldSyntax::of(field->getType()).kind == FieldSyntax::Pointers) {
-            shareField(owner, description);
+    std::vector<Level> path;
+    const auto enter = [&](const FieldContainerPtr &container) {
+        if (container && !container->getType().isNode()
+            && _visited.insert(container.getFieldContainerId()).second) {
+            path.emplace_back(container);
+        }
+    };
+    enter(core);
+    while (!path.empty()) {
+        Level &level = path.back();
+        if (level.nextTarget < level.targets.size()) {
+            enter(FieldContainerPtr(level.targets[level.nextTarget++]));
+        } else {
+            shareTargets(level.owner);
+            path.pop_back();
         }
     }
 }
 
-// What the targets refer to comes first: they may be equal afterwards.
-void SharePtrGraphOp::shareField(
-    const FieldContainerPtr &owner, const FieldDescription &description)
+void SharePtrGraphOp::shareTargets(const FieldContainerPtr &owner)
 {
-    Field &field = *owner->getField(description.getFieldId());
-    const std::unique_ptr<Field> result(FieldFactory::the().createField(field.getType().getId()));
-    bool isChanged = false;
-    for (UInt32 i = 0; i < field.getSize(); ++i) {
-        const FieldContainerPtr target = field.getFieldContainer(i);
-        if (target && !target->getType().isNode()) {
-            shareTargets(target);
+    forEachPointerField(owner, [&](Field &field, const FieldDescription &description) {
+        const std::unique_ptr<Field> result(
+            FieldFactory::the().createField(field.getType().getId()));
+        bool isChanged = false;
+        for (UInt32 i = 0; i < field.getSize(); ++i) {
+            const FieldContainerPtr target = field.getFieldContainer(i);
+            const FieldContainerPtr replacement = shared(target);
+            isChanged = isChanged || replacement != target;
+            result->pushFieldContainer(replacement);
         }
-        const FieldContainerPtr replacement = shared(target);
-        isChanged = isChanged || replacement != target;
-        result->pushFieldContainer(replacement);
-    }
-    if (isChanged) {
-        beginEditCP(owner, description.getFieldMask());
-        field.setAbstrValue(*result);
-        endEditCP(owner, description.getFieldMask());
-    }
+        if (isChanged) {
+            beginEditCP(owner, description.getFieldMask());
+            field.setAbstrValue(*result);
+            endEditCP(owner, description.getFieldMask());
+        }
+    });
 }
 
 FieldContainerPtr SharePtrGraphOp::shared(const FieldContainerPtr &container)

@@ -31,8 +31,8 @@ protected:
     Action::ResultE traverseEnter(NodePtr &node) override;
 
 private:
+    void shareBelow(const FieldContainerPtr &core);
     void shareTargets(const FieldContainerPtr &owner);
-    void shareField(const FieldContainerPtr &owner, const FieldDescription &description);
     FieldContainerPtr shared(const FieldContainerPtr &container);
     bool isIncluded(const FieldContainerType &type) const;
 
