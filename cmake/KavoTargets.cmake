@@ -39,7 +39,7 @@ endfunction()
 
 # kavo_add_test(tst_name [SOURCES more.cpp ...] DEPENDS ... [WINDOWED] [NEEDS targets...])
 # Runs tst_name.cpp under CTest: without a display, or, WINDOWED, in a real X server of its own and
-# with the label window.
+# with the label window. The user's settings and log level have no part in it.
 # NEEDS names targets that must be built first though the test does not link them.
 function(kavo_add_test name)
     cmake_parse_arguments(arg "WINDOWED" "" "SOURCES;DEPENDS;NEEDS" ${ARGN})
@@ -49,12 +49,17 @@ function(kavo_add_test name)
     endif()
     if(arg_WINDOWED)
         add_test(NAME ${name} COMMAND ${PROJECT_SOURCE_DIR}/scripts/with-display $<TARGET_FILE:${name}>)
-        set_tests_properties(${name} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=xcb" LABELS window)
+        set_tests_properties(${name} PROPERTIES LABELS window)
+        set(platform xcb)
     else()
         add_test(NAME ${name} COMMAND ${name})
-        set_tests_properties(${name} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+        set(platform offscreen)
     endif()
-    set_tests_properties(${name} PROPERTIES TIMEOUT 240)
+    set_tests_properties(${name} PROPERTIES
+        TIMEOUT 240
+        ENVIRONMENT "QT_QPA_PLATFORM=${platform};XDG_CONFIG_HOME=${PROJECT_BINARY_DIR}/settings"
+        ENVIRONMENT_MODIFICATION "OSG_LOG_LEVEL=unset:;OSG_LOG_TYPE=unset:"
+    )
 endfunction()
 
 # kavo_add_benchmark(bm_name DEPENDS ...) : built with KAVO_BUILD_BENCHMARKS, run by scripts/bench.

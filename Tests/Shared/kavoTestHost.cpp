@@ -7,6 +7,7 @@
 #include <OpenSG/OSGChangeList.h>
 
 #include <QApplication>
+#include <QLocale>
 #include <QTest>
 
 #include <clocale>
@@ -43,6 +44,7 @@ void kavoTestHost::start(int argc, char **argv)
     argumentCount = argc;
     application = new QApplication(argumentCount, argv);
     std::setlocale(LC_NUMERIC, "C");
+    QLocale::setDefault(QLocale::c());
     osg::ChangeList::setReadWriteDefault(true);
     osg::osgInit(argc, argv);
     ::window = new QMainWindow;

@@ -5,7 +5,8 @@
 class QKAVODockWindowManager;
 
 /// The host as modules see it: application object, main window and dock-window manager registered
-/// with kavoController, OpenSG running with writable change lists. As in the real host, all of it
+/// with kavoController, OpenSG running with writable change lists, numbers
+/// in the form of the C locale. As in the real host, all of it
 /// outlives main(), and its windows are hidden when main() returns.
 class kavoTestHost
 {

@@ -24,6 +24,12 @@ const QString truck = QStringLiteral("glTF/CesiumMilkTruck/CesiumMilkTruck.gltf"
 const QString house = QStringLiteral("IFC/AC14-FZK-Haus.ifc");
 const QString lights = QStringLiteral("Collada/lights.dae");
 
+/// The texture of each takes longer than a slice, or not much less.
+QStringList tenTrucks()
+{
+    return QVector<QString>(10, model(truck)).toList();
+}
+
 /// Waits until the worker is through with what was canceled.
 /// \returns whether nothing can come of it any more: no scene is under construction
 bool isAtRest(kavoSceneLoader &loader)
@@ -84,11 +90,16 @@ private slots:
         QSignalSpy canceled(&loader, &kavoSceneLoader::canceled);
         QSignalSpy failed(&loader, &kavoSceneLoader::failed);
         QSignalSpy loaded(&loader, &kavoSceneLoader::loaded);
+        bool endedAtOnce = false;
+        connect(&loader, &kavoSceneLoader::progress, [&] {
+            if (progress.count() == 2) { // the worker is in the midst of it
+                loader.cancel();
+                endedAtOnce = canceled.count() == 1 && !loader.isLoading();
+            }
+        });
         loader.load({ model(house) });
-        QTRY_VERIFY(progress.count() > 1); // the worker is in the midst of it
-        loader.cancel();
-        QCOMPARE(canceled.count(), 1);
-        QVERIFY(!loader.isLoading());
+        QTRY_COMPARE(canceled.count(), 1);
+        QVERIFY(endedAtOnce);
         progress.clear();
         QVERIFY(isAtRest(loader));
         QCOMPARE(progress.count() + loaded.count() + failed.count(), 0);
@@ -115,8 +126,7 @@ private slots:
             if (percent > 75)
                 loader.cancel();
         });
-        // Their textures take longer than a slice.
-        loader.load({ model(truck), model(truck), model(truck) });
+        loader.load(tenTrucks());
         QTRY_COMPARE_WITH_TIMEOUT(canceled.count(), 1, 20000);
         QVERIFY(isAtRest(loader));
         QCOMPARE(loaded.count(), 0);
@@ -138,7 +148,7 @@ private slots:
                 QCoreApplication::processEvents();
             toldAfter = progress.count();
         });
-        loader.load({ model(truck), model(truck), model(truck) });
+        loader.load(tenTrucks());
         QTRY_COMPARE_WITH_TIMEOUT(canceled.count(), 1, 20000);
         QCOMPARE(toldAfter, toldBefore);
     }

@@ -353,10 +353,10 @@ void tst_scenesaver::aFileIsWholeIfAllWasUnderstood()
 {
     QFETCH(QByteArray, text);
     write(path("a.osg"), text);
-    osg::osgLog().setLogLevel(osg::LOG_FATAL);
+    osg::osgLog().setLogLevel(osg::LOG_FATAL, true);
     const bool isWhole = kavoSceneReader::read(path("a.osg")).isWhole;
     QCOMPARE(osg::osgLog().getLogLevel(), osg::LOG_FATAL);
-    osg::osgLog().setLogLevel(osg::LOG_WARNING);
+    osg::osgLog().setLogLevel(osg::LOG_WARNING, true);
     QTEST(isWhole, "isWhole");
 }
 

@@ -103,9 +103,12 @@ void TestColorManipulatorOnScreen::tabGoesThroughTheFields()
     QSettings().setValue("ColorPicker/recent", QVariantList { QColor(Qt::red) });
     open();
     QStringList order;
-    while (!order.contains(QApplication::focusWidget()->objectName())) {
-        order << QApplication::focusWidget()->objectName();
+    for (const QWidget *field = child("hex"); !order.contains(field->objectName());
+         field = QApplication::focusWidget()) {
+        QTRY_VERIFY(QApplication::focusWidget() == field);
+        order << field->objectName();
         kavoRealInput::press({ "Tab" });
+        QTRY_VERIFY(QApplication::focusWidget() && QApplication::focusWidget() != field);
     }
     QCOMPARE(order.join(' '),
         QStringLiteral("hex eyedropper HueField SaturationField ValueField RedField GreenField "

@@ -62,7 +62,6 @@ void TestEditing::initTestCase()
     QCoreApplication::setApplicationName("editing");
     QSettings::setDefaultFormat(QSettings::IniFormat);
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_settings.path());
-    QLocale::setDefault(QLocale::c());
     m_module = new kavoNodeEditor;
     QVERIFY(kavoTestHost::show());
     kavoTestHost::docks().show("Node Editor");

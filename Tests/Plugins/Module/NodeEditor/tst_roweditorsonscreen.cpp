@@ -77,8 +77,11 @@ void TestRowEditorsOnScreen::init()
     QVERIFY(QTest::qWaitForWindowActive(m_browser));
 }
 
+// The component remembers a browser by its address until it is told otherwise.
 void TestRowEditorsOnScreen::cleanup()
 {
+    m_browser->unsetFactoryForManager(m_enums);
+    m_browser->unsetFactoryForManager(m_colors);
     delete m_browser;
 }
 

@@ -47,7 +47,6 @@ private:
 
 void TestSpinBoxes::init()
 {
-    QLocale::setDefault(QLocale::c());
     m_rows = std::make_unique<kavoSampledEditor>();
     m_rows->show();
 }
