@@ -398,7 +398,7 @@ void tst_Materials::nestedMaterialsAreTransparentIfAPartIs()
 
 void tst_Materials::materialsInACircleEnd()
 {
-    NOT_IN_STOCK("stock 1.8 does not come back");
+    NOT_IN_STOCK("stock 1.8 is not known to come back");
     const MultiPassMaterialRefPtr passes(MultiPassMaterial::create());
     const SwitchMaterialRefPtr choice(SwitchMaterial::create());
     choice->getMaterials().push_back(passes.get());
