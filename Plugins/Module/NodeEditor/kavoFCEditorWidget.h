@@ -8,6 +8,9 @@
 #include <OpenSG/OSGFieldContainer.h>
 #include <OpenSG/OSGFieldContainerPtr.h>
 
+#include <QHash>
+#include <QVector>
+
 #include <map>
 #include <optional>
 
@@ -29,6 +32,8 @@ public:
     static constexpr osg::UInt32 maxListedElements = 100;
     /// So many containers are opened one inside the other; several times as many exhaust the stack.
     static constexpr int maxDepth = 2000;
+    /// So often the fields of a container are shown in one tree, if several others lead to it.
+    static constexpr int maxRepetitions = 100;
 
     /// \param name accepted for the host's widget convention and not used
     kavoFCEditorWidget(QWidget *parent, const char *name);
@@ -38,8 +43,8 @@ public:
     /// \param name stands before the container's type in the title of the top row
     void setFC(const QString &name, osg::FieldContainerPtr fc);
     /// Adds a container with its fields below a row, or as top row if parent is null. Follows
-    /// pointer fields; links back to owners are cut off. A container inside itself, and one deeper
-    /// than maxDepth, is added by setFCnr().
+    /// pointer fields; links back to owners are cut off. A container inside itself, one deeper than
+    /// maxDepth and one that was added maxRepetitions times is added by setFCnr().
     /// \param expand whether the new row is open; a top row always is
     void setFC(QtProperty *parent, osg::FieldContainerPtr fc, const QString &name, bool expand);
     /// The same without fields: the container's title, with a node's name, is all.
@@ -87,6 +92,7 @@ private:
     void deleteAllRows();
     void deleteRows(const QList<QtProperty *> &rows);
 
+    bool mayFill(osg::UInt32 containerId) const;
     QtProperty *addGroup(QtProperty *parent, const QString &title);
     void finishGroup(QtProperty *group, bool expand);
     void addField(const FieldSource &source);
@@ -118,5 +124,6 @@ private:
     QtKavoColorEditorFactory *m_colorFactory = nullptr;
     bool m_building = false;
     QVector<osg::UInt32> m_path; ///< ids of the containers being filled, the outermost first
+    QHash<osg::UInt32, int> m_fillCounts; ///< how often the tree has the fields of a container
     std::map<QtProperty *, FieldBinding> m_bindings;
 };

@@ -63,11 +63,11 @@ void kavoFCEditorWidget::setFC(
 {
     if (fc == osg::NullFC)
         return;
-    const osg::UInt32 containerId = fc.getFieldContainerId();
-    if (m_path.contains(containerId) || m_path.size() == maxDepth)
+    if (!mayFill(fc.getFieldContainerId()))
         return setFCnr(parent, fc, name, expand);
-    m_path.append(containerId);
+    m_path.append(fc.getFieldContainerId());
     const auto leave = qScopeGuard([this] { m_path.removeLast(); });
+    ++m_fillCounts[m_path.last()];
     QtProperty *group = addGroup(parent, titleOf(fc, name));
     const osg::FieldContainerType &type = fc->getType();
     for (osg::UInt32 id = 1; id <= type.getNumFieldDescs(); ++id) {
@@ -78,6 +78,13 @@ void kavoFCEditorWidget::setFC(
                 field->getType().getCName() });
     }
     finishGroup(group, expand);
+}
+
+// Every tree ends: in circles of containers there are more ways from one to the next than memory.
+bool kavoFCEditorWidget::mayFill(osg::UInt32 containerId) const
+{
+    return !m_path.contains(containerId) && m_path.size() < maxDepth
+        && m_fillCounts.value(containerId) < maxRepetitions;
 }
 
 void kavoFCEditorWidget::setFCnr(

@@ -5,40 +5,11 @@
 #include <kavoTestHost.h>
 #include <kavoTestScene.h>
 
-#include <OpenSG/OSGDirectionalLight.h>
 #include <OpenSG/OSGTransform.h>
 
 #include <QtTest>
 
 using namespace kavoTreeRows;
-
-namespace {
-
-// Each light has the next node as its beacon.
-std::vector<kavoNodePtr> lightsBehindLights(int count)
-{
-    std::vector<kavoNodePtr> nodes;
-    for (int i = 0; i < count; ++i) {
-        const osg::DirectionalLightPtr light = osg::DirectionalLight::create();
-        light->setBeacon(nodes.empty() ? osg::NodePtr() : osg::NodePtr(nodes.back()));
-        nodes.emplace_back(kavoTestScene::makeNode(nullptr, light));
-    }
-    std::reverse(nodes.begin(), nodes.end());
-    return nodes;
-}
-
-// The row of the node at the end of the chain, null if the chain breaks off before.
-const QtProperty *lastRow(const kavoFCEditorWidget &editor, const std::vector<kavoNodePtr> &chain)
-{
-    const QtProperty *row = top(editor);
-    for (auto node = chain.begin(); row && node + 1 != chain.end(); ++node) {
-        const QtProperty *core = child(row, titleOf("core", (*node)->getCore()));
-        row = core ? child(core, titleOf("beacon", osg::NodePtr(*(node + 1)))) : nullptr;
-    }
-    return row;
-}
-
-}
 
 // Which groups and rows the tree shows of a container and of those it leads to.
 class TestPropertyTree : public QObject
@@ -58,10 +29,6 @@ private slots:
     void aNodeShowsItsCoreOpen();
     void aMaterialIsOpenBelowItsCore();
     void otherNestedGroupsAreClosed();
-    void pointersAreFollowedManyContainersDeep();
-    void whatLiesTooDeepShowsItsTitleAlone();
-    void aContainerInsideItselfShowsItsTitleAlone();
-    void aContainerBesideItselfShowsItsFieldsTwice();
     void anUnsetPointerSaysSo();
     void backLinksShowTheOwnersId_data();
     void backLinksShowTheOwnersId();
@@ -189,52 +156,6 @@ void TestPropertyTree::otherNestedGroupsAreClosed()
     QVERIFY(!isOpen(*m_editor, other));
     QVERIFY(isOpen(*m_editor, child(other, titleOf("core", osg::NodePtr(node)->getCore()))));
     m_sampler->other.setValue(osg::NullFC);
-}
-
-void TestPropertyTree::pointersAreFollowedManyContainersDeep()
-{
-    const std::vector<kavoNodePtr> chain = lightsBehindLights(kavoFCEditorWidget::maxDepth / 2);
-    show(osg::NodePtr(chain.front()));
-    const QtProperty *last = lastRow(*m_editor, chain);
-    QVERIFY(last);
-    QVERIFY(child(last, "travMask"));
-}
-
-// However deep the scene is, the stack is not.
-void TestPropertyTree::whatLiesTooDeepShowsItsTitleAlone()
-{
-    const std::vector<kavoNodePtr> chain = lightsBehindLights(kavoFCEditorWidget::maxDepth / 2 + 1);
-    show(osg::NodePtr(chain.front()));
-    const QtProperty *last = lastRow(*m_editor, chain);
-    QVERIFY(last);
-    QVERIFY(last->subProperties().isEmpty());
-}
-
-// A light is often its own beacon. Only links to owners are cut off by name.
-void TestPropertyTree::aContainerInsideItselfShowsItsTitleAlone()
-{
-    const std::vector<kavoNodePtr> lights = lightsBehindLights(1);
-    const osg::NodePtr node(lights.front());
-    osg::LightPtr::dcast(node->getCore())->setBeacon(node);
-    show(node);
-    const QtProperty *beacon
-        = child(row(*m_editor, titleOf("core", node->getCore())), titleOf("beacon", node));
-    QVERIFY(beacon);
-    QVERIFY(beacon->subProperties().isEmpty());
-    osg::LightPtr::dcast(node->getCore())->setBeacon(osg::NullFC);
-}
-
-void TestPropertyTree::aContainerBesideItselfShowsItsFieldsTwice()
-{
-    const osg::ChunkMaterialPtr material = kavoTestScene::makeMaterial();
-    const kavoNodePtr node(kavoTestScene::makeGeometry("Tyre", material));
-    const osg::StateChunkPtr chunk = (*material->getMFChunks())[0];
-    material->addChunk(chunk);
-    show(material);
-    int filled = 0;
-    for (const QtProperty *group : top(*m_editor)->subProperties())
-        filled += group->propertyName() == titleOf("", chunk) && !group->subProperties().isEmpty();
-    QCOMPARE(filled, 2);
 }
 
 void TestPropertyTree::anUnsetPointerSaysSo()
