@@ -22,7 +22,16 @@ namespace {
 constexpr int filterDelayMilliseconds = 150;
 constexpr int opensAllUpTo = 2000; // nodes that a filter leaves
 constexpr int otherwiseOpenLevels = 2;
+constexpr int maxLevels = 2000; // open one inside the other: the tree calls itself for each
 constexpr int coreColumnWidth = 90, idColumnWidth = 50; // pixels, until the user decides
+
+bool isTooDeep(const osg::NodePtr &node)
+{
+    int levels = 0;
+    for (osg::NodePtr at = node; at != osg::NullFC && levels <= maxLevels; at = at->getParent())
+        ++levels;
+    return levels > maxLevels;
+}
 
 } // namespace
 
@@ -140,7 +149,7 @@ void kavoSceneView::showSelection()
         && m_tree->selectionModel()->hasSelection())
         return;
     const QScopedValueRollback<bool> following(m_following, true);
-    const QModelIndex index = m_model->indexOf(selected);
+    const QModelIndex index = isTooDeep(selected) ? QModelIndex() : m_model->indexOf(selected);
     if (index.isValid())
         m_tree->setCurrentIndex(index); // opens its parents and scrolls there
     else

@@ -110,6 +110,17 @@ private slots:
         QVERIFY(m_view->tree()->selectionModel()->hasSelection());
     }
 
+    // The tree view lays out one open branch inside the other by calling itself.
+    void aNodeDeeperThanTheStackIsNotShownSelected()
+    {
+        select("Tyre");
+        const osg::NodePtr deepest = addChain("Wheel", 40000);
+        kavoScenegraph::setSelectedNode(deepest);
+        QTRY_VERIFY(!m_view->tree()->selectionModel()->hasSelection());
+        QVERIFY(selected() == deepest);
+        select("Tyre");
+    }
+
     void escapeSelectsNothing()
     {
         select("Tyre");
@@ -211,6 +222,16 @@ private slots:
     }
 
 private:
+    /// Nodes one inside the other below the one of that name; \returns the innermost.
+    static osg::NodePtr addChain(const char *name, int length)
+    {
+        osg::NodePtr node = kavoTestLoad::find(name);
+        while (length-- > 0)
+            node = makeGroup("Link", node);
+        kavoTestLoad::show(kavoScenegraph::getRoot());
+        return node;
+    }
+
     QModelIndex root() const { return m_view->tree()->model()->index(0, 0); }
 
     static osg::NodePtr selected() { return kavoScenegraph::getSelectedNode(); }
