@@ -39,6 +39,7 @@ private slots:
     void pointersToOtherNodesStay();
     void theOriginalIsLeftAsItWas();
     void theCloneOfNothingIsNull();
+    void childrenThatAreNullAreLeftOut();
 
 private:
     static MaterialGroupPtr groupOf(const NodePtr &node);
@@ -218,6 +219,19 @@ void tst_CloneTree::theCloneOfNothingIsNull()
 {
     QVERIFY(cloneTree(NullFC) == NullFC);
     QVERIFY(deepCloneTree(NullFC) == NullFC);
+}
+
+void tst_CloneTree::childrenThatAreNullAreLeftOut()
+{
+    NOT_IN_STOCK("stock 1.8 is not known to stand it");
+    const NodeRefPtr node(makeCoredNode<Group>());
+    node->getField("children")->pushValueByStr("any text");
+    node->addChild(makeCoredNode<Group>());
+    QCOMPARE(node->getNChildren(), UInt32(2));
+    const NodeRefPtr shallow(cloneTree(node.get()));
+    const NodeRefPtr deep(deepCloneTree(node.get()));
+    QCOMPARE(shallow->getNChildren(), UInt32(1));
+    QCOMPARE(deep->getNChildren(), UInt32(1));
 }
 
 QTEST_APPLESS_MAIN(tst_CloneTree)

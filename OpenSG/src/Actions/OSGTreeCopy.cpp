@@ -40,10 +40,11 @@ NodePtr TreeCopy::copyNodes(const NodePtr &root)
     std::vector<std::pair<NodePtr, NodePtr>> nodes { { root, NodePtr::dcast(makeCopy(root)) } };
     for (std::size_t i = 0; i < nodes.size(); ++i) {
         const auto [original, copy] = nodes[i];
-        for (UInt32 child = 0; child < original->getNChildren(); ++child) {
-            const NodePtr originalChild = original->getChild(child);
-            nodes.emplace_back(originalChild, NodePtr::dcast(makeCopy(originalChild)));
-            copy->addChild(nodes.back().second);
+        for (const NodePtr &child : *original->getMFChildren()) {
+            if (child) {
+                nodes.emplace_back(child, NodePtr::dcast(makeCopy(child)));
+                copy->addChild(nodes.back().second);
+            }
         }
     }
     return nodes.front().second;

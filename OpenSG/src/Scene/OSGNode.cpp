@@ -307,9 +307,11 @@ NodePtr cloneTree(const NodePtr &root)
     std::vector<std::pair<NodePtr, NodePtr>> copies { { root, copyOf(root) } };
     for (std::size_t i = 0; i < copies.size(); ++i) {
         const auto [original, copy] = copies[i];
-        for (UInt32 child = 0; child < original->getNChildren(); ++child) {
-            copies.emplace_back(original->getChild(child), copyOf(original->getChild(child)));
-            copy->addChild(copies.back().second);
+        for (const NodePtr &child : *original->getMFChildren()) {
+            if (child) {
+                copies.emplace_back(child, copyOf(child));
+                copy->addChild(copies.back().second);
+            }
         }
     }
     return copies.front().second;
