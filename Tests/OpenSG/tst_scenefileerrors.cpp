@@ -79,6 +79,7 @@ void tst_SceneFileErrors::anErrorTellsLineAndToken_data()
     QTest::newRow("five numbers for a volume")
         << QByteArray("choice 1 } volume 1 2 3 4 5 travMask 7 core Group {") << 3
         << QByteArray("travMask");
+    QTest::newRow("null character") << QByteArray("choice \0", 8) << 3 << QByteArray();
     QTest::newRow("name that is none")
         << QByteArray("attachments [ DEF 5 Name { } ]") << 3 << QByteArray("5");
 }

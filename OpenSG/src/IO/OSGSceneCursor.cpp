@@ -11,7 +11,7 @@ constexpr std::size_t shownTokenLength = 60;
 
 std::string_view firstLine(std::string_view text)
 {
-    return text.substr(0, text.find_first_of("\r\n"));
+    return text.substr(0, text.find_first_of(std::string_view("\r\n\0", 3)));
 }
 
 }
