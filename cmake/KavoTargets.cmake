@@ -57,7 +57,7 @@ function(kavo_add_test name)
     endif()
     set_tests_properties(${name} PROPERTIES
         TIMEOUT 240
-        ENVIRONMENT "QT_QPA_PLATFORM=${platform};XDG_CONFIG_HOME=${PROJECT_BINARY_DIR}/settings"
+        ENVIRONMENT "QT_QPA_PLATFORM=${platform};XDG_CONFIG_HOME=${PROJECT_BINARY_DIR}/settings/${name}"
         ENVIRONMENT_MODIFICATION "OSG_LOG_LEVEL=unset:;OSG_LOG_TYPE=unset:"
     )
 endfunction()
