@@ -69,7 +69,7 @@ void PointerField::add(const FieldContainerPtr &container)
     }
 }
 
-// Whoever walks over nodes, or asks a material of materials for its look, would never come back.
+// Whoever walks over nodes would never come back, and materials that hold each other never go.
 bool PointerField::mustBeTree(const FieldContainerType &type) const
 {
     return _kind == Kind::Children || type.isDerivedFrom(Material::getClassType());

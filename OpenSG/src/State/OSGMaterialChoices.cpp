@@ -20,7 +20,7 @@ MaterialPtr chosenBy(const SwitchMaterial &choice)
 }
 
 // Null if it is of another class. Derived ones are others, too: they may look for their parts in a
-// way of their own.
+// way of their own, and have to see to it that they come to an end.
 template <class MaterialT> const MaterialT *exactly(const MaterialPtr &material)
 {
     const bool isOfType = material->getType() == MaterialT::getClassType();
