@@ -25,13 +25,9 @@ Cameras &cameras()
     return *instance;
 }
 
-std::vector<Entry> &living()
+bool isDead(const Entry &entry)
 {
-    std::vector<Entry> &entries = cameras().entries;
-    const auto isDead
-        = [](const Entry &entry) { return kavoContainers::node(entry.nodeId) == osg::NullFC; };
-    entries.erase(std::remove_if(entries.begin(), entries.end(), isDead), entries.end());
-    return entries;
+    return kavoContainers::node(entry.nodeId) == osg::NullFC;
 }
 
 } // namespace
@@ -46,19 +42,20 @@ void kavoSceneCameras::set(const std::vector<osg::RefPtr<osg::CameraPtr>> &newCa
 
 std::vector<osg::UInt32> kavoSceneCameras::nodeIds()
 {
+    std::vector<Entry> &entries = cameras().entries;
+    entries.erase(std::remove_if(entries.begin(), entries.end(), isDead), entries.end());
     std::vector<osg::UInt32> ids;
-    for (const Entry &entry : living())
+    for (const Entry &entry : entries)
         ids.push_back(entry.nodeId);
     return ids;
 }
 
 osg::CameraPtr kavoSceneCameras::at(osg::UInt32 nodeId)
 {
-    for (const Entry &entry : living()) {
-        if (entry.nodeId == nodeId)
-            return entry.camera.get();
-    }
-    return osg::NullFC;
+    const std::vector<Entry> &entries = cameras().entries;
+    const auto found = std::find_if(entries.begin(), entries.end(),
+        [nodeId](const Entry &entry) { return entry.nodeId == nodeId; });
+    return found == entries.end() || isDead(*found) ? osg::CameraPtr() : found->camera.get();
 }
 
 osg::UInt32 kavoSceneCameras::activeNodeId()
