@@ -41,7 +41,6 @@ private slots:
 
     void aSceneTooDeepIsNotWritten();
     void theDeepestSceneReadsBack();
-    void theDeepestSceneThatWasReadCanBeWritten();
     void aStreamThatFailsIsReported();
 
 private:
@@ -262,19 +261,6 @@ void tst_SceneFileWriter::theDeepestSceneReadsBack()
         copy = copy->getChild(0);
     }
     QCOMPARE(depth, std::size_t(1000));
-    QVERIFY(copy->getCore() != NullFC);
-}
-
-// The cores that reading gives to nodes without one do not make it too deep.
-void tst_SceneFileWriter::theDeepestSceneThatWasReadCanBeWritten()
-{
-    const NodeRefPtr node(chain(1000));
-    const NodePtr copy = m_text->readFirst(m_text->write(node.get()));
-    const std::string written = m_text->write(copy);
-    const NodePtr copyOfCopy = m_text->readFirst(written);
-    QVERIFY(contains(written, "Group"));
-    QCOMPARE(m_text->takeLog(), std::string());
-    QCOMPARE(m_text->write(copyOfCopy), written);
 }
 
 void tst_SceneFileWriter::aStreamThatFailsIsReported()

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <OpenSG/OSGFieldContainerType.h>
 #include <OpenSG/OSGLog.h>
 
 #include <string>
@@ -13,16 +12,9 @@ namespace AsciiFormat {
 /// First line of a file. Deliberate: the blank at its end belongs to it.
 constexpr const Char8 *header = "#OSG V1.0 ";
 
-/// Containers inside each other, more than which are neither written nor read, but for the core of
-/// the last one: a node that has none gets one. The limit bounds the stack; and since lines are
-/// indented by their depth, files that need more are of no use.
+/// Containers inside each other, more than which are neither written nor read. The limit bounds
+/// the stack; and since lines are indented by their depth, files that need more are of no use.
 constexpr std::size_t maxDepth = 1000;
-
-/// Whether a container has no place inside so many others.
-inline bool isTooDeep(std::size_t depth, const FieldContainerType &type)
-{
-    return depth >= maxDepth + (type.isNodeCore() ? 1 : 0);
-}
 
 /// For the log: a value that the format cannot tell, or not to everybody.
 inline void report(const Char8 *owner, const Char8 *fieldName, const std::string &problem)

@@ -131,7 +131,7 @@ FieldContainerPtr AsciiReader::create(const std::string &name, const PointerFiel
 {
     const FieldContainerType *type = _cursor.typeAtToken();
     const bool isAccepted = type && !type->isAbstract() && (!target || target->accepts(*type));
-    if (!isAccepted || AsciiFormat::isTooDeep(_open.size(), *type)) {
+    if (!isAccepted || _open.size() == AsciiFormat::maxDepth) {
         _cursor.fail();
         _cursor.skipNode();
         return NullFC;

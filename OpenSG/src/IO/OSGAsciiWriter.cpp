@@ -95,7 +95,7 @@ void AsciiWriter::writeContainer(const FieldContainerPtr &container, UInt32 inde
 
 void AsciiWriter::writeBody(const FieldContainerPtr &container, UInt32 indent)
 {
-    _isTooDeep = _isTooDeep || AsciiFormat::isTooDeep(_depth, container->getType());
+    _isTooDeep = _isTooDeep || _depth == AsciiFormat::maxDepth;
     if (_isTooDeep) {
         return;
     }
