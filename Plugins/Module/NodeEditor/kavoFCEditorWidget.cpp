@@ -79,7 +79,6 @@ void kavoFCEditorWidget::setFC(const QString &name, osg::FieldContainerPtr fc)
 void kavoFCEditorWidget::deleteAllRows()
 {
     m_bindings.clear();
-    m_fillCounts.clear();
     setCurrentItem(nullptr);
     auto &view = *findChild<QTreeWidget *>();
     view.reset();

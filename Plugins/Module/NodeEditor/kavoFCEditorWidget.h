@@ -8,7 +8,6 @@
 #include <OpenSG/OSGFieldContainer.h>
 #include <OpenSG/OSGFieldContainerPtr.h>
 
-#include <QHash>
 #include <QVector>
 
 #include <map>
@@ -32,8 +31,9 @@ public:
     static constexpr osg::UInt32 maxListedElements = 100;
     /// So many containers are opened one inside the other; several times as many exhaust the stack.
     static constexpr int maxDepth = 2000;
-    /// So often the fields of a container are shown in one tree, if several others lead to it.
-    static constexpr int maxRepetitions = 100;
+    /// A tree that has so many rows of fields opens no more containers. The time that the component
+    /// takes to delete rows grows with the square of their number.
+    static constexpr std::size_t maxRows = 50000;
 
     /// \param name accepted for the host's widget convention and not used
     kavoFCEditorWidget(QWidget *parent, const char *name);
@@ -44,7 +44,7 @@ public:
     void setFC(const QString &name, osg::FieldContainerPtr fc);
     /// Adds a container with its fields below a row, or as top row if parent is null. Follows
     /// pointer fields; links back to owners are cut off. A container inside itself, one deeper than
-    /// maxDepth and one that was added maxRepetitions times is added by setFCnr().
+    /// maxDepth and one beyond maxRows is added by setFCnr().
     /// \param expand whether the new row is open; a top row always is
     void setFC(QtProperty *parent, osg::FieldContainerPtr fc, const QString &name, bool expand);
     /// The same without fields: the container's title, with a node's name, is all.
@@ -124,6 +124,5 @@ private:
     QtKavoColorEditorFactory *m_colorFactory = nullptr;
     bool m_building = false;
     QVector<osg::UInt32> m_path; ///< ids of the containers being filled, the outermost first
-    QHash<osg::UInt32, int> m_fillCounts; ///< how often the tree has the fields of a container
     std::map<QtProperty *, FieldBinding> m_bindings;
 };

@@ -67,7 +67,6 @@ void kavoFCEditorWidget::setFC(
         return setFCnr(parent, fc, name, expand);
     m_path.append(fc.getFieldContainerId());
     const auto leave = qScopeGuard([this] { m_path.removeLast(); });
-    ++m_fillCounts[m_path.last()];
     QtProperty *group = addGroup(parent, titleOf(fc, name));
     const osg::FieldContainerType &type = fc->getType();
     for (osg::UInt32 id = 1; id <= type.getNumFieldDescs(); ++id) {
@@ -80,11 +79,10 @@ void kavoFCEditorWidget::setFC(
     finishGroup(group, expand);
 }
 
-// Every tree ends: in circles of containers there are more ways from one to the next than memory.
+// Every tree ends: there can be more ways from one container to the next than there is memory.
 bool kavoFCEditorWidget::mayFill(osg::UInt32 containerId) const
 {
-    return !m_path.contains(containerId) && m_path.size() < maxDepth
-        && m_fillCounts.value(containerId) < maxRepetitions;
+    return !m_path.contains(containerId) && m_path.size() < maxDepth && m_bindings.size() < maxRows;
 }
 
 void kavoFCEditorWidget::setFCnr(
