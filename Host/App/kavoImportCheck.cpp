@@ -3,6 +3,7 @@
 #include <assimp/scene.h>
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -47,15 +48,18 @@ void checkMesh(const aiMesh &mesh, const aiScene &scene)
 
 void checkNodes(const aiScene &scene)
 {
-    std::vector<const aiNode *> open { scene.mRootNode };
+    std::vector<std::pair<const aiNode *, int>> open { { scene.mRootNode, 1 } };
     while (!open.empty()) {
-        const aiNode *node = open.back();
+        const auto [node, level] = open.back();
         open.pop_back();
         if (!node)
             continue;
+        if (level > kavoImportCheck::maxLevels)
+            throw std::runtime_error("the nodes of the file are nested too deeply");
         for (unsigned int i = 0; i < node->mNumMeshes; ++i)
             require(node->mMeshes[i] < scene.mNumMeshes, "a node has a mesh that is not there");
-        open.insert(open.end(), node->mChildren, node->mChildren + node->mNumChildren);
+        for (unsigned int i = 0; i < node->mNumChildren; ++i)
+            open.emplace_back(node->mChildren[i], level + 1);
     }
 }
 

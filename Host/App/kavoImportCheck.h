@@ -9,7 +9,11 @@ struct aiScene;
 class kavoImportCheck
 {
 public:
-    /// \throws std::runtime_error if a mesh, material or vertex is named that does not exist, or
+    /// Of nodes one inside the other. Assimp calls itself for each, also when it deletes them.
+    static constexpr int maxLevels = 10000;
+
+    /// \throws std::runtime_error if there are more levels than that, if a mesh, material or vertex
+    /// is named that does not exist, or
     ///     if values that a mesh must have are missing
     static void check(const aiScene &scene);
 };

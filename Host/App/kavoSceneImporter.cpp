@@ -14,6 +14,9 @@
 
 namespace {
 
+// For nodes inside each other: Assimp's readers call themselves. It takes memory only as it is
+// used.
+constexpr unsigned int stackBytes = 256u << 20;
 constexpr unsigned int postProcessing = aiProcess_Triangulate | aiProcess_GenSmoothNormals
     | aiProcess_JoinIdenticalVertices | aiProcess_SortByPType;
 
@@ -46,6 +49,7 @@ struct kavoSceneImporter::Job
 kavoSceneImporter::kavoSceneImporter(QObject *parent)
     : QObject(parent)
 {
+    m_workers.setStackSize(stackBytes);
 }
 
 kavoSceneImporter::~kavoSceneImporter()
@@ -76,6 +80,8 @@ void kavoSceneImporter::run(const std::shared_ptr<Job> &job)
         parse(*job);
         readTextures(*job);
     });
+    if (failure)
+        job->result->importer.reset(); // the scene may be too deep for another thread's stack
     if (job->canceled)
         return;
     job->reason = failure;

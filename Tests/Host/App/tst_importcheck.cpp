@@ -4,6 +4,7 @@
 
 #include <QtTest>
 
+#include <array>
 #include <memory>
 #include <stdexcept>
 
@@ -63,6 +64,13 @@ template <class Value> void loseArray(Value *&values)
     values = nullptr;
 }
 
+// Adds nodes one inside the other below the root until there are so many levels.
+void nest(aiScene &scene, int levels)
+{
+    for (aiNode *node = scene.mRootNode; --levels > 0; node = node->mChildren[0])
+        node->addChildren(1, std::array { new aiNode }.data());
+}
+
 QString refusal(const aiScene &scene)
 {
     try {
@@ -81,6 +89,15 @@ class tst_importcheck : public QObject
 
 private slots:
     void aSoundSceneIsAccepted() { QCOMPARE(refusal(*makeScene()), QString()); }
+
+    void whatIsNestedTooDeeplyIsRefused()
+    {
+        const std::unique_ptr<aiScene> deep = makeScene(), tooDeep = makeScene();
+        nest(*deep, kavoImportCheck::maxLevels);
+        nest(*tooDeep, kavoImportCheck::maxLevels + 1);
+        QCOMPARE(refusal(*deep), QString());
+        QCOMPARE(refusal(*tooDeep), QString("the nodes of the file are nested too deeply"));
+    }
 
     void damageIsRefused_data()
     {

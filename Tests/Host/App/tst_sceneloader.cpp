@@ -31,6 +31,20 @@ QString brokenFile(const QTemporaryDir &folder)
     return file.fileName();
 }
 
+/// Nodes one inside the other.
+QString deepFile(const QTemporaryDir &folder, int levels)
+{
+    QByteArray nodes;
+    for (int level = 1; level < levels; ++level)
+        nodes += "{\"name\":\"Link\",\"children\":[" + QByteArray::number(level) + "]},";
+    QFile file(folder.filePath("deep.gltf"));
+    file.open(QIODevice::WriteOnly);
+    file.write(
+        "{\"asset\":{\"version\":\"2.0\"},\"scene\":0,\"scenes\":[{\"nodes\":[0]}],\"nodes\":["
+        + nodes + "{\"name\":\"Last\"}]}");
+    return file.fileName();
+}
+
 using Damage = void (*)(aiScene &);
 
 /// A binary file of the truck with a fault in it, as a bad disk would leave it.
@@ -55,6 +69,27 @@ class tst_sceneloader : public QObject
 
 private slots:
     void cleanup() { show(osg::NullFC); }
+
+    void aDeeplyNestedFileIsLoaded()
+    {
+        const QTemporaryDir folder;
+        kavoSceneLoader loader;
+        connect(&loader, &kavoSceneLoader::loaded, &kavoTestLoad::show);
+        loader.load({ deepFile(folder, 5000) });
+        QTRY_VERIFY(!loader.isLoading());
+        QVERIFY(find("Last") != osg::NullFC);
+    }
+
+    // It is read, checked and deleted again on the worker, whose stack is the biggest.
+    void aFileNestedTooDeeplyIsRefused()
+    {
+        const QTemporaryDir folder;
+        kavoSceneLoader loader;
+        QSignalSpy failed(&loader, &kavoSceneLoader::failed);
+        loader.load({ deepFile(folder, 60000) });
+        QTRY_COMPARE(failed.count(), 1);
+        QCOMPARE(failed[0][1].toString(), QString("the nodes of the file are nested too deeply"));
+    }
 
     void severalFilesBecomeOneScene()
     {
