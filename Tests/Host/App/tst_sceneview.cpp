@@ -119,6 +119,14 @@ private slots:
         QTRY_VERIFY(!m_view->tree()->selectionModel()->hasSelection());
         QVERIFY(selected() == deepest);
         select("Tyre");
+        QVERIFY(m_view->tree()->selectionModel()->hasSelection());
+    }
+
+    void aNodeTwoThousandLevelsDownIsShownSelected()
+    {
+        kavoScenegraph::setSelectedNode(addChain("Wheel", 1998));
+        QTRY_COMPARE(m_view->tree()->currentIndex().data().toString(), QString("Link"));
+        QVERIFY(m_view->tree()->selectionModel()->hasSelection());
     }
 
     void escapeSelectsNothing()
