@@ -12,8 +12,9 @@ namespace AsciiFormat {
 /// First line of a file. Deliberate: the blank at its end belongs to it.
 constexpr const Char8 *header = "#OSG V1.0 ";
 
-/// Containers inside each other, more than which are neither written nor read. The limit bounds
-/// the stack; and since lines are indented by their depth, files that need more are of no use.
+/// Containers that a file has inside each other, more than which are neither written nor read. The
+/// limit bounds the stack; and since lines are indented by their depth, files that need more are of
+/// no use. A scene may be deeper than its file, by USE, and by names and cores that reading adds.
 constexpr std::size_t maxDepth = 1000;
 
 /// For the log: a value that the format cannot tell, or not to everybody.
