@@ -13,7 +13,6 @@ public:
     static constexpr int maxLevels = 10000;
 
     /// \throws std::runtime_error if there are more levels than that, if a mesh, material or vertex
-    /// is named that does not exist, or
-    ///     if values that a mesh must have are missing
+    ///     is named that does not exist, or if values that a mesh must have are missing
     static void check(const aiScene &scene);
 };

@@ -14,8 +14,7 @@
 
 namespace {
 
-// For nodes inside each other: Assimp's readers call themselves. It takes memory only as it is
-// used.
+// Assimp's readers call themselves for nodes inside each other. Memory is taken as it is used.
 constexpr unsigned int stackBytes = 256u << 20;
 constexpr unsigned int postProcessing = aiProcess_Triangulate | aiProcess_GenSmoothNormals
     | aiProcess_JoinIdenticalVertices | aiProcess_SortByPType;
