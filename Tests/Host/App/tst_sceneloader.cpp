@@ -76,7 +76,7 @@ private slots:
         kavoSceneLoader loader;
         connect(&loader, &kavoSceneLoader::loaded, &kavoTestLoad::show);
         loader.load({ deepFile(folder, 5000) });
-        QTRY_VERIFY(!loader.isLoading());
+        QTRY_VERIFY_WITH_TIMEOUT(!loader.isLoading(), 20000);
         QVERIFY(find("Last") != osg::NullFC);
     }
 
@@ -86,8 +86,8 @@ private slots:
         const QTemporaryDir folder;
         kavoSceneLoader loader;
         QSignalSpy failed(&loader, &kavoSceneLoader::failed);
-        loader.load({ deepFile(folder, 60000) });
-        QTRY_COMPARE(failed.count(), 1);
+        loader.load({ deepFile(folder, 20000) });
+        QTRY_COMPARE_WITH_TIMEOUT(failed.count(), 1, 20000);
         QCOMPARE(failed[0][1].toString(), QString("the nodes of the file are nested too deeply"));
     }
 
