@@ -1,6 +1,6 @@
 #include "OSGTreeCopy.h"
 
-#include "OSGFieldSyntax.h"
+#include "OSGSharedContainers.h"
 
 #include <OpenSG/OSGFieldContainerFactory.h>
 #include <OpenSG/OSGFieldFactory.h>
@@ -83,14 +83,8 @@ void TreeCopy::followFields(const FieldContainerPtr &original, const FieldContai
         node->setCore(NodeCorePtr::dcast(copyOf(node->getCore())));
         return;
     }
-    const FieldContainerType &type = copy->getType();
-    for (UInt32 id = 1; id <= type.getNumFieldDescs(); ++id) {
-        const FieldDescription &description = *type.getFieldDescription(id);
-        const Field *field = description.isInternal() ? nullptr : copy->getField(id);
-        if (field && FieldSyntax::of(field->getType()).kind == FieldSyntax::Pointers) {
-            followField(copy, description);
-        }
-    }
+    forEachPointerField(copy,
+        [&](Field &, const FieldDescription &description) { followField(copy, description); });
 }
 
 void TreeCopy::followField(const FieldContainerPtr &copy, const FieldDescription &description)

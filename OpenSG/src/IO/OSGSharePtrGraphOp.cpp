@@ -79,19 +79,6 @@ std::string keyOf(const FieldContainerPtr &container)
     return key;
 }
 
-template <class Function>
-void forEachPointerField(const FieldContainerPtr &owner, const Function &function)
-{
-    const FieldContainerType &type = owner->getType();
-    for (UInt32 id = 1; id <= type.getNumFieldDescs(); ++id) {
-        const FieldDescription &description = *type.getFieldDescription(id);
-        Field *field = description.isInternal() ? nullptr : owner->getField(id);
-        if (field && FieldSyntax::of(field->getType()).kind == FieldSyntax::Pointers) {
-            function(*field, description);
-        }
-    }
-}
-
 /// A container on the way from a core to what is below it.
 struct Level
 {

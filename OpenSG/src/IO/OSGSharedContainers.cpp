@@ -47,6 +47,18 @@ void forEachTarget(const FieldContainerPtr &container, const TargetFunction &fun
     }
 }
 
+void forEachPointerField(const FieldContainerPtr &owner, const FieldFunction &function)
+{
+    const FieldContainerType &type = owner->getType();
+    for (UInt32 id = 1; id <= type.getNumFieldDescs(); ++id) {
+        const FieldDescription &description = *type.getFieldDescription(id);
+        Field *field = description.isInternal() ? nullptr : owner->getField(id);
+        if (field && FieldSyntax::of(field->getType()).kind == FieldSyntax::Pointers) {
+            function(*field, description);
+        }
+    }
+}
+
 SharedContainers::SharedContainers(const FieldContainerPtr &root)
 {
     std::vector<FieldContainerPtr> pending { root };
