@@ -1,21 +1,39 @@
 # The verbs of the build. A leaf CMakeLists.txt is a name, its sources and what it depends on.
+#
+# Arguments of several verbs:
+#   PRECOMPILED set   the precompiled headers to use (KavoPrecompiled.cmake)
+#   NO_QT             no code generators of Qt
 
-# kavo_add_library(name [OBJECT] SOURCES ... [DEPENDS ...] [PRIVATE_DEPENDS ...] [INCLUDES ...])
-# A shared library (or the object library that a module and its tests share). Its own folder, or
-# INCLUDES where given, is what its clients include from.
+# kavo_add_library(name [STATIC|OBJECT] [NO_QT] SOURCES ... [DEPENDS ...] [PRIVATE_DEPENDS ...]
+#                  [INCLUDES ...] [PRECOMPILED set])
+# A shared library, unless it says otherwise. Its clients include from INCLUDES; the default is its
+# own folder.
 function(kavo_add_library name)
-    cmake_parse_arguments(arg "OBJECT" "" "SOURCES;DEPENDS;PRIVATE_DEPENDS;INCLUDES" ${ARGN})
+    cmake_parse_arguments(
+        arg "STATIC;OBJECT;NO_QT" "PRECOMPILED" "SOURCES;DEPENDS;PRIVATE_DEPENDS;INCLUDES" ${ARGN})
     set(kind SHARED)
-    if(arg_OBJECT)
+    if(arg_STATIC)
+        set(kind STATIC)
+    elseif(arg_OBJECT)
         set(kind OBJECT)
     endif()
     if(NOT arg_INCLUDES)
         set(arg_INCLUDES ${CMAKE_CURRENT_SOURCE_DIR})
     endif()
     add_library(${name} ${kind} ${arg_SOURCES})
-    kavo_enable_qt_tools(${name})
+    if(NOT arg_NO_QT)
+        kavo_enable_qt_tools(${name} ${arg_SOURCES})
+    endif()
     target_include_directories(${name} PUBLIC ${arg_INCLUDES})
     target_link_libraries(${name} PUBLIC ${arg_DEPENDS} PRIVATE kavo_warnings ${arg_PRIVATE_DEPENDS})
+    kavo_use_precompiled_headers(${name} "${arg_PRECOMPILED}")
+endfunction()
+
+# kavo_add_room(Name SOURCES ... DEPENDS ...) : a room of the application, the static library kavoName.
+# Its headers are included with the room, as "Name/kavoX.h".
+function(kavo_add_room name)
+    kavo_add_library(kavo${name} STATIC ${ARGN}
+        INCLUDES ${PROJECT_SOURCE_DIR}/Host/App PRECOMPILED kavoHostHeaders)
 endfunction()
 
 # kavo_add_plugin(name OBJECTS target) : a module that the host loads from its plug-in folder.
@@ -26,24 +44,31 @@ function(kavo_add_plugin name)
     set_target_properties(${name} PROPERTIES LIBRARY_OUTPUT_DIRECTORY ${KAVO_PLUGIN_DIR})
 endfunction()
 
-# kavo_add_executable(name SOURCES ... DEPENDS ...)
+# kavo_add_executable(name SOURCES ... DEPENDS ... [PRECOMPILED set])
 function(kavo_add_executable name)
-    cmake_parse_arguments(arg "" "" "SOURCES;DEPENDS" ${ARGN})
+    cmake_parse_arguments(arg "" "PRECOMPILED" "SOURCES;DEPENDS" ${ARGN})
     add_executable(${name} ${arg_SOURCES})
     if(KAVO_SANITIZE)
         target_sources(${name} PRIVATE ${PROJECT_SOURCE_DIR}/cmake/KeepLibraries.cpp)
     endif()
-    kavo_enable_qt_tools(${name})
     target_link_libraries(${name} PRIVATE ${arg_DEPENDS} kavo_warnings)
+    kavo_use_precompiled_headers(${name} "${arg_PRECOMPILED}")
 endfunction()
 
-# kavo_add_test(tst_name [SOURCES more.cpp ...] DEPENDS ... [WINDOWED] [NEEDS targets...])
+# kavo_add_test(tst_name [SOURCES more.cpp ...] DEPENDS ... [PRECOMPILED set] [WINDOWED]
+#               [NEEDS targets...])
 # Runs tst_name.cpp under CTest: without a display, or, WINDOWED, in a real X server of its own and
-# with the label window. The user's settings and log level have no part in it.
+# with the label window. The user's settings and log level do not reach it.
 # NEEDS names targets that must be built first though the test does not link them.
+# Only tst_name.cpp may define classes with Q_OBJECT.
 function(kavo_add_test name)
-    cmake_parse_arguments(arg "WINDOWED" "" "SOURCES;DEPENDS;NEEDS" ${ARGN})
-    kavo_add_executable(${name} SOURCES ${name}.cpp ${arg_SOURCES} DEPENDS ${arg_DEPENDS} Qt5::Test)
+    cmake_parse_arguments(arg "WINDOWED" "PRECOMPILED" "SOURCES;DEPENDS;NEEDS" ${ARGN})
+    if(NOT arg_PRECOMPILED)
+        set(arg_PRECOMPILED kavoTestHeaders)
+    endif()
+    kavo_add_executable(${name} SOURCES ${name}.cpp ${arg_SOURCES}
+        DEPENDS ${arg_DEPENDS} Qt5::Test PRECOMPILED ${arg_PRECOMPILED})
+    kavo_generate_moc(${name} ${name}.cpp)
     if(arg_NEEDS)
         add_dependencies(${name} ${arg_NEEDS})
     endif()
@@ -68,6 +93,21 @@ function(kavo_add_benchmark name)
     kavo_add_executable(${name} SOURCES ${name}.cpp ${arg_SOURCES} DEPENDS ${arg_DEPENDS})
 endfunction()
 
+# The code generators of Qt: moc always, the others where a source needs them.
 function(kavo_enable_qt_tools name)
-    set_target_properties(${name} PROPERTIES AUTOMOC ON AUTOUIC ON AUTORCC ON)
+    set_target_properties(${name} PROPERTIES AUTOMOC ON)
+    if("${ARGN}" MATCHES "\\.ui")
+        set_target_properties(${name} PROPERTIES AUTOUIC ON)
+    endif()
+    if("${ARGN}" MATCHES "\\.qrc")
+        set_target_properties(${name} PROPERTIES AUTORCC ON)
+    endif()
+endfunction()
+
+# Makes X.moc of X.cpp, which includes it at its end. AUTOMOC would compile one more source a target.
+function(kavo_generate_moc name source)
+    cmake_path(REPLACE_EXTENSION source LAST_ONLY moc OUTPUT_VARIABLE moc)
+    qt5_generate_moc(${source} ${CMAKE_CURRENT_BINARY_DIR}/${moc} TARGET ${name})
+    set_property(SOURCE ${source} APPEND PROPERTY OBJECT_DEPENDS ${CMAKE_CURRENT_BINARY_DIR}/${moc})
+    target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_BINARY_DIR})
 endfunction()
