@@ -6,9 +6,9 @@
 #include "BenchScenes.h"
 #include "BenchTable.h"
 
+#include "Window/kavoMainWindow.h"
 #include <QKAVODockWindowManager.h>
 #include <kavoController.h>
-#include <kavoMainWindow.h>
 #include <kavoMessage.h>
 #include <kavoMessageIds.h>
 #include <kavoScenegraph.h>

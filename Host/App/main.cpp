@@ -1,9 +1,9 @@
-#include "kavoCommandLine.h"
-#include "kavoFieldPrinter.h"
-#include "kavoJobs.h"
-#include "kavoMainWindow.h"
-#include "kavoStandardOutput.h"
-#include "kavoTry.h"
+#include "Basics/kavoStandardOutput.h"
+#include "Basics/kavoTry.h"
+#include "Window/kavoCommandLine.h"
+#include "Window/kavoFieldPrinter.h"
+#include "Window/kavoJobs.h"
+#include "Window/kavoMainWindow.h"
 
 #include <OpenSG/OSGBaseFunctions.h>
 #include <OpenSG/OSGChangeList.h>

@@ -1,7 +1,7 @@
+#include "Window/kavoMainWindow.h"
+#include "Window/kavoWindowPrinter.h"
 #include <QKAVODockWindowManager.h>
-#include <kavoMainWindow.h>
 #include <kavoTestHost.h>
-#include <kavoWindowPrinter.h>
 
 #include <QAbstractItemView>
 #include <QProcess>

@@ -1,0 +1,93 @@
+#include "Files/kavoSavedCameras.h"
+
+#include "Scene/kavoSceneCameras.h"
+
+#include <OpenSG/OSGFieldContainerFactory.h>
+#include <OpenSG/OSGFieldContainerFields.h>
+#include <OpenSG/OSGMFBaseTypes.h>
+
+#include <algorithm>
+
+namespace {
+
+const char *const mapType = "FCPtrAttributeMap";
+const char *const cameraKey = "kavo camera";
+
+/// The two lists of an attribute map, which belong together.
+struct Entries
+{
+    explicit Entries(const osg::FieldContainerPtr &map)
+        : keys(*dynamic_cast<osg::MFString *>(map->getField("keys")))
+        , values(*dynamic_cast<osg::MFFieldContainerPtr *>(map->getField("values")))
+    {
+    }
+
+    void add(const osg::FieldContainerPtr &camera)
+    {
+        keys.resize(values.size());
+        keys.push_back(cameraKey);
+        values.push_back(camera);
+    }
+
+    osg::MFString &keys;
+    osg::MFFieldContainerPtr &values;
+};
+
+osg::AttachmentPtr findMap(const osg::NodePtr &root)
+{
+    const auto *type = osg::FieldContainerFactory::the()->findType(mapType);
+    return type ? root->findAttachment(*type) : osg::AttachmentPtr();
+}
+
+osg::AttachmentPtr findOrAddMap(const osg::NodePtr &root)
+{
+    osg::AttachmentPtr map = findMap(root);
+    if (map == osg::NullFC) {
+        map = osg::FieldContainerFactory::the()->createAttachment(mapType);
+        root->addAttachment(map);
+    }
+    return map;
+}
+
+}
+
+kavoSavedCameras::kavoSavedCameras(const osg::NodePtr &root)
+    : m_root(root)
+{
+    const std::vector<osg::UInt32> nodes = kavoSceneCameras::nodeIds();
+    if (nodes.empty())
+        return;
+    const osg::AttachmentPtr map = findOrAddMap(root);
+    osg::beginEditCP(map);
+    for (const osg::UInt32 node : nodes)
+        Entries(map).add(kavoSceneCameras::at(node));
+    osg::endEditCP(map);
+}
+
+kavoSavedCameras::~kavoSavedCameras()
+{
+    take(m_root);
+}
+
+kavoSavedCameras::List kavoSavedCameras::take(const osg::NodePtr &root)
+{
+    List cameras;
+    const osg::AttachmentPtr map = findMap(root);
+    if (map == osg::NullFC)
+        return cameras;
+    osg::beginEditCP(map);
+    Entries entries(map);
+    for (osg::UInt32 i = std::min(entries.keys.size(), entries.values.size()); i-- > 0;) {
+        const auto camera = osg::CameraPtr::dcast(entries.values[i]);
+        if (entries.keys[i] != cameraKey || camera == osg::NullFC)
+            continue;
+        if (camera->getBeacon() != osg::NullFC)
+            cameras.emplace(cameras.begin(), camera);
+        entries.keys.erase(entries.keys.begin() + i);
+        entries.values.erase(entries.values.begin() + i);
+    }
+    osg::endEditCP(map);
+    if (entries.keys.empty() && entries.values.empty())
+        root->subAttachment(map);
+    return cameras;
+}

@@ -1,0 +1,61 @@
+#include "Files/kavoSceneReader.h"
+
+#include "Basics/kavoTaskError.h"
+#include "Files/kavoLibraryLog.h"
+#include "Files/kavoSceneSaver.h"
+
+#include <OpenSG/OSGSceneFileHandler.h>
+#include <OpenSG/OSGSimpleAttachments.h>
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <cerrno>
+
+namespace {
+
+// A folder opens as well; what cannot be read from it shows at the first byte.
+QString reasonOfFailure(const QString &fileName)
+{
+    QFile file(fileName);
+    if (QFileInfo(file).isDir())
+        return qt_error_string(EISDIR);
+    if (!file.open(QIODevice::ReadOnly))
+        return file.errorString();
+    return kavoSceneReader::tr("the file holds no scene");
+}
+
+// Files of several scenes keep the group that the library put them in.
+kavoNodePtr withoutNewRoot(const kavoNodePtr &root, const QString &fileName)
+{
+    if (root->getNChildren() == 1) {
+        const kavoNodePtr scene(root->getChild(0));
+        root->subChild(0u);
+        return scene;
+    }
+    osg::setName(osg::NodePtr(root), QFileInfo(fileName).fileName().toStdString());
+    return root;
+}
+
+}
+
+bool kavoSceneReader::canRead(const QString &file)
+{
+    return kavoSceneSaver::canSave(file);
+}
+
+kavoSceneReader::Scene kavoSceneReader::read(const QString &file)
+{
+    const kavoLibraryLog log;
+    const QByteArray path = QFile::encodeName(file);
+    kavoSceneSaver::useFaithfulFormat();
+    const kavoNodePtr root(osg::SceneFileHandler::the().read(path.constData(), nullptr));
+    if (root == osg::NullFC)
+        throw kavoTaskError(reasonOfFailure(file));
+    Scene scene;
+    scene.isWhole = !log.hasComplaints();
+    scene.root = withoutNewRoot(root, file);
+    scene.cameras = kavoSavedCameras::take(osg::NodePtr(scene.root));
+    scene.root->updateVolume();
+    return scene;
+}

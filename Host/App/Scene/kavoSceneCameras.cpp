@@ -1,0 +1,70 @@
+#include "Scene/kavoSceneCameras.h"
+
+#include "Scene/kavoContainers.h"
+
+#include <algorithm>
+
+namespace {
+
+struct Entry
+{
+    osg::RefPtr<osg::CameraPtr> camera;
+    osg::UInt32 nodeId; // the beacon is not referenced by its camera: only its id outlives it
+};
+
+struct Cameras
+{
+    std::vector<Entry> entries;
+    osg::UInt32 activeNodeId = 0;
+};
+
+// Never destroyed: by then OpenSG is no longer able to take references back.
+Cameras &cameras()
+{
+    static auto *const instance = new Cameras;
+    return *instance;
+}
+
+bool isDead(const Entry &entry)
+{
+    return kavoContainers::node(entry.nodeId) == osg::NullFC;
+}
+
+} // namespace
+
+void kavoSceneCameras::set(const std::vector<osg::RefPtr<osg::CameraPtr>> &newCameras)
+{
+    cameras().entries.clear();
+    for (const auto &camera : newCameras)
+        cameras().entries.push_back({ camera, camera.get()->getBeacon().getFieldContainerId() });
+    cameras().activeNodeId = newCameras.empty() ? 0 : cameras().entries.front().nodeId;
+}
+
+std::vector<osg::UInt32> kavoSceneCameras::nodeIds()
+{
+    std::vector<Entry> &entries = cameras().entries;
+    entries.erase(std::remove_if(entries.begin(), entries.end(), isDead), entries.end());
+    std::vector<osg::UInt32> ids;
+    for (const Entry &entry : entries)
+        ids.push_back(entry.nodeId);
+    return ids;
+}
+
+osg::CameraPtr kavoSceneCameras::at(osg::UInt32 nodeId)
+{
+    const std::vector<Entry> &entries = cameras().entries;
+    const auto found = std::find_if(entries.begin(), entries.end(),
+        [nodeId](const Entry &entry) { return entry.nodeId == nodeId; });
+    return found == entries.end() || isDead(*found) ? osg::CameraPtr() : found->camera.get();
+}
+
+osg::UInt32 kavoSceneCameras::activeNodeId()
+{
+    return at(cameras().activeNodeId) == osg::NullFC ? 0 : cameras().activeNodeId;
+}
+
+void kavoSceneCameras::activate(osg::UInt32 nodeId)
+{
+    if (at(nodeId) != osg::NullFC)
+        cameras().activeNodeId = nodeId;
+}

@@ -1,0 +1,51 @@
+#include "Tables/kavoTableImport.h"
+
+#include "Tables/kavoRowPlacer.h"
+#include "Tables/kavoTableChanges.h"
+#include "Tables/kavoTableReader.h"
+
+#include <kavoNodePtr.h>
+
+namespace {
+
+QString describe(const kavoTable::Row &row, const QString &problem)
+{
+    return kavoTableImport::tr("line %1: '%2' (id %3): %4")
+        .arg(QString::number(row.line), QString::fromStdString(row.path), QString::number(row.id),
+            problem);
+}
+
+}
+
+QString kavoTableImport::Report::summary() const
+{
+    return kavoTableImport::tr("Changed values: %1, nodes: %2")
+        .arg(changedValues)
+        .arg(changedNodes);
+}
+
+std::optional<kavoTableImport::Report> kavoTableImport::run(const osg::NodePtr &root,
+    const QString &fileName, const kavoTableOptions &options, const kavoMonitor &monitor)
+{
+    const kavoTable table = kavoTableReader::read(fileName, options);
+    const kavoNodePtr kept(root); // the monitor may let another scene take its place
+    kavoTaskProgress progress(root, 2, monitor);
+    kavoRowPlacer placer(table.rows);
+    if (!placer.search(root, progress))
+        return std::nullopt;
+    kavoTableChanges changes(table);
+    Report report;
+    for (std::size_t i = 0; i < table.rows.size(); ++i) {
+        if (!progress.advance())
+            return std::nullopt;
+        const kavoRowPlacer::Place place = placer.placeOf(i);
+        if (place.node == osg::NullFC)
+            report.unplacedRows.append(describe(table.rows[i], place.problem));
+        else
+            changes.compare(table.rows[i], place.node);
+    }
+    changes.write();
+    report.changedValues = changes.valueCount();
+    report.changedNodes = changes.nodeCount();
+    return report;
+}

@@ -1,0 +1,16 @@
+#include "Views/kavoCameraView.h"
+
+#include "Views/kavoCameraModel.h"
+#include "Views/kavoListSetup.h"
+
+kavoCameraView::kavoCameraView(kavoSceneEvents &events, kavoChangeMonitor &monitor, QWidget *parent)
+    : QTreeView(parent)
+    , m_model(new kavoCameraModel(events, monitor, this))
+{
+    kavoListSetup::apply(*this, *m_model);
+    setRootIsDecorated(false);
+    setAccessibleName(tr("Cameras of the scene"));
+    connect(this, &QAbstractItemView::activated, m_model, &kavoCameraModel::activate);
+    connect(
+        m_model, &kavoCameraModel::activeCameraChanged, this, &kavoCameraView::activeCameraChanged);
+}

@@ -1,0 +1,18 @@
+#include "Views/kavoLightView.h"
+
+#include "Views/kavoLightModel.h"
+#include "Views/kavoListSetup.h"
+
+#include <kavoScenegraph.h>
+
+kavoLightView::kavoLightView(
+    kavoChangeMonitor &monitor, const kavoSceneIndex &index, QWidget *parent)
+    : QTreeView(parent)
+    , m_model(new kavoLightModel(monitor, index, this))
+{
+    kavoListSetup::apply(*this, *m_model);
+    setRootIsDecorated(false);
+    setAccessibleName(tr("Lights of the scene"));
+    connect(this, &QAbstractItemView::activated, this,
+        [this](const QModelIndex &row) { kavoScenegraph::setSelectedNode(m_model->node(row)); });
+}

@@ -1,0 +1,43 @@
+#include "Views/kavoNodeDeleter.h"
+
+#include "Scene/kavoContainers.h"
+#include "Scene/kavoSceneCameras.h"
+#include "Scene/kavoSceneIndex.h"
+
+#include <OpenSG/OSGLight.h>
+#include <kavoScenegraph.h>
+
+namespace {
+
+template <class Beaconed> void forgetBeacon(const Beaconed &container, const osg::NodePtr &deleted)
+{
+    using Class = typename Beaconed::StoredObjectType;
+    if (container == osg::NullFC || !kavoContainers::isWithin(container->getBeacon(), deleted))
+        return;
+    osg::beginEditCP(container, Class::BeaconFieldMask);
+    container->setBeacon(osg::NullFC);
+    osg::endEditCP(container, Class::BeaconFieldMask);
+}
+
+} // namespace
+
+bool kavoNodeDeleter::canDelete(const osg::NodePtr &node)
+{
+    const osg::NodePtr root = kavoScenegraph::getRoot();
+    return node != root && kavoContainers::isWithin(node, root);
+}
+
+void kavoNodeDeleter::deleteNode(osg::UInt32 id, const kavoSceneIndex &index)
+{
+    const osg::NodePtr node = kavoContainers::node(id);
+    if (node == osg::NullFC || !canDelete(node))
+        return;
+    for (const kavoSceneIndex::Entry &light : index.lights())
+        forgetBeacon(osg::LightPtr::dcast(kavoContainers::find(light.core)), node);
+    for (const osg::UInt32 camera : kavoSceneCameras::nodeIds())
+        forgetBeacon(kavoSceneCameras::at(camera), node);
+    const osg::NodePtr parent = node->getParent();
+    osg::beginEditCP(parent, osg::Node::ChildrenFieldMask);
+    parent->subChild(node);
+    osg::endEditCP(parent, osg::Node::ChildrenFieldMask);
+}

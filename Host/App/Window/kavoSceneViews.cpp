@@ -1,0 +1,72 @@
+#include "Window/kavoSceneViews.h"
+
+#include "Viewport/kavoViewport.h"
+#include "Views/kavoCameraView.h"
+#include "Views/kavoLightView.h"
+#include "Views/kavoMaterialView.h"
+#include "Views/kavoSceneView.h"
+
+#include <QKAVODockWindowManager.h>
+#include <QWidget>
+#include <kavoController.h>
+#include <kavoIconManager.h>
+#include <kavoMessage.h>
+#include <kavoMessageIds.h>
+
+namespace {
+
+void announceStructure()
+{
+    kavoMessage message(kavoMessageIds::sceneGraphChanged);
+    kavoController::sendMessage(message);
+}
+
+} // namespace
+
+kavoSceneViews::kavoSceneViews(kavoChangeMonitor &monitor, QWidget *parent)
+    : QObject(parent)
+    , m_index(m_events, monitor)
+    , m_viewport(kavoViewport::create(m_events, monitor, m_index, parent))
+    , m_scene(new kavoSceneView(m_events, monitor, m_index, parent))
+    , m_materials(new kavoMaterialView(m_events, monitor, m_index, parent))
+    , m_lights(new kavoLightView(monitor, m_index, parent))
+    , m_cameras(new kavoCameraView(m_events, monitor, parent))
+{
+    connect(&m_index, &kavoSceneIndex::structureChanged, this, announceStructure);
+    if (auto *viewport = qobject_cast<kavoViewport *>(m_viewport.data()))
+        connect(m_cameras, &kavoCameraView::activeCameraChanged, viewport,
+            &kavoViewport::lookThroughActiveCamera);
+}
+
+void kavoSceneViews::dock(QKAVODockWindowManager &docks)
+{
+    docks.add("Viewport", QStringLiteral("Viewport"), m_viewport,
+        QStringLiteral("Hintcard_Viewport"), kavoIconManager::getIcon("Scene"), tr("Viewport"),
+        Qt::TopDockWidgetArea, true, nullptr);
+    const struct
+    {
+        const char *key;
+        QWidget *window;
+        const char *icon;
+        QString title;
+    } rows[] = {
+        { "Scene", m_scene, "Scene", tr("Scene") },
+        { "Materials", m_materials, "Material", tr("Materials") },
+        { "Lights", m_lights, "Light", tr("Lights") },
+        { "Cameras", m_cameras, "Camera", tr("Cameras") },
+    };
+    for (const auto &row : rows)
+        docks.add(row.key, QStringLiteral("Scene"), row.window,
+            QStringLiteral("Hintcard_%1").arg(row.key), kavoIconManager::getIcon(row.icon),
+            row.title, Qt::LeftDockWidgetArea, true, nullptr);
+}
+
+QAction *kavoSceneViews::deletion() const
+{
+    return m_scene->deletion();
+}
+
+void kavoSceneViews::closeViewport()
+{
+    delete m_viewport;
+}

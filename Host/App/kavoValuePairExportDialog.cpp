@@ -1,9 +1,0 @@
-#include "kavoValuePairExportDialog.h"
-
-#include "kavoExportScopeBox.h"
-
-kavoValuePairExportDialog::kavoValuePairExportDialog(QWidget *parent)
-    : kavoTaskDialog(tr("Export Value Pairs"), tr("&Export..."), parent)
-    , m_scope(add(new kavoExportScopeBox))
-{
-}

@@ -1,0 +1,342 @@
+#include "OSGThrowingMark.h"
+#include "kavoDialogUser.h"
+
+#include "Files/kavoDocument.h"
+#include "Scene/kavoChangeMonitor.h"
+#include "Window/kavoMainWindow.h"
+#include <QKAVODockWindowManager.h>
+#include <kavoScenegraph.h>
+#include <kavoTestHost.h>
+
+#include <OpenSG/OSGNode.h>
+#include <OpenSG/OSGSimpleAttachments.h>
+
+#include <QDropEvent>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <memory>
+
+// Saving by keys and dialogs of the main window.
+class tst_saveactions : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+
+    void theTitleMarksUnsavedChanges();
+    void lookingAtAModelIsNoChange();
+    void ctrlSSavesAnOpenedSceneFile();
+    void ctrlSAsksForAnotherFileIfNotAllWasRead();
+    void saveAsAsksForTheFileAndAddsTheSuffix();
+    void anotherSceneWaitsUntilTheSaveDialogIsGone();
+    void quittingWithoutChangesAsksNothing();
+    void quittingAsksAboutUnsavedChanges_data();
+    void quittingAsksAboutUnsavedChanges();
+    void openingAnotherSceneAsksToo();
+    void editsMadeWhileAnotherSceneLoadsAreAskedAbout_data();
+    void editsMadeWhileAnotherSceneLoadsAreAskedAbout();
+    void editsMadeAfterDiscardingAreAskedAbout();
+    void aCanceledLoadKeepsDiscardedEdits();
+    void aSaveThatFailsIsShownAndKeepsTheWindow();
+    void aFieldTypeThatThrowsFailsTheSave_data();
+    void aFieldTypeThatThrowsFailsTheSave();
+    void cleanupTestCase();
+
+private:
+    void edit();
+    void drainChanges();
+    void writeScene(const QString &file, const QByteArray &rootName) const;
+    QByteArray saved() const;
+    QString takeMessage() const;
+    void answerSaveDialog(const QString &file);
+    void drop(const QString &file);
+    void answerNextQuestion(QMessageBox::StandardButton button);
+
+    kavoMainWindow *m_window = nullptr;
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<kavoDialogUser> m_user;
+    QString m_file, m_question;
+};
+
+void tst_saveactions::initTestCase()
+{
+    static auto *const window = new kavoMainWindow;
+    m_window = window;
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window));
+}
+
+void tst_saveactions::init()
+{
+    m_user.reset();
+    m_folder = std::make_unique<QTemporaryDir>();
+    m_file = m_folder->filePath("ship.osg");
+    writeScene(m_file, "Ship");
+    QSignalSpy opened(m_window, &kavoMainWindow::opened);
+    m_window->open({ m_file });
+    QVERIFY(opened.wait());
+    m_window->show();
+    m_window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_window));
+}
+
+void tst_saveactions::edit()
+{
+    const osg::NodePtr root = kavoScenegraph::getRoot();
+    osg::setName(root, "Boat");
+    QTRY_VERIFY(m_window->isWindowModified());
+}
+
+void tst_saveactions::drainChanges()
+{
+    QCoreApplication::processEvents();
+    m_window->findChild<kavoChangeMonitor *>()->drain();
+}
+
+void tst_saveactions::writeScene(const QString &file, const QByteArray &rootName) const
+{
+    QFile scene(file);
+    QVERIFY(scene.open(QIODevice::WriteOnly));
+    scene.write("DEF " + rootName + " Node { }");
+}
+
+QByteArray tst_saveactions::saved() const
+{
+    QFile file(m_file);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QString tst_saveactions::takeMessage() const
+{
+    const std::unique_ptr<QMessageBox> box(m_window->findChild<QMessageBox *>());
+    return box ? box->text() : QString();
+}
+
+void tst_saveactions::answerSaveDialog(const QString &file)
+{
+    m_user = std::make_unique<kavoDialogUser>([file](QWidget &dialog) {
+        auto *name = dialog.findChild<QLineEdit *>();
+        name->setText(file);
+        QTest::keyClick(name, Qt::Key_Return);
+    });
+}
+
+void tst_saveactions::drop(const QString &file)
+{
+    QMimeData data;
+    data.setUrls({ QUrl::fromLocalFile(file) });
+    QDragEnterEvent enter({ 5, 5 }, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(m_window, &enter);
+    QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(m_window, &drop);
+}
+
+void tst_saveactions::answerNextQuestion(QMessageBox::StandardButton button)
+{
+    m_question.clear();
+    m_user = std::make_unique<kavoDialogUser>([this, button](QWidget &dialog) {
+        const auto &box = dynamic_cast<QMessageBox &>(dialog);
+        m_question = box.text();
+        QTest::mouseClick(static_cast<QWidget *>(box.button(button)), Qt::LeftButton);
+    });
+}
+
+void tst_saveactions::theTitleMarksUnsavedChanges()
+{
+    drainChanges();
+    QVERIFY(!m_window->isWindowModified());
+    QCOMPARE(m_window->windowTitle(), QStringLiteral("ship.osg[*]"));
+    edit();
+}
+
+// Views make pictures, volumes and states of it.
+void tst_saveactions::lookingAtAModelIsNoChange()
+{
+    QSignalSpy opened(m_window, &kavoMainWindow::opened);
+    m_window->open({ KAVO_TEST_MODELS "/glTF/BoxTextured-glTF/BoxTextured.gltf" });
+    QVERIFY(opened.wait(20000));
+    for (const QString &key : m_window->docks().keys()) {
+        m_window->docks().show(key);
+        m_window->docks().window(key)->grab();
+        drainChanges();
+    }
+    QVERIFY(m_window->select("Geometry-mesh002Node"));
+    drainChanges();
+    QVERIFY(!m_window->isWindowModified());
+}
+
+void tst_saveactions::ctrlSSavesAnOpenedSceneFile()
+{
+    edit();
+    QTest::keyClick(m_window, Qt::Key_S, Qt::ControlModifier);
+    QVERIFY(!m_window->isWindowModified());
+    QVERIFY(saved().contains("name \"Boat\""));
+}
+
+void tst_saveactions::ctrlSAsksForAnotherFileIfNotAllWasRead()
+{
+    writeScene(m_file, "Ship Oar { } DEF Boat");
+    QSignalSpy opened(m_window, &kavoMainWindow::opened);
+    m_window->open({ m_file });
+    QVERIFY(opened.wait());
+    const QByteArray before = saved();
+    answerSaveDialog(m_folder->filePath("copy"));
+    QTest::keyClick(m_window, Qt::Key_S, Qt::ControlModifier);
+    QCOMPARE(m_window->document().file(), m_folder->filePath("copy.osg"));
+    QCOMPARE(saved(), before);
+}
+
+void tst_saveactions::saveAsAsksForTheFileAndAddsTheSuffix()
+{
+    edit();
+    answerSaveDialog(m_folder->filePath("copy"));
+    QTest::keyClick(m_window, Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(m_window->document().file(), m_folder->filePath("copy.osg"));
+    QVERIFY(QFile::exists(m_folder->filePath("copy.osg")));
+    QVERIFY(saved().contains("DEF Ship"));
+}
+
+void tst_saveactions::anotherSceneWaitsUntilTheSaveDialogIsGone()
+{
+    const QString tank = m_folder->filePath("tank.osg");
+    writeScene(tank, "Tank");
+    QSignalSpy opened(m_window, &kavoMainWindow::opened);
+    m_window->open({ tank });
+    answerSaveDialog(m_file = m_folder->filePath("copy.osg"));
+    QTest::keyClick(m_window, Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+    QVERIFY(saved().contains("Ship"));
+    QVERIFY(opened.count() == 1 || opened.wait());
+    QCOMPARE(m_window->document().file(), tank);
+}
+
+void tst_saveactions::quittingWithoutChangesAsksNothing()
+{
+    drainChanges();
+    QVERIFY(m_window->close());
+}
+
+void tst_saveactions::quittingAsksAboutUnsavedChanges_data()
+{
+    QTest::addColumn<int>("button");
+    QTest::addColumn<bool>("closes");
+    QTest::addColumn<bool>("saves");
+    QTest::newRow("save") << int(QMessageBox::Save) << true << true;
+    QTest::newRow("discard") << int(QMessageBox::Discard) << true << false;
+    QTest::newRow("cancel") << int(QMessageBox::Cancel) << false << false;
+}
+
+void tst_saveactions::quittingAsksAboutUnsavedChanges()
+{
+    QFETCH(int, button);
+    QFETCH(bool, saves);
+    edit();
+    answerNextQuestion(QMessageBox::StandardButton(button));
+    QTEST(m_window->close(), "closes");
+    QCOMPARE(saved().contains("Boat"), saves);
+}
+
+void tst_saveactions::openingAnotherSceneAsksToo()
+{
+    edit();
+    answerNextQuestion(QMessageBox::Cancel);
+    drop(m_file);
+    QCOMPARE(m_question, QStringLiteral("'ship.osg' has changes that are not saved."));
+    QVERIFY(m_window->isWindowModified());
+}
+
+void tst_saveactions::editsMadeWhileAnotherSceneLoadsAreAskedAbout_data()
+{
+    QTest::addColumn<int>("button");
+    QTest::addColumn<bool>("opens");
+    QTest::newRow("discard") << int(QMessageBox::Discard) << true;
+    QTest::newRow("cancel") << int(QMessageBox::Cancel) << false;
+}
+
+void tst_saveactions::editsMadeWhileAnotherSceneLoadsAreAskedAbout()
+{
+    QFETCH(int, button);
+    const osg::NodePtr before = kavoScenegraph::getRoot();
+    QSignalSpy opened(m_window, &kavoMainWindow::opened);
+    QSignalSpy canceled(m_window, &kavoMainWindow::openCanceled);
+    drop(m_file);
+    osg::setName(before, "Boat");
+    answerNextQuestion(QMessageBox::StandardButton(button));
+    QTRY_COMPARE(opened.count() + canceled.count(), 1);
+    QCOMPARE(m_question, QStringLiteral("'ship.osg' has changes that are not saved."));
+    QTEST(opened.count() == 1, "opens");
+    QCOMPARE(kavoScenegraph::getRoot() == before, canceled.count() == 1);
+}
+
+void tst_saveactions::editsMadeAfterDiscardingAreAskedAbout()
+{
+    edit();
+    QSignalSpy canceled(m_window, &kavoMainWindow::openCanceled);
+    answerNextQuestion(QMessageBox::Discard);
+    drop(m_file);
+    osg::setName(kavoScenegraph::getRoot(), "Yacht");
+    answerNextQuestion(QMessageBox::Cancel);
+    QTRY_COMPARE(canceled.count(), 1);
+    QVERIFY(!m_question.isEmpty());
+    QVERIFY(m_window->isWindowModified());
+}
+
+void tst_saveactions::aCanceledLoadKeepsDiscardedEdits()
+{
+    edit();
+    answerNextQuestion(QMessageBox::Discard);
+    drop(m_file);
+    QVERIFY(!m_window->isWindowModified());
+    m_window->findChild<QAbstractButton *>("cancel")->click();
+    QVERIFY(m_window->isWindowModified());
+}
+
+void tst_saveactions::aSaveThatFailsIsShownAndKeepsTheWindow()
+{
+    edit();
+    QVERIFY(m_folder->remove());
+    answerNextQuestion(QMessageBox::Save);
+    QVERIFY(!m_window->close());
+    QVERIFY(m_window->isWindowModified());
+    QVERIFY(takeMessage().contains(m_file));
+}
+
+void tst_saveactions::aFieldTypeThatThrowsFailsTheSave_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("an exception") << ""
+                                  << "no writing";
+    QTest::newRow("a number") << "1 when written"
+                              << "unknown exception";
+}
+
+void tst_saveactions::aFieldTypeThatThrowsFailsTheSave()
+{
+    QFETCH(QString, text);
+    const QByteArray before = saved();
+    const osg::ThrowingMarkPtr mark = osg::ThrowingMark::create();
+    mark->getSFText()->setValue(text.toStdString());
+    kavoScenegraph::getRoot()->addAttachment(mark);
+    QTest::keyClick(m_window, Qt::Key_S, Qt::ControlModifier);
+    QVERIFY(!QApplication::overrideCursor());
+    QCOMPARE(saved(), before);
+    QTEST(takeMessage(), "message");
+}
+
+void tst_saveactions::cleanupTestCase()
+{
+    m_window->shutDown();
+}
+
+KAVO_TEST_MAIN(tst_saveactions)
+#include "tst_saveactions.moc"
