@@ -10,16 +10,20 @@ fail() {
     exit 1
 }
 
-# build PRESET : configures where that was not done yet, and builds into build/PRESET.
+# build PRESET [TARGET...] : configures where that was not done yet, and builds the targets, or
+# everything, into build/PRESET.
 build() {
-    local preset=$1
-    say "building (preset $preset)"
+    local preset=$1 folder
+    shift
+    folder="$root/build/$preset"
+    say "building ${*:-everything} into build/$preset; the first time takes minutes"
     (
         cd "$root"
         local component=${QTPROPERTYBROWSER_SOURCE_DIR:-}
-        [ -f "build/$preset/build.ninja" ] \
+        [ -f "$folder/build.ninja" ] \
             || cmake --preset "$preset" ${component:+"-DQTPROPERTYBROWSER_SOURCE_DIR=$component"} \
             || fail "configuring failed"
-        cmake --build --preset "$preset" || fail "the build failed"
+        NINJA_STATUS="[%f/%t, %es] " cmake --build --preset "$preset" ${1:+--target "$@"} \
+            || fail "the build failed"
     ) >&2
 }
