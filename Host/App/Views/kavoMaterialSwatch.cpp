@@ -13,8 +13,7 @@ const QVector3D toLamp = QVector3D(-0.5f, 0.7f, 0.8f).normalized();
 
 QRgb toRgb(const QVector3D &color, float coverage)
 {
-    const auto channel
-        = [](float value) { return int(std::clamp(value, 0.0f, 1.0f) * 255 + 0.5f); };
+    const auto channel = [](float value) { return qRound(std::clamp(value, 0.0f, 1.0f) * 255); };
     return qRgba(channel(color.x()), channel(color.y()), channel(color.z()), channel(coverage));
 }
 
