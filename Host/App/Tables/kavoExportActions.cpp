@@ -1,12 +1,9 @@
 #include "Tables/kavoExportActions.h"
 
 #include "Basics/kavoTry.h"
-#include "Tables/kavoExportScopeBox.h"
 #include "Tables/kavoTableExport.h"
-#include "Tables/kavoTableExportDialog.h"
-#include "Tables/kavoTableImportDialog.h"
+#include "Tables/kavoValuePairDialog.h"
 #include "Tables/kavoValuePairExport.h"
-#include "Tables/kavoValuePairExportDialog.h"
 
 #include <kavoScenegraph.h>
 
@@ -27,21 +24,20 @@ kavoExportActions::kavoExportActions(QWidget *window, QMenu *fileMenu)
 
 void kavoExportActions::exportValuePairs()
 {
-    kavoValuePairExportDialog dialog(m_window);
+    kavoValuePairDialog dialog(kavoValuePairDialog::ExportValuePairs, m_window);
     if (dialog.exec() != QDialog::Accepted)
         return;
     const QString file = askForFile(dialog.windowTitle(), kavoTableOptions::Csv);
     if (file.isEmpty())
         return;
     run(dialog.windowTitle(), [&](const kavoMonitor &monitor) {
-        kavoValuePairExport::run(
-            dialog.scope().root(), file, dialog.scope().takesAllNodes(), monitor);
+        kavoValuePairExport::run(dialog.root(), file, dialog.options().takesAllNodes, monitor);
     });
 }
 
 void kavoExportActions::exportTable()
 {
-    kavoTableExportDialog dialog(m_window);
+    kavoValuePairDialog dialog(kavoValuePairDialog::ExportTable, m_window);
     if (dialog.exec() != QDialog::Accepted)
         return;
     const kavoTableOptions options = dialog.options();
@@ -49,7 +45,7 @@ void kavoExportActions::exportTable()
     if (file.isEmpty())
         return;
     run(dialog.windowTitle(), [&](const kavoMonitor &monitor) {
-        kavoTableExport(dialog.scope().root(), options).run(file, monitor);
+        kavoTableExport(dialog.root(), options).run(file, monitor);
     });
 }
 
@@ -59,12 +55,13 @@ void kavoExportActions::importTable()
         m_window, tr("Import Table"), QString(), tr("Tables (*.csv *.jsonl);;All files (*)"));
     if (file.isEmpty())
         return;
-    kavoTableImportDialog dialog(m_window);
+    kavoValuePairDialog dialog(kavoValuePairDialog::ImportTable, m_window);
     if (dialog.exec() != QDialog::Accepted)
         return;
+    kavoTableOptions options = dialog.options();
+    options.format = kavoTableOptions::formatOf(file);
     run(dialog.windowTitle(), [&](const kavoMonitor &monitor) {
-        const auto report
-            = kavoTableImport::run(kavoScenegraph::getRoot(), file, dialog.options(file), monitor);
+        const auto report = kavoTableImport::run(kavoScenegraph::getRoot(), file, options, monitor);
         if (report)
             show(*report);
     });

@@ -9,7 +9,7 @@ namespace {
 
 const char settingsGroup[] = "tableFormat";
 
-// Those that are only there at an export may be null.
+// The widgets that only an export has are null at an import.
 void recall(const QSettings &settings, QComboBox *box, const char *key)
 {
     const int place = box ? box->findData(settings.value(key)) : -1;
@@ -37,11 +37,11 @@ void remember(QSettings &settings, const QCheckBox *box, const char *key)
 
 }
 
-kavoTableFormatBox::kavoTableFormatBox(Purpose purpose, QWidget *parent)
+kavoTableFormatBox::kavoTableFormatBox(bool isForExport, QWidget *parent)
     : QGroupBox(tr("Format"), parent)
 {
     auto *layout = new QFormLayout(this);
-    if (purpose == Export)
+    if (isForExport)
         addExportRows(layout);
     m_decimalSeparator = new QComboBox(this);
     m_decimalSeparator->addItem(tr("Point"), QChar('.'));

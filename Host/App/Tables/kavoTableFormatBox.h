@@ -8,21 +8,20 @@ class QCheckBox;
 class QComboBox;
 class QFormLayout;
 
-/// Asks for the format of a table. At an import the format and the delimiter are found out, so only
-/// what cannot be is asked for.
+/// Asks for the format of a table, and remembers the answers from one run of the program to the
+/// next.
 class kavoTableFormatBox : public QGroupBox
 {
     Q_OBJECT
 
 public:
-    enum Purpose { Export, Import };
+    /// \param isForExport If false, the box leaves out what an import detects: format, delimiter
+    /// and byte order mark.
+    explicit kavoTableFormatBox(bool isForExport, QWidget *parent = nullptr);
 
-    /// Begins with what was remembered last.
-    explicit kavoTableFormatBox(Purpose purpose, QWidget *parent = nullptr);
-
-    /// Sets what was chosen here; leaves the rest alone.
+    /// Sets the options that the box shows, and no others.
     void apply(kavoTableOptions &options) const;
-    /// Keeps the choices for the next box, in this run and in later ones.
+    /// Stores the choices for the next box.
     void remember() const;
 
 private:
