@@ -46,7 +46,7 @@ std::string replaced(std::string text, char from, char to)
     return text;
 }
 
-}
+} // namespace
 
 kavoCellText::kavoCellText(char decimalSeparator, bool guardsFormulas)
     : m_decimalSeparator(decimalSeparator)

@@ -45,7 +45,7 @@ void kavoExportActions::exportTable()
     if (file.isEmpty())
         return;
     run(dialog.windowTitle(), [&](const kavoMonitor &monitor) {
-        kavoTableExport(dialog.root(), options).run(file, monitor);
+        kavoTableExport::run(dialog.root(), file, options, monitor);
     });
 }
 

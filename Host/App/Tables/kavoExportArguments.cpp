@@ -23,7 +23,7 @@ const QString namesOption = QStringLiteral("table-names");
 const QString typesOption = QStringLiteral("table-types");
 const QString nodeKeysOption = QStringLiteral("table-keys");
 
-}
+} // namespace
 
 QList<QCommandLineOption> kavoExportArguments::options()
 {
@@ -121,7 +121,7 @@ bool kavoExportArguments::run(const osg::NodePtr &scene, const osg::NodePtr &par
     if (!m_valuePairFile.isEmpty())
         kavoValuePairExport::run(part, m_valuePairFile, m_tableOptions.takesAllNodes);
     if (!m_exportFile.isEmpty())
-        kavoTableExport(part, optionsFor(m_exportFile)).run(m_exportFile);
+        kavoTableExport::run(part, m_exportFile, optionsFor(m_exportFile));
     return isImportComplete;
 }
 

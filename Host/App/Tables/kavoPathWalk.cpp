@@ -55,7 +55,7 @@ std::string pathOfParents(const osg::NodePtr &node)
     return path;
 }
 
-}
+} // namespace
 
 kavoPathWalk::kavoPathWalk(const osg::NodePtr &root)
     : m_root(root)

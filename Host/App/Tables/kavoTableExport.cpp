@@ -2,6 +2,8 @@
 
 #include "Basics/kavoOutputFile.h"
 #include "Tables/kavoPathWalk.h"
+#include "Tables/kavoTableColumns.h"
+#include "Tables/kavoTableFile.h"
 #include "Tables/kavoValuePairs.h"
 
 #include <kavoNodePtr.h>
@@ -17,24 +19,39 @@
 
 namespace {
 
+// Walks the scene twice, for the columns and for the rows: a table in memory could be larger than
+// the scene.
+class Export
+{
+public:
+    Export(const osg::NodePtr &root, const kavoTableOptions &options)
+        : m_root(root)
+        , m_options(options)
+        , m_columns(options.keys)
+    {
+    }
+
+    bool run(const QString &fileName, const kavoMonitor &monitor);
+
+private:
+    bool collectColumns(kavoTaskProgress &progress);
+    bool writeRows(
+        const std::ostream &out, kavoTableWriter &writer, kavoTaskProgress &progress) const;
+    const osg::ValuePairBase *pairsOfRow(const kavoPathWalk &walk) const;
+
+    const kavoNodePtr m_root; // the monitor may close the scene
+    const kavoTableOptions &m_options;
+    kavoTableColumns m_columns;
+};
+
 const char *coreTypeOf(const osg::NodePtr &node)
 {
     const osg::NodeCorePtr core = node->getCore();
     return core == osg::NullFC ? "" : core->getType().getCName();
 }
 
-}
-
-kavoTableExport::kavoTableExport(const osg::NodePtr &root, const kavoTableOptions &options)
-    : m_root(root)
-    , m_options(options)
-    , m_columns(options.keys)
+bool Export::run(const QString &fileName, const kavoMonitor &monitor)
 {
-}
-
-bool kavoTableExport::run(const QString &fileName, const kavoMonitor &monitor)
-{
-    const kavoNodePtr kept(m_root); // the monitor may let another scene take its place
     kavoOutputFile file(fileName);
     std::ofstream out(QFile::encodeName(file.path()), std::ios::binary);
     if (!out)
@@ -42,7 +59,7 @@ bool kavoTableExport::run(const QString &fileName, const kavoMonitor &monitor)
     kavoTaskProgress progress(m_root, 2, monitor);
     if (!collectColumns(progress))
         return false;
-    const auto writer = kavoTableWriter::create(out, m_options);
+    const auto writer = kavoTableFile::createWriter(out, m_options);
     writer->writeHeader(m_columns.keys());
     if (!writeRows(out, *writer, progress))
         return false;
@@ -53,7 +70,7 @@ bool kavoTableExport::run(const QString &fileName, const kavoMonitor &monitor)
     return true;
 }
 
-bool kavoTableExport::collectColumns(kavoTaskProgress &progress)
+bool Export::collectColumns(kavoTaskProgress &progress)
 {
     kavoPathWalk walk(m_root);
     while (walk.next()) {
@@ -66,11 +83,11 @@ bool kavoTableExport::collectColumns(kavoTaskProgress &progress)
     return true;
 }
 
-// Ends at the first error, before the monitor can have one of its own.
-bool kavoTableExport::writeRows(
+// Stops at the first write error, so that errno is still that of the error.
+bool Export::writeRows(
     const std::ostream &out, kavoTableWriter &writer, kavoTaskProgress &progress) const
 {
-    kavoTableWriter::Cells cells;
+    kavoTableWriter::Values values;
     kavoPathWalk walk(m_root);
     while (out && walk.next()) {
         if (!progress.advance())
@@ -78,16 +95,16 @@ bool kavoTableExport::writeRows(
         const osg::ValuePairBase *pairs = pairsOfRow(walk);
         if (!pairs)
             continue;
-        m_columns.fill(*pairs, cells);
+        m_columns.fill(*pairs, values);
         writer.writeRow({ walk.node().getFieldContainerId(), walk.path(), walk.name(),
                             coreTypeOf(walk.node()) },
-            cells);
+            values);
     }
     return true;
 }
 
-// Null for nodes that have no row.
-const osg::ValuePairBase *kavoTableExport::pairsOfRow(const kavoPathWalk &walk) const
+// Returns null for nodes that get no row.
+const osg::ValuePairBase *Export::pairsOfRow(const kavoPathWalk &walk) const
 {
     const osg::ValuePairBase *pairs = kavoValuePairs::of(walk.node());
     if (!pairs || (!m_options.takesAllNodes && !kavoNodeUtils::isFullyVisible(walk.node())))
@@ -100,4 +117,12 @@ const osg::ValuePairBase *kavoTableExport::pairsOfRow(const kavoPathWalk &walk) 
     const bool matches = m_options.nodeNames.matches(walk.name())
         && m_options.coreTypes.matches(coreTypeOf(walk.node()));
     return matches ? pairs : nullptr;
+}
+
+} // namespace
+
+bool kavoTableExport::run(const osg::NodePtr &root, const QString &fileName,
+    const kavoTableOptions &options, const kavoMonitor &monitor)
+{
+    return Export(root, options).run(fileName, monitor);
 }

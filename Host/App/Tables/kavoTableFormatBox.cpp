@@ -35,7 +35,7 @@ void remember(QSettings &settings, const QCheckBox *box, const char *key)
         settings.setValue(key, box->isChecked());
 }
 
-}
+} // namespace
 
 kavoTableFormatBox::kavoTableFormatBox(bool isForExport, QWidget *parent)
     : QGroupBox(tr("Format"), parent)

@@ -2,33 +2,38 @@
 
 #include "Tables/kavoRowPlacer.h"
 #include "Tables/kavoTableChanges.h"
-#include "Tables/kavoTableReader.h"
+#include "Tables/kavoTableFile.h"
 
 #include <kavoNodePtr.h>
 
+#include <QCoreApplication>
+
 namespace {
+
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(kavoTableImport)
+};
 
 QString describe(const kavoTable::Row &row, const QString &problem)
 {
-    return kavoTableImport::tr("line %1: '%2' (id %3): %4")
+    return Text::tr("line %1: '%2' (id %3): %4")
         .arg(QString::number(row.line), QString::fromStdString(row.path), QString::number(row.id),
             problem);
 }
 
-}
+} // namespace
 
 QString kavoTableImport::Report::summary() const
 {
-    return kavoTableImport::tr("Changed values: %1, nodes: %2")
-        .arg(changedValues)
-        .arg(changedNodes);
+    return Text::tr("Changed values: %1, nodes: %2").arg(changedValues).arg(changedNodes);
 }
 
 std::optional<kavoTableImport::Report> kavoTableImport::run(const osg::NodePtr &root,
     const QString &fileName, const kavoTableOptions &options, const kavoMonitor &monitor)
 {
-    const kavoTable table = kavoTableReader::read(fileName, options);
-    const kavoNodePtr kept(root); // the monitor may let another scene take its place
+    const kavoTable table = kavoTableFile::read(fileName, options);
+    const kavoNodePtr kept(root); // the monitor may close the scene
     kavoTaskProgress progress(root, 2, monitor);
     kavoRowPlacer placer(table.rows);
     if (!placer.search(root, progress))

@@ -1,19 +1,14 @@
 #pragma once
 
-#include "Tables/kavoTableOptions.h"
-
 #include <OpenSG/OSGBaseTypes.h>
 
-#include <memory>
-#include <ostream>
 #include <string>
 #include <vector>
 
-/// Writes a table of value pairs in some format.
+/// Writes the rows of a table of value pairs, one for each node.
 class kavoTableWriter
 {
 public:
-    /// What a row says of its node besides the values.
     struct Node
     {
         osg::UInt32 id;
@@ -21,14 +16,13 @@ public:
         std::string name;
         std::string type; ///< of its core
     };
-    /// For each column a value, or null where the node does not have the key.
-    using Cells = std::vector<const std::string *>;
+    /// The value of each column, or null if the node does not have the key.
+    using Values = std::vector<const std::string *>;
 
-    static std::unique_ptr<kavoTableWriter> create(
-        std::ostream &out, const kavoTableOptions &options);
     virtual ~kavoTableWriter() = default;
 
-    /// To be called once, before all rows. Equal keys stand side by side.
+    /// Must be called once, before all rows.
+    /// \param keys the key of each column; equal keys are adjacent
     virtual void writeHeader(const std::vector<std::string> &keys) = 0;
-    virtual void writeRow(const Node &node, const Cells &cells) = 0;
+    virtual void writeRow(const Node &node, const Values &values) = 0;
 };

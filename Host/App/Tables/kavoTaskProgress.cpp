@@ -19,7 +19,7 @@ unsigned countNodes(const osg::NodePtr &root)
     return count;
 }
 
-}
+} // namespace
 
 kavoTaskProgress::kavoTaskProgress(const osg::NodePtr &root, int passes, kavoMonitor monitor)
     : m_monitor(std::move(monitor))

@@ -84,7 +84,7 @@ template <class Replace> std::string replaced(const std::string &text, Replace r
     return result;
 }
 
-}
+} // namespace
 
 std::size_t kavoUtf8::lengthAt(const std::string &text, std::size_t place)
 {
@@ -117,8 +117,8 @@ std::string kavoUtf8::valid(const std::string &text)
 QString kavoUtf8::toString(const std::string &text)
 {
     // Of two byte order marks the conversion leaves one.
-    const bool hasMark = text.compare(0, 3, "\xEF\xBB\xBF") == 0;
-    return QString::fromStdString(hasMark ? "\xEF\xBB\xBF" + text : text);
+    const bool hasMark = text.compare(0, 3, byteOrderMark) == 0;
+    return QString::fromStdString(hasMark ? byteOrderMark + text : text);
 }
 
 std::string kavoUtf8::escaped(const std::string &text)

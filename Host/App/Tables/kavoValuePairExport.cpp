@@ -8,6 +8,7 @@
 
 #include <OpenSG/OSGGraphOpFactory.h>
 
+#include <QCoreApplication>
 #include <QFile>
 
 #include <memory>
@@ -15,6 +16,11 @@
 using osg::ValuePairCSVCreator;
 
 namespace {
+
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(kavoValuePairExport)
+};
 
 const char *const operationName = "ValuePairCSVCreator";
 
@@ -52,17 +58,17 @@ bool gather(ValuePairCSVCreator &creator, const osg::NodePtr &root, const kavoMo
     return isComplete;
 }
 
-}
+} // namespace
 
 bool kavoValuePairExport::run(const osg::NodePtr &root, const QString &fileName, bool takesAllNodes,
     const kavoMonitor &monitor)
 {
-    const kavoNodePtr kept(root); // the monitor may let another scene take its place
+    const kavoNodePtr kept(root); // the monitor may close the scene
     kavoOutputFile file(fileName);
     const std::unique_ptr<osg::GraphOp> operation = createOperation();
     auto *creator = dynamic_cast<ValuePairCSVCreator *>(operation.get());
     if (!creator) {
-        throw kavoTaskError(tr("The operation '%1' is not the one that writes value pairs")
+        throw kavoTaskError(Text::tr("The operation '%1' is not the one that writes value pairs")
                                 .arg(QString::fromLatin1(operationName)));
     }
     creator->setCsvType(takesAllNodes);

@@ -24,7 +24,7 @@ osg::ValuePairBasePtr findOrAttach(const osg::NodePtr &node)
     return pairs;
 }
 
-}
+} // namespace
 
 osg::ValuePairBase *kavoValuePairs::of(const osg::NodePtr &node)
 {

@@ -7,18 +7,18 @@
 #include <string>
 
 /// The value pairs attached to nodes.
-class kavoValuePairs
-{
-public:
-    /// The node's value pairs, null if it has none.
-    static osg::ValuePairBase *of(const osg::NodePtr &node);
+namespace kavoValuePairs {
 
-    /// The value of the pair with that index, empty where it is missing.
-    static const std::string &value(const osg::ValuePairBase &pairs, int index);
+/// Returns the node's value pairs, or null if it has none.
+osg::ValuePairBase *of(const osg::NodePtr &node);
 
-    /// Changes the value of the pair with that index.
-    static void setValue(const osg::NodePtr &node, int index, const std::string &value);
+/// Returns the value with that index, or an empty text if the list of values is shorter.
+const std::string &value(const osg::ValuePairBase &pairs, int index);
 
-    /// Adds a pair behind those that the node has. Values for which there was no key stay so.
-    static void append(const osg::NodePtr &node, const std::string &key, const std::string &value);
-};
+/// Changes the value with that index, in one edit.
+void setValue(const osg::NodePtr &node, int index, const std::string &value);
+
+/// Adds a pair after the node's last key, in one edit. Surplus values move behind it.
+void append(const osg::NodePtr &node, const std::string &key, const std::string &value);
+
+} // namespace kavoValuePairs

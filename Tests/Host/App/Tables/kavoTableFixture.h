@@ -23,7 +23,7 @@ struct kavoTableFixture
 
     QByteArray exported() const
     {
-        kavoTableExport(root, options).run(path());
+        kavoTableExport::run(root, path(), options);
         QFile file(path());
         return file.open(QIODevice::ReadOnly) ? file.readAll() : "no file";
     }

@@ -47,7 +47,7 @@ QJsonArray tst_TablePython::expectedRows(const osg::NodePtr &root)
 
 QJsonArray tst_TablePython::rowsReadByPython(const osg::NodePtr &root) const
 {
-    kavoTableExport(root, m_table.options).run(m_table.path());
+    kavoTableExport::run(root, m_table.path(), m_table.options);
     QFile documentation(KAVO_VALUE_PAIR_DOCUMENTATION);
     if (!documentation.open(QIODevice::ReadOnly))
         return {};

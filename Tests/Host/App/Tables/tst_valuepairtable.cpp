@@ -82,7 +82,7 @@ void tst_ValuePairTable::aPartOfTheSceneKeepsItsPaths()
     addNode(m_table->root, "Mast");
     const osg::NodePtr second = addNode(m_table->root, "Mast");
     addNode(second, "Flag", { { "k", "1" } });
-    kavoTableExport(second, m_table->options).run(m_table->path());
+    kavoTableExport::run(second, m_table->path(), m_table->options);
     QFile file(m_table->path());
     QVERIFY(file.open(QIODevice::ReadOnly));
     QVERIFY(file.readAll().contains(",/Hull/Mast[2]/Flag,"));
@@ -306,7 +306,7 @@ void tst_ValuePairTable::siblingsOfOneNameHaveNumbers()
 void tst_ValuePairTable::aTableThatCannotBeWrittenIsExplained()
 {
     try {
-        kavoTableExport(m_table->root, m_table->options).run("/no/such/folder/a.csv");
+        kavoTableExport::run(m_table->root, "/no/such/folder/a.csv", m_table->options);
         QFAIL("no error");
     } catch (const kavoTaskError &error) {
         QCOMPARE(error.message(),
@@ -333,7 +333,7 @@ void tst_ValuePairTable::cancelingLeavesNothing()
         addNode(m_table->root, nullptr, { { "k", "1" } });
     int calls = 0;
     const auto cancel = [&](int) { return ++calls < 5; }; // while the rows are written
-    QVERIFY(!kavoTableExport(m_table->root, m_table->options).run(m_table->path(), cancel));
+    QVERIFY(!kavoTableExport::run(m_table->root, m_table->path(), m_table->options, cancel));
     QCOMPARE(calls, 5);
     QVERIFY(QDir(m_table->folder.path()).entryList(QDir::Files | QDir::Hidden).isEmpty());
 }
