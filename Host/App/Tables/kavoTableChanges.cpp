@@ -4,61 +4,50 @@
 
 kavoTableChanges::kavoTableChanges(const kavoTable &table)
     : m_table(table)
-    , m_pairs(table.columns.size(), none)
 {
     for (std::size_t i = 0; i < table.columns.size(); ++i)
-        m_keys[table.columns[i].first].columns.push_back(i);
+        m_columns.emplace(table.columns[i], i);
 }
 
 void kavoTableChanges::compare(const kavoTable::Row &row, const osg::NodePtr &node)
 {
     const std::size_t changesBefore = m_changes.size();
-    findPairs(node);
+    std::map<std::size_t, int> pairs = pairsByColumn(node);
     for (const kavoTable::Cell &cell : row.cells) {
-        compareCell(node, cell.column, cell.text);
-        m_pairs[cell.column] = none;
+        const auto pair = pairs.find(cell.column);
+        compareCell(node, pair == pairs.end() ? none : pair->second, cell.column, cell.text);
+        pairs.erase(cell.column);
     }
-    // Cells that were emptied. Where there was no pair, none is made.
-    for (const auto &[key, column] : m_found) {
-        if (m_table.missingCellsAreEmpty && m_pairs[column] != none)
-            compareCell(node, column, std::string());
+    if (m_table.missingCellsAreEmpty) {
+        for (const auto &[column, pair] : pairs)
+            compareCell(node, pair, column, std::string());
     }
-    forgetPairs();
     m_nodeCount += m_changes.size() > changesBefore;
 }
 
-void kavoTableChanges::findPairs(const osg::NodePtr &node)
+// Leaves out pairs whose key the table does not have, or does not have often enough.
+std::map<std::size_t, int> kavoTableChanges::pairsByColumn(const osg::NodePtr &node) const
 {
+    std::map<std::size_t, int> found;
+    std::map<std::string, int> occurrences;
     const osg::ValuePairBase *pairs = kavoValuePairs::of(node);
     for (osg::UInt32 i = 0; pairs && i < pairs->getKeys().size(); ++i) {
-        const auto found = m_keys.find(pairs->getKeys().getValues()[i]);
-        if (found == m_keys.end() || found->second.occurrences == found->second.columns.size())
-            continue;
-        Key &key = found->second;
-        const std::size_t column = key.columns[key.occurrences++];
-        m_pairs[column] = int(i);
-        m_found.emplace_back(&key, column);
+        const std::string &key = pairs->getKeys().getValues()[i];
+        const auto column = m_columns.find({ key, occurrences[key]++ });
+        if (column != m_columns.end())
+            found.emplace(column->second, int(i));
     }
+    return found;
 }
 
 void kavoTableChanges::compareCell(
-    const osg::NodePtr &node, std::size_t column, const std::string &cell)
+    const osg::NodePtr &node, int pair, std::size_t column, const std::string &cell)
 {
-    const int pair = m_pairs[column];
     const kavoCellText &cellText = m_table.cellText;
     if (pair != none
         && cellText.encode(kavoValuePairs::value(*kavoValuePairs::of(node), pair)) == cell)
         return;
     m_changes.push_back({ node, pair, column, cellText.decode(cell) });
-}
-
-void kavoTableChanges::forgetPairs()
-{
-    for (const auto &[key, column] : m_found) {
-        key->occurrences = 0;
-        m_pairs[column] = none;
-    }
-    m_found.clear();
 }
 
 void kavoTableChanges::write() const

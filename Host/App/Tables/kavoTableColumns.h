@@ -6,35 +6,35 @@
 
 #include <map>
 #include <string>
-#include <unordered_map>
 #include <vector>
 
-/// The columns of a table of value pairs: one for each key, and where some node has a key several
-/// times, that many. They are in the byte order of their keys.
+/// The columns of a table of value pairs, in the byte order of their keys. A key has as many
+/// columns as the node that repeats it most has pairs with that key.
 class kavoTableColumns
 {
 public:
-    /// \param keys the keys that get columns
+    /// \param keys selects the keys that get columns
     explicit kavoTableColumns(const kavoPatterns &keys);
 
-    /// Adds what these pairs need. Before layOut().
+    /// Adds the columns that these pairs need. Must not be called after layOut().
     void add(const osg::ValuePairBase &pairs);
+    /// Fixes the order of the columns. The functions below need it.
     void layOut();
 
-    /// The key of each column. After layOut(), as all below.
+    /// Returns the key of each column.
     const std::vector<std::string> &keys() const { return m_keys; }
-    /// Distributes the values of a node. \param cells a value or null for each column
-    void fill(const osg::ValuePairBase &pairs, std::vector<const std::string *> &cells) const;
+    /// Returns the value of each column, or null if the pairs do not have the key.
+    std::vector<const std::string *> valuesOf(const osg::ValuePairBase &pairs) const;
 
 private:
     struct Key
     {
         bool isWanted;
-        int columns;
+        std::size_t columnCount;
         std::size_t firstColumn;
     };
 
     kavoPatterns m_patterns;
-    std::unordered_map<std::string, Key> m_index;
+    std::map<std::string, Key> m_index;
     std::vector<std::string> m_keys;
 };

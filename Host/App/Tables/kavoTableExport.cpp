@@ -87,7 +87,6 @@ bool Export::collectColumns(kavoTaskProgress &progress)
 bool Export::writeRows(
     const std::ostream &out, kavoTableWriter &writer, kavoTaskProgress &progress) const
 {
-    kavoTableWriter::Values values;
     kavoPathWalk walk(m_root);
     while (out && walk.next()) {
         if (!progress.advance())
@@ -95,10 +94,9 @@ bool Export::writeRows(
         const osg::ValuePairBase *pairs = pairsOfRow(walk);
         if (!pairs)
             continue;
-        m_columns.fill(*pairs, values);
         writer.writeRow({ walk.node().getFieldContainerId(), walk.path(), walk.name(),
                             coreTypeOf(walk.node()) },
-            values);
+            m_columns.valuesOf(*pairs));
     }
     return true;
 }
