@@ -22,7 +22,7 @@ using Cells = std::vector<std::string>;
 
 const Cells fixedColumns { "id", "path", "name", "type" };
 
-class Writer : public kavoTableWriter
+class Writer : public kavoRowWriter
 {
 public:
     Writer(std::ostream &out, const kavoTableOptions &options)
@@ -117,12 +117,12 @@ char findDelimiter(const std::string &text)
     return ',';
 }
 
-std::vector<kavoTable::Column> columnsOf(const Cells &header, const kavoCellText &cellText)
+std::vector<kavoImportedTable::Column> columnsOf(const Cells &header, const kavoCellText &cellText)
 {
     if (header.size() < fixedColumns.size()
         || !std::equal(fixedColumns.begin(), fixedColumns.end(), header.begin()))
         fail(1, Text::tr("the columns id, path, name and type are not the first"));
-    std::vector<kavoTable::Column> columns;
+    std::vector<kavoImportedTable::Column> columns;
     std::unordered_map<std::string, int> count;
     for (std::size_t i = fixedColumns.size(); i < header.size(); ++i) {
         const std::string key = cellText.decodeKey(header[i]);
@@ -141,9 +141,9 @@ osg::UInt32 parseId(const std::string &cell, int line)
 }
 
 // Leaves out empty cells: they are most of a large table.
-kavoTable::Row rowOf(const Cells &cells, int line, const kavoCellText &cellText)
+kavoImportedTable::Row rowOf(const Cells &cells, int line, const kavoCellText &cellText)
 {
-    kavoTable::Row row { line, parseId(cells[0], line), cellText.decode(cells[1]), {} };
+    kavoImportedTable::Row row { line, parseId(cells[0], line), cellText.decode(cells[1]), {} };
     for (std::size_t i = fixedColumns.size(); i < cells.size(); ++i) {
         if (!cells[i].empty())
             row.cells.push_back({ i - fixedColumns.size(), cells[i] });
@@ -153,15 +153,15 @@ kavoTable::Row rowOf(const Cells &cells, int line, const kavoCellText &cellText)
 
 } // namespace
 
-std::unique_ptr<kavoTableWriter> kavoCsv::createWriter(
+std::unique_ptr<kavoRowWriter> kavoCsv::createWriter(
     std::ostream &out, const kavoTableOptions &options)
 {
     return std::make_unique<Writer>(out, options);
 }
 
-kavoTable kavoCsv::read(const std::string &text, const kavoTableOptions &options)
+kavoImportedTable kavoCsv::read(const std::string &text, const kavoTableOptions &options)
 {
-    kavoTable table;
+    kavoImportedTable table;
     table.missingCellsAreEmpty = true;
     table.cellText = kavoCellText(options.decimalSeparator, options.guardsFormulas);
     kavoCsvParser parser(text, findDelimiter(text));

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Tables/kavoTable.h"
+#include "Tables/kavoImportedTable.h"
+#include "Tables/kavoRowWriter.h"
 #include "Tables/kavoTableOptions.h"
-#include "Tables/kavoTableWriter.h"
 
 #include <memory>
 #include <ostream>
@@ -12,10 +12,10 @@
 namespace kavoCsv {
 
 /// Quotes cells where necessary and ends lines in CR LF.
-std::unique_ptr<kavoTableWriter> createWriter(std::ostream &out, const kavoTableOptions &options);
+std::unique_ptr<kavoRowWriter> createWriter(std::ostream &out, const kavoTableOptions &options);
 
 /// Reads a table that such a writer wrote. A user may have removed, added and moved columns of
 /// keys. Detects the delimiter. \throws kavoTaskError if the text is malformed
-kavoTable read(const std::string &text, const kavoTableOptions &options);
+kavoImportedTable read(const std::string &text, const kavoTableOptions &options);
 
 } // namespace kavoCsv

@@ -1,9 +1,9 @@
 #include "Tables/kavoExportActions.h"
 
 #include "Basics/kavoTry.h"
+#include "Tables/kavoCsvCreatorExport.h"
 #include "Tables/kavoTableExport.h"
 #include "Tables/kavoValuePairDialog.h"
-#include "Tables/kavoValuePairExport.h"
 
 #include <kavoScenegraph.h>
 
@@ -31,7 +31,7 @@ void kavoExportActions::exportValuePairs()
     if (file.isEmpty())
         return;
     run(dialog.windowTitle(), [&](const kavoMonitor &monitor) {
-        kavoValuePairExport::run(dialog.root(), file, dialog.options().takesAllNodes, monitor);
+        kavoCsvCreatorExport::run(dialog.root(), file, dialog.options().takesAllNodes, monitor);
     });
 }
 

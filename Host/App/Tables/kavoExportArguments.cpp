@@ -1,9 +1,9 @@
 #include "Tables/kavoExportArguments.h"
 
 #include "Basics/kavoTaskError.h"
+#include "Tables/kavoCsvCreatorExport.h"
 #include "Tables/kavoTableExport.h"
 #include "Tables/kavoTableImport.h"
-#include "Tables/kavoValuePairExport.h"
 
 #include <cstdio>
 
@@ -119,7 +119,7 @@ bool kavoExportArguments::run(const osg::NodePtr &scene, const osg::NodePtr &par
 {
     const bool isImportComplete = m_importFile.isEmpty() || importTable(scene);
     if (!m_valuePairFile.isEmpty())
-        kavoValuePairExport::run(part, m_valuePairFile, m_tableOptions.takesAllNodes);
+        kavoCsvCreatorExport::run(part, m_valuePairFile, m_tableOptions.takesAllNodes);
     if (!m_exportFile.isEmpty())
         kavoTableExport::run(part, m_exportFile, optionsFor(m_exportFile));
     return isImportComplete;

@@ -19,7 +19,7 @@ struct Text
     Q_DECLARE_TR_FUNCTIONS(kavoJsonLines)
 };
 
-class Writer : public kavoTableWriter
+class Writer : public kavoRowWriter
 {
 public:
     explicit Writer(std::ostream &out)
@@ -99,20 +99,21 @@ class Reader
 {
 public:
     void addRow(const QJsonObject &object, int line);
-    kavoTable takeTable() { return std::move(m_table); }
+    kavoImportedTable takeTable() { return std::move(m_table); }
 
 private:
     std::size_t columnOf(const std::string &key, int occurrence);
 
-    kavoTable m_table;
-    std::map<kavoTable::Column, std::size_t> m_columns;
+    kavoImportedTable m_table;
+    std::map<kavoImportedTable::Column, std::size_t> m_columns;
 };
 
 void Reader::addRow(const QJsonObject &object, int line)
 {
     if (!object.value(QLatin1String("values")).isObject())
         throw kavoTaskError(Text::tr("no values"));
-    kavoTable::Row row { line, idOf(object), textOf(object.value(QLatin1String("path"))), {} };
+    kavoImportedTable::Row row { line, idOf(object), textOf(object.value(QLatin1String("path"))),
+        {} };
     const QJsonObject values = object.value(QLatin1String("values")).toObject();
     for (auto member = values.begin(); member != values.end(); ++member) {
         const std::string key = kavoUtf8::unescaped(member.key().toStdString());
@@ -134,12 +135,12 @@ std::size_t Reader::columnOf(const std::string &key, int occurrence)
 
 } // namespace
 
-std::unique_ptr<kavoTableWriter> kavoJsonLines::createWriter(std::ostream &out)
+std::unique_ptr<kavoRowWriter> kavoJsonLines::createWriter(std::ostream &out)
 {
     return std::make_unique<Writer>(out);
 }
 
-kavoTable kavoJsonLines::read(const std::string &text)
+kavoImportedTable kavoJsonLines::read(const std::string &text)
 {
     Reader reader;
     int number = 0;

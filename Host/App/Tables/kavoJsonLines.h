@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Tables/kavoTable.h"
-#include "Tables/kavoTableWriter.h"
+#include "Tables/kavoImportedTable.h"
+#include "Tables/kavoRowWriter.h"
 
 #include <memory>
 #include <ostream>
@@ -12,10 +12,10 @@
 /// the node has the key several times.
 namespace kavoJsonLines {
 
-std::unique_ptr<kavoTableWriter> createWriter(std::ostream &out);
+std::unique_ptr<kavoRowWriter> createWriter(std::ostream &out);
 
 /// Reads a table that such a writer wrote. Ignores all members but id, path and values.
 /// \throws kavoTaskError if the text is malformed
-kavoTable read(const std::string &text);
+kavoImportedTable read(const std::string &text);
 
 } // namespace kavoJsonLines

@@ -2,7 +2,7 @@
 
 #include "Tables/kavoPathWalk.h"
 
-kavoRowPlacer::kavoRowPlacer(const std::vector<kavoTable::Row> &rows)
+kavoRowPlacer::kavoRowPlacer(const std::vector<kavoImportedTable::Row> &rows)
     : m_rows(rows)
     , m_names(rows.size())
 {

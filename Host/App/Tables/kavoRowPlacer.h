@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Tables/kavoTable.h"
+#include "Tables/kavoImportedTable.h"
 #include "Tables/kavoTaskProgress.h"
 
 #include <OpenSG/OSGNode.h>
@@ -31,7 +31,7 @@ public:
     };
 
     /// \param rows must live as long as this object
-    explicit kavoRowPlacer(const std::vector<kavoTable::Row> &rows);
+    explicit kavoRowPlacer(const std::vector<kavoImportedTable::Row> &rows);
 
     /// Looks at the nodes of a scene. To be called once.
     /// \returns false if the monitor has canceled it
@@ -54,7 +54,7 @@ private:
     void findRowsOf(const osg::NodePtr &node, const std::string &path);
     void claim(const osg::NodePtr &node, std::size_t row);
 
-    const std::vector<kavoTable::Row> &m_rows;
+    const std::vector<kavoImportedTable::Row> &m_rows;
     std::unordered_multimap<osg::UInt32, std::size_t> m_rowsById;
     std::unordered_multimap<std::string_view, std::size_t> m_rowsByPath;
     std::vector<Names> m_names; ///< by row

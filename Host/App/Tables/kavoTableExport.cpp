@@ -1,8 +1,8 @@
 #include "Tables/kavoTableExport.h"
 
 #include "Basics/kavoOutputFile.h"
+#include "Tables/kavoKeyColumns.h"
 #include "Tables/kavoPathWalk.h"
-#include "Tables/kavoTableColumns.h"
 #include "Tables/kavoTableFile.h"
 #include "Tables/kavoValuePairs.h"
 
@@ -36,12 +36,12 @@ public:
 private:
     bool collectColumns(kavoTaskProgress &progress);
     bool writeRows(
-        const std::ostream &out, kavoTableWriter &writer, kavoTaskProgress &progress) const;
+        const std::ostream &out, kavoRowWriter &writer, kavoTaskProgress &progress) const;
     const osg::ValuePairBase *pairsOfRow(const kavoPathWalk &walk) const;
 
     const kavoNodePtr m_root; // the monitor may close the scene
     const kavoTableOptions &m_options;
-    kavoTableColumns m_columns;
+    kavoKeyColumns m_columns;
 };
 
 const char *coreTypeOf(const osg::NodePtr &node)
@@ -85,7 +85,7 @@ bool Export::collectColumns(kavoTaskProgress &progress)
 
 // Stops at the first write error, so that errno is still that of the error.
 bool Export::writeRows(
-    const std::ostream &out, kavoTableWriter &writer, kavoTaskProgress &progress) const
+    const std::ostream &out, kavoRowWriter &writer, kavoTaskProgress &progress) const
 {
     kavoPathWalk walk(m_root);
     while (out && walk.next()) {

@@ -30,7 +30,7 @@ std::string readText(const QString &fileName)
 
 } // namespace
 
-kavoTable kavoTableFile::read(const QString &fileName, const kavoTableOptions &options)
+kavoImportedTable kavoTableFile::read(const QString &fileName, const kavoTableOptions &options)
 {
     try {
         const std::string text = readText(fileName);
@@ -42,7 +42,7 @@ kavoTable kavoTableFile::read(const QString &fileName, const kavoTableOptions &o
     }
 }
 
-std::unique_ptr<kavoTableWriter> kavoTableFile::createWriter(
+std::unique_ptr<kavoRowWriter> kavoTableFile::createWriter(
     std::ostream &out, const kavoTableOptions &options)
 {
     if (options.format == kavoTableOptions::JsonLines)

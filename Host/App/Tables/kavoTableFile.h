@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Tables/kavoTable.h"
+#include "Tables/kavoImportedTable.h"
+#include "Tables/kavoRowWriter.h"
 #include "Tables/kavoTableOptions.h"
-#include "Tables/kavoTableWriter.h"
 
 #include <QString>
 
@@ -16,9 +16,9 @@ namespace kavoTableFile {
 /// delimiter; for an empty file, `options.format` decides.
 /// \param options decimal separator and formula guard of the export
 /// \throws kavoTaskError if the file cannot be read or is malformed; the message names the line
-kavoTable read(const QString &fileName, const kavoTableOptions &options);
+kavoImportedTable read(const QString &fileName, const kavoTableOptions &options);
 
 /// Creates a writer for the format of the options.
-std::unique_ptr<kavoTableWriter> createWriter(std::ostream &out, const kavoTableOptions &options);
+std::unique_ptr<kavoRowWriter> createWriter(std::ostream &out, const kavoTableOptions &options);
 
 } // namespace kavoTableFile

@@ -1,8 +1,8 @@
 #include "Tables/kavoTableImport.h"
 
 #include "Tables/kavoRowPlacer.h"
-#include "Tables/kavoTableChanges.h"
 #include "Tables/kavoTableFile.h"
+#include "Tables/kavoValueChanges.h"
 
 #include <kavoNodePtr.h>
 
@@ -15,7 +15,7 @@ struct Text
     Q_DECLARE_TR_FUNCTIONS(kavoTableImport)
 };
 
-QString describe(const kavoTable::Row &row, const QString &problem)
+QString describe(const kavoImportedTable::Row &row, const QString &problem)
 {
     return Text::tr("line %1: '%2' (id %3): %4")
         .arg(QString::number(row.line), QString::fromStdString(row.path), QString::number(row.id),
@@ -32,13 +32,13 @@ QString kavoTableImport::Report::summary() const
 std::optional<kavoTableImport::Report> kavoTableImport::run(const osg::NodePtr &root,
     const QString &fileName, const kavoTableOptions &options, const kavoMonitor &monitor)
 {
-    const kavoTable table = kavoTableFile::read(fileName, options);
+    const kavoImportedTable table = kavoTableFile::read(fileName, options);
     const kavoNodePtr kept(root); // the monitor may close the scene
     kavoTaskProgress progress(root, 2, monitor);
     kavoRowPlacer placer(table.rows);
     if (!placer.search(root, progress))
         return std::nullopt;
-    kavoTableChanges changes(table);
+    kavoValueChanges changes(table);
     Report report;
     for (std::size_t i = 0; i < table.rows.size(); ++i) {
         if (!progress.advance())

@@ -1,15 +1,15 @@
-#include "Tables/kavoTableColumns.h"
+#include "Tables/kavoKeyColumns.h"
 
 #include "Tables/kavoValuePairs.h"
 
 #include <algorithm>
 
-kavoTableColumns::kavoTableColumns(const kavoPatterns &keys)
+kavoKeyColumns::kavoKeyColumns(const kavoPatterns &keys)
     : m_patterns(keys)
 {
 }
 
-void kavoTableColumns::add(const osg::ValuePairBase &pairs)
+void kavoKeyColumns::add(const osg::ValuePairBase &pairs)
 {
     std::map<std::string, std::size_t> count;
     for (const std::string &text : pairs.getKeys().getValues()) {
@@ -21,7 +21,7 @@ void kavoTableColumns::add(const osg::ValuePairBase &pairs)
     }
 }
 
-void kavoTableColumns::layOut()
+void kavoKeyColumns::layOut()
 {
     for (auto &[text, key] : m_index) {
         key.firstColumn = m_keys.size();
@@ -30,7 +30,7 @@ void kavoTableColumns::layOut()
     }
 }
 
-std::vector<const std::string *> kavoTableColumns::valuesOf(const osg::ValuePairBase &pairs) const
+std::vector<const std::string *> kavoKeyColumns::valuesOf(const osg::ValuePairBase &pairs) const
 {
     std::vector<const std::string *> values(m_keys.size(), nullptr);
     const std::vector<std::string> &keys = pairs.getKeys().getValues();

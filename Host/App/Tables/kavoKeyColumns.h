@@ -10,11 +10,11 @@
 
 /// The columns of a table of value pairs, in the byte order of their keys. A key has as many
 /// columns as the node that repeats it most has pairs with that key.
-class kavoTableColumns
+class kavoKeyColumns
 {
 public:
     /// \param keys selects the keys that get columns
-    explicit kavoTableColumns(const kavoPatterns &keys);
+    explicit kavoKeyColumns(const kavoPatterns &keys);
 
     /// Adds the columns that these pairs need. Must not be called after layOut().
     void add(const osg::ValuePairBase &pairs);

@@ -1,7 +1,7 @@
 #include "kavoFileSizeLimit.h"
 
 #include "Basics/kavoTaskError.h"
-#include "Tables/kavoValuePairExport.h"
+#include "Tables/kavoCsvCreatorExport.h"
 #include <kavoConsoleCapture.h>
 #include <kavoNodePtr.h>
 #include <kavoTestHost.h>
@@ -21,7 +21,7 @@
 
 using kavoTestPairs::addNode;
 
-class tst_ValuePairExport : public QObject
+class tst_CsvCreatorExport : public QObject
 {
     Q_OBJECT
 
@@ -61,7 +61,7 @@ private:
     kavoNodePtr m_root;
 };
 
-void tst_ValuePairExport::init()
+void tst_CsvCreatorExport::init()
 {
     m_console = std::make_unique<kavoConsoleCapture>(kavoConsoleCapture::StandardOutput);
     m_folder = std::make_unique<QTemporaryDir>();
@@ -69,102 +69,102 @@ void tst_ValuePairExport::init()
     addNode(m_root, "Mast", { { "color", "blue" } });
 }
 
-void tst_ValuePairExport::cleanup()
+void tst_CsvCreatorExport::cleanup()
 {
     m_root = osg::NullFC;
     m_folder.reset();
     m_console.reset();
 }
 
-QByteArray tst_ValuePairExport::contentOf(const QString &file)
+QByteArray tst_CsvCreatorExport::contentOf(const QString &file)
 {
     QFile opened(file);
     return opened.open(QIODevice::ReadOnly) ? opened.readAll() : "no file";
 }
 
 // Why the file cannot be written.
-QString tst_ValuePairExport::reasonOf(const QString &file) const
+QString tst_CsvCreatorExport::reasonOf(const QString &file) const
 {
     try {
-        kavoValuePairExport::run(m_root, file, false);
+        kavoCsvCreatorExport::run(m_root, file, false);
     } catch (const kavoTaskError &error) {
         return error.message();
     }
     return "no error";
 }
 
-void tst_ValuePairExport::theSceneIsWritten()
+void tst_CsvCreatorExport::theSceneIsWritten()
 {
-    QVERIFY(kavoValuePairExport::run(m_root, path("a.csv"), false));
+    QVERIFY(kavoCsvCreatorExport::run(m_root, path("a.csv"), false));
     QCOMPARE(contentOf(path("a.csv")), QByteArray("nodes\\keys,color,\nHull,red,\nMast,blue,\n"));
     QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files), QStringList { "a.csv" });
 }
 
-void tst_ValuePairExport::aPartOfTheSceneIsWritten()
+void tst_CsvCreatorExport::aPartOfTheSceneIsWritten()
 {
-    QVERIFY(kavoValuePairExport::run(m_root->getChild(0), path("a.csv"), false));
+    QVERIFY(kavoCsvCreatorExport::run(m_root->getChild(0), path("a.csv"), false));
     QCOMPARE(contentOf(path("a.csv")), QByteArray("nodes\\keys,color,\nMast,blue,\n"));
 }
 
-void tst_ValuePairExport::allNodesAreWrittenOnRequest()
+void tst_CsvCreatorExport::allNodesAreWrittenOnRequest()
 {
     m_root->getChild(0)->setTravMask(1);
-    kavoValuePairExport::run(m_root, path("visible.csv"), false);
+    kavoCsvCreatorExport::run(m_root, path("visible.csv"), false);
     QCOMPARE(contentOf(path("visible.csv")), QByteArray("nodes\\keys,color,\nHull,red,\n"));
-    kavoValuePairExport::run(m_root, path("all.csv"), true);
+    kavoCsvCreatorExport::run(m_root, path("all.csv"), true);
     QCOMPARE(contentOf(path("all.csv")), QByteArray("nodes\\keys,color,\nHull,red,\nMast,blue,\n"));
 }
 
-void tst_ValuePairExport::anEmptySceneIsOnlyAHeader()
+void tst_CsvCreatorExport::anEmptySceneIsOnlyAHeader()
 {
-    QVERIFY(kavoValuePairExport::run(osg::NullFC, path("a.csv"), false));
+    QVERIFY(kavoCsvCreatorExport::run(osg::NullFC, path("a.csv"), false));
     QCOMPARE(contentOf(path("a.csv")), QByteArray("nodes\\keys,\n"));
 }
 
-void tst_ValuePairExport::theOperationIsCreatedByNameAndDeleted()
+void tst_CsvCreatorExport::theOperationIsCreatedByNameAndDeleted()
 {
-    kavoValuePairExport::run(m_root, path("a.csv"), false);
+    kavoCsvCreatorExport::run(m_root, path("a.csv"), false);
     kavoConsoleCapture console(kavoConsoleCapture::StandardOutput);
-    kavoValuePairExport::run(m_root, path("b.csv"), false);
+    kavoCsvCreatorExport::run(m_root, path("b.csv"), false);
     QCOMPARE(console.text(),
         QByteArray("ValuePairCSVCreator::~ValuePairCSVCreator\n"
                    "ValuePairCSVCreator::ValuePairCSVCreator\n"
                    "ValuePairCSVCreator::~ValuePairCSVCreator\n"));
 }
 
-void tst_ValuePairExport::anExistingFileIsReplacedAndKeepsItsPermissions()
+void tst_CsvCreatorExport::anExistingFileIsReplacedAndKeepsItsPermissions()
 {
     QFile old(path("a.csv"));
     QVERIFY(old.open(QIODevice::WriteOnly) && old.write("old") == 3);
     old.close();
     ::chmod(QFile::encodeName(old.fileName()), 0640);
-    kavoValuePairExport::run(m_root, old.fileName(), false);
+    kavoCsvCreatorExport::run(m_root, old.fileName(), false);
     QVERIFY(contentOf(old.fileName()).startsWith("nodes"));
     struct stat status;
     QCOMPARE(::stat(QFile::encodeName(old.fileName()), &status), 0);
     QCOMPARE(int(status.st_mode & 0777), 0640);
 }
 
-void tst_ValuePairExport::aLinkStaysALink()
+void tst_CsvCreatorExport::aLinkStaysALink()
 {
-    kavoValuePairExport::run(m_root, path("a.csv"), false);
+    kavoCsvCreatorExport::run(m_root, path("a.csv"), false);
     QVERIFY(QFile::link(path("a.csv"), path("link.csv")));
-    kavoValuePairExport::run(m_root->getChild(0), path("link.csv"), false);
+    kavoCsvCreatorExport::run(m_root->getChild(0), path("link.csv"), false);
     QVERIFY(QFileInfo(path("link.csv")).isSymLink());
     QCOMPARE(contentOf(path("a.csv")), QByteArray("nodes\\keys,color,\nMast,blue,\n"));
 }
 
-void tst_ValuePairExport::aLinkToNothingStaysALink()
+void tst_CsvCreatorExport::aLinkToNothingStaysALink()
 {
     QVERIFY(QFile::link(path("a.csv"), path("link.csv")));
     QVERIFY(QFile::link(path("link.csv"), path("link to the link.csv")));
-    kavoValuePairExport::run(m_root, path("link to the link.csv"), false);
+    kavoCsvCreatorExport::run(m_root, path("link to the link.csv"), false);
     QVERIFY(QFileInfo(path("link to the link.csv")).isSymLink());
     QVERIFY(QFileInfo(path("link.csv")).isSymLink());
     QVERIFY(contentOf(path("a.csv")).startsWith("nodes"));
 }
 
-void tst_ValuePairExport::aLinkToItselfIsExplained()
+void tst_CsvCreatorExport::aLinkToItselfIsExplained()
 {
     QVERIFY(QFile::link(path("a.csv"), path("a.csv")));
     QCOMPARE(
@@ -172,18 +172,18 @@ void tst_ValuePairExport::aLinkToItselfIsExplained()
     QVERIFY(QFileInfo(path("a.csv")).isSymLink());
 }
 
-void tst_ValuePairExport::aPipeIsWrittenToDirectly()
+void tst_CsvCreatorExport::aPipeIsWrittenToDirectly()
 {
     int ends[2];
     QCOMPARE(::pipe(ends), 0);
-    QVERIFY(kavoValuePairExport::run(m_root, QString("/dev/fd/%1").arg(ends[1]), false));
+    QVERIFY(kavoCsvCreatorExport::run(m_root, QString("/dev/fd/%1").arg(ends[1]), false));
     ::close(ends[1]);
     QFile pipe;
     QVERIFY(pipe.open(ends[0], QIODevice::ReadOnly, QFile::AutoCloseHandle));
     QCOMPARE(pipe.readAll(), QByteArray("nodes\\keys,color,\nHull,red,\nMast,blue,\n"));
 }
 
-void tst_ValuePairExport::aStreamRedirectedToAFileIsRefused()
+void tst_CsvCreatorExport::aStreamRedirectedToAFileIsRefused()
 {
     QFile file(path("log.txt"));
     QVERIFY(file.open(QIODevice::ReadWrite));
@@ -193,20 +193,20 @@ void tst_ValuePairExport::aStreamRedirectedToAFileIsRefused()
     QCOMPARE(contentOf(path("log.txt")), QByteArray("precious"));
 }
 
-void tst_ValuePairExport::aNameMayBeAsLongAsNamesCanBe()
+void tst_CsvCreatorExport::aNameMayBeAsLongAsNamesCanBe()
 {
     const QString longest = path(QString(NAME_MAX, 'a'));
-    QVERIFY(kavoValuePairExport::run(m_root, longest, false));
+    QVERIFY(kavoCsvCreatorExport::run(m_root, longest, false));
     QVERIFY(contentOf(longest).startsWith("nodes"));
 }
 
-void tst_ValuePairExport::aDeviceIsWrittenToDirectly()
+void tst_CsvCreatorExport::aDeviceIsWrittenToDirectly()
 {
-    QVERIFY(kavoValuePairExport::run(m_root, "/dev/null", false));
+    QVERIFY(kavoCsvCreatorExport::run(m_root, "/dev/null", false));
     QVERIFY(!QFileInfo("/dev/null").isFile());
 }
 
-void tst_ValuePairExport::aFileThatCannotBeWrittenIsExplained_data()
+void tst_CsvCreatorExport::aFileThatCannotBeWrittenIsExplained_data()
 {
     QTest::addColumn<QString>("file");
     QTest::addColumn<QString>("reason");
@@ -216,20 +216,20 @@ void tst_ValuePairExport::aFileThatCannotBeWrittenIsExplained_data()
                               << "Is a directory";
 }
 
-void tst_ValuePairExport::aFileThatCannotBeWrittenIsExplained()
+void tst_CsvCreatorExport::aFileThatCannotBeWrittenIsExplained()
 {
     QFETCH(QString, file);
     QFETCH(QString, reason);
     QCOMPARE(reasonOf(file), QString("Cannot write '%1': %2").arg(file, reason));
 }
 
-void tst_ValuePairExport::aFullDiskIsExplained()
+void tst_CsvCreatorExport::aFullDiskIsExplained()
 {
     QVERIFY(QFile::link("/dev/full", path("full.csv")));
     QVERIFY(reasonOf(path("full.csv")).endsWith("No space left on device"));
 }
 
-void tst_ValuePairExport::aFailureInTheMiddleLeavesNothing()
+void tst_CsvCreatorExport::aFailureInTheMiddleLeavesNothing()
 {
     const kavoFileSizeLimit limit(1 << 20);
     addNode(m_root, "Sail", { { "color", std::string(3 << 20, 'x') } });
@@ -237,9 +237,9 @@ void tst_ValuePairExport::aFailureInTheMiddleLeavesNothing()
     QVERIFY(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden).isEmpty());
 }
 
-void tst_ValuePairExport::aFailureInTheMiddleKeepsTheOldFile()
+void tst_CsvCreatorExport::aFailureInTheMiddleKeepsTheOldFile()
 {
-    kavoValuePairExport::run(m_root, path("a.csv"), false);
+    kavoCsvCreatorExport::run(m_root, path("a.csv"), false);
     const QByteArray old = contentOf(path("a.csv"));
     const kavoFileSizeLimit limit(1 << 20);
     addNode(m_root, "Sail", { { "color", std::string(3 << 20, 'x') } });
@@ -247,12 +247,12 @@ void tst_ValuePairExport::aFailureInTheMiddleKeepsTheOldFile()
     QCOMPARE(contentOf(path("a.csv")), old);
 }
 
-void tst_ValuePairExport::progressGrowsToTheEnd()
+void tst_CsvCreatorExport::progressGrowsToTheEnd()
 {
     for (int i = 0; i < 5000; ++i)
         addNode(m_root, nullptr);
     std::vector<int> percents;
-    kavoValuePairExport::run(m_root, path("a.csv"), false, [&](int percent) {
+    kavoCsvCreatorExport::run(m_root, path("a.csv"), false, [&](int percent) {
         percents.push_back(percent);
         return true;
     });
@@ -261,24 +261,24 @@ void tst_ValuePairExport::progressGrowsToTheEnd()
     QVERIFY(percents.front() > 0 && percents.back() <= 100);
 }
 
-void tst_ValuePairExport::cancelingLeavesNothing()
+void tst_CsvCreatorExport::cancelingLeavesNothing()
 {
     for (int i = 0; i < 5000; ++i)
         addNode(m_root, nullptr);
     const auto cancel = [](int) { return false; };
-    QVERIFY(!kavoValuePairExport::run(m_root, path("a.csv"), false, cancel));
+    QVERIFY(!kavoCsvCreatorExport::run(m_root, path("a.csv"), false, cancel));
     QVERIFY(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden).isEmpty());
 }
 
-void tst_ValuePairExport::cancelingKeepsTheOldFile()
+void tst_CsvCreatorExport::cancelingKeepsTheOldFile()
 {
-    kavoValuePairExport::run(m_root, path("a.csv"), false);
+    kavoCsvCreatorExport::run(m_root, path("a.csv"), false);
     const QByteArray old = contentOf(path("a.csv"));
     for (int i = 0; i < 5000; ++i)
         addNode(m_root, nullptr, { { "k", "v" } });
-    QVERIFY(!kavoValuePairExport::run(m_root, path("a.csv"), false, [](int) { return false; }));
+    QVERIFY(!kavoCsvCreatorExport::run(m_root, path("a.csv"), false, [](int) { return false; }));
     QCOMPARE(contentOf(path("a.csv")), old);
 }
 
-KAVO_TEST_MAIN(tst_ValuePairExport)
-#include "tst_valuepairexport.moc"
+KAVO_TEST_MAIN(tst_CsvCreatorExport)
+#include "tst_csvcreatorexport.moc"

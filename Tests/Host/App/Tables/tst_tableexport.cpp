@@ -14,7 +14,7 @@
 using kavoTestPairs::addNode;
 
 // Tables as they are written. How they are read is in tst_tableimport.
-class tst_ValuePairTable : public QObject
+class tst_TableExport : public QObject
 {
     Q_OBJECT
 
@@ -53,7 +53,7 @@ private:
     std::unique_ptr<kavoTableFixture> m_table;
 };
 
-void tst_ValuePairTable::aRowTellsIdPathNameTypeAndValues()
+void tst_TableExport::aRowTellsIdPathNameTypeAndValues()
 {
     const osg::NodePtr mast
         = addNode(m_table->root, "Mast", { { "size", "2" }, { "color", "red" } });
@@ -62,14 +62,14 @@ void tst_ValuePairTable::aRowTellsIdPathNameTypeAndValues()
         "id,path,name,type,color,size\r\n" + id + ",/Hull/Mast,Mast,Group,red,2\r\n");
 }
 
-void tst_ValuePairTable::nodesWithoutPairsHaveNoRow()
+void tst_TableExport::nodesWithoutPairsHaveNoRow()
 {
     addNode(m_table->root, "Deck");
     kavoTestPairs::attachment(addNode(m_table->root, "Sail", { { "k", "" } }))->getKeys().clear();
     QCOMPARE(m_table->exported(), QByteArray("id,path,name,type\r\n"));
 }
 
-void tst_ValuePairTable::nodesThatAreNotFullyVisibleHaveNoRow()
+void tst_TableExport::nodesThatAreNotFullyVisibleHaveNoRow()
 {
     addNode(m_table->root, "Mast", { { "k", "1" } })->setTravMask(1);
     QCOMPARE(m_table->exported(), QByteArray("id,path,name,type\r\n"));
@@ -77,7 +77,7 @@ void tst_ValuePairTable::nodesThatAreNotFullyVisibleHaveNoRow()
     QCOMPARE(m_table->cells(1), QByteArray("1"));
 }
 
-void tst_ValuePairTable::aPartOfTheSceneKeepsItsPaths()
+void tst_TableExport::aPartOfTheSceneKeepsItsPaths()
 {
     addNode(m_table->root, "Mast");
     const osg::NodePtr second = addNode(m_table->root, "Mast");
@@ -88,7 +88,7 @@ void tst_ValuePairTable::aPartOfTheSceneKeepsItsPaths()
     QVERIFY(file.readAll().contains(",/Hull/Mast[2]/Flag,"));
 }
 
-void tst_ValuePairTable::cellsAreQuotedWhereNeedBe_data()
+void tst_TableExport::cellsAreQuotedWhereNeedBe_data()
 {
     QTest::addColumn<QByteArray>("value");
     QTest::addColumn<QByteArray>("cell");
@@ -101,7 +101,7 @@ void tst_ValuePairTable::cellsAreQuotedWhereNeedBe_data()
     QTest::newRow("UTF-8") << QByteArray("\xC3\xA4") << QByteArray("\xC3\xA4");
 }
 
-void tst_ValuePairTable::cellsAreQuotedWhereNeedBe()
+void tst_TableExport::cellsAreQuotedWhereNeedBe()
 {
     QFETCH(QByteArray, value);
     QFETCH(QByteArray, cell);
@@ -109,7 +109,7 @@ void tst_ValuePairTable::cellsAreQuotedWhereNeedBe()
     QCOMPARE(m_table->cells(1), cell);
 }
 
-void tst_ValuePairTable::theDelimiterCanBeChosen()
+void tst_TableExport::theDelimiterCanBeChosen()
 {
     addNode(m_table->root, "Mast", { { "k", "a,b" }, { "l", "a;b" } });
     QVERIFY(m_table->options.setDelimiter("semicolon"));
@@ -117,7 +117,7 @@ void tst_ValuePairTable::theDelimiterCanBeChosen()
     QCOMPARE(m_table->cells(1), QByteArray("\"a,b\";\"a;b\""));
 }
 
-void tst_ValuePairTable::theDelimiterIsKnownByNameOrCharacter_data()
+void tst_TableExport::theDelimiterIsKnownByNameOrCharacter_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QChar>("delimiter");
@@ -132,7 +132,7 @@ void tst_ValuePairTable::theDelimiterIsKnownByNameOrCharacter_data()
     QTest::newRow("nothing") << "" << QChar();
 }
 
-void tst_ValuePairTable::theDelimiterIsKnownByNameOrCharacter()
+void tst_TableExport::theDelimiterIsKnownByNameOrCharacter()
 {
     QFETCH(QString, text);
     QFETCH(QChar, delimiter);
@@ -140,7 +140,7 @@ void tst_ValuePairTable::theDelimiterIsKnownByNameOrCharacter()
     QCOMPARE(QChar(m_table->options.delimiter), delimiter.isNull() ? QChar(',') : delimiter);
 }
 
-void tst_ValuePairTable::numbersGetTheDecimalSeparator_data()
+void tst_TableExport::numbersGetTheDecimalSeparator_data()
 {
     QTest::addColumn<QByteArray>("value");
     QTest::addColumn<QByteArray>("cell");
@@ -154,7 +154,7 @@ void tst_ValuePairTable::numbersGetTheDecimalSeparator_data()
     QTest::newRow("no number with comma") << QByteArray("1,5") << QByteArray("\"'1,5\"");
 }
 
-void tst_ValuePairTable::numbersGetTheDecimalSeparator()
+void tst_TableExport::numbersGetTheDecimalSeparator()
 {
     QFETCH(QByteArray, value);
     QFETCH(QByteArray, cell);
@@ -164,7 +164,7 @@ void tst_ValuePairTable::numbersGetTheDecimalSeparator()
     QCOMPARE(m_table->cells(1), cell);
 }
 
-void tst_ValuePairTable::formulasAreGuarded_data()
+void tst_TableExport::formulasAreGuarded_data()
 {
     QTest::addColumn<QByteArray>("value");
     QTest::addColumn<QByteArray>("cell");
@@ -179,7 +179,7 @@ void tst_ValuePairTable::formulasAreGuarded_data()
     QTest::newRow("later") << QByteArray("a=1") << QByteArray("a=1");
 }
 
-void tst_ValuePairTable::formulasAreGuarded()
+void tst_TableExport::formulasAreGuarded()
 {
     QFETCH(QByteArray, value);
     QFETCH(QByteArray, cell);
@@ -187,7 +187,7 @@ void tst_ValuePairTable::formulasAreGuarded()
     QCOMPARE(m_table->cells(1), cell);
 }
 
-void tst_ValuePairTable::theGuardCanBeLeftOut()
+void tst_TableExport::theGuardCanBeLeftOut()
 {
     addNode(m_table->root, "Mast", { { "=k", "=1+1" } });
     QCOMPARE(m_table->cells(0), QByteArray("'=k"));
@@ -196,14 +196,14 @@ void tst_ValuePairTable::theGuardCanBeLeftOut()
     QCOMPARE(m_table->cells(1), QByteArray("=1+1"));
 }
 
-void tst_ValuePairTable::aByteOrderMarkIsWrittenOnRequest()
+void tst_TableExport::aByteOrderMarkIsWrittenOnRequest()
 {
     QVERIFY(m_table->exported().startsWith("id"));
     m_table->options.startsWithByteOrderMark = true;
     QVERIFY(m_table->exported().startsWith("\xEF\xBB\xBFid"));
 }
 
-void tst_ValuePairTable::aRepeatedKeyGetsColumnsOfOneName()
+void tst_TableExport::aRepeatedKeyGetsColumnsOfOneName()
 {
     addNode(m_table->root, "Mast", { { "k", "1" }, { "l", "2" }, { "k", "3" } });
     addNode(m_table->root, "Deck", { { "k", "4" } });
@@ -212,14 +212,14 @@ void tst_ValuePairTable::aRepeatedKeyGetsColumnsOfOneName()
     QCOMPARE(m_table->cells(2), QByteArray("4,,"));
 }
 
-void tst_ValuePairTable::missingValuesAreEmpty()
+void tst_TableExport::missingValuesAreEmpty()
 {
     const osg::NodePtr mast = addNode(m_table->root, "Mast", { { "k", "1" }, { "l", "2" } });
     kavoTestPairs::attachment(mast)->getValues().resize(1);
     QCOMPARE(m_table->cells(1), QByteArray("1,"));
 }
 
-void tst_ValuePairTable::columnsAreChosenByPattern()
+void tst_TableExport::columnsAreChosenByPattern()
 {
     addNode(m_table->root, "Mast", { { "mass/dry", "1" }, { "massive", "2" }, { "Mass", "3" } });
     m_table->options.keys = kavoPatterns("mass/*;x");
@@ -227,7 +227,7 @@ void tst_ValuePairTable::columnsAreChosenByPattern()
     QCOMPARE(m_table->cells(1), QByteArray("1"));
 }
 
-void tst_ValuePairTable::rowsAreFiltered_data()
+void tst_TableExport::rowsAreFiltered_data()
 {
     QTest::addColumn<QString>("names");
     QTest::addColumn<QString>("types");
@@ -256,7 +256,7 @@ void tst_ValuePairTable::rowsAreFiltered_data()
                             << "l" << QByteArray();
 }
 
-void tst_ValuePairTable::rowsAreFiltered()
+void tst_TableExport::rowsAreFiltered()
 {
     QFETCH(QString, names);
     QFETCH(QString, types);
@@ -270,7 +270,7 @@ void tst_ValuePairTable::rowsAreFiltered()
     QTEST(m_table->cells(1) + m_table->cells(2), "rows");
 }
 
-void tst_ValuePairTable::jsonLinesTellTheSame()
+void tst_TableExport::jsonLinesTellTheSame()
 {
     const osg::NodePtr mast = addNode(m_table->root, "Mast",
         { { "k", "=\"\n" }, { "l", "1.5" }, { "k", "\xC3\xA4" }, { "m", "" } });
@@ -285,14 +285,14 @@ void tst_ValuePairTable::jsonLinesTellTheSame()
     QVERIFY(lines[1].endsWith("\"values\":{\"l\":\"2\"}}"));
 }
 
-void tst_ValuePairTable::theEndingOfTheNameTellsTheFormat()
+void tst_TableExport::theEndingOfTheNameTellsTheFormat()
 {
     QCOMPARE(kavoTableOptions::formatOf("a.JSONL"), kavoTableOptions::JsonLines);
     QCOMPARE(kavoTableOptions::formatOf("jsonl.csv"), kavoTableOptions::Csv);
     QCOMPARE(kavoTableOptions::formatOf("a"), kavoTableOptions::Csv);
 }
 
-void tst_ValuePairTable::siblingsOfOneNameHaveNumbers()
+void tst_TableExport::siblingsOfOneNameHaveNumbers()
 {
     for (const char *name : { "Oar", "Mast", "Oar", "Oar" })
         addNode(m_table->root, name);
@@ -303,7 +303,7 @@ void tst_ValuePairTable::siblingsOfOneNameHaveNumbers()
     QCOMPARE(paths, QByteArray("/Hull /Hull/Oar /Hull/Mast /Hull/Oar[2] /Hull/Oar[3] "));
 }
 
-void tst_ValuePairTable::aTableThatCannotBeWrittenIsExplained()
+void tst_TableExport::aTableThatCannotBeWrittenIsExplained()
 {
     try {
         kavoTableExport::run(m_table->root, "/no/such/folder/a.csv", m_table->options);
@@ -314,7 +314,7 @@ void tst_ValuePairTable::aTableThatCannotBeWrittenIsExplained()
     }
 }
 
-void tst_ValuePairTable::aFailureInTheMiddleLeavesNothing()
+void tst_TableExport::aFailureInTheMiddleLeavesNothing()
 {
     addNode(m_table->root, "Mast", { { "k", std::string(3 << 20, 'x') } });
     const kavoFileSizeLimit limit(1 << 20);
@@ -327,7 +327,7 @@ void tst_ValuePairTable::aFailureInTheMiddleLeavesNothing()
     QVERIFY(QDir(m_table->folder.path()).entryList(QDir::Files | QDir::Hidden).isEmpty());
 }
 
-void tst_ValuePairTable::cancelingLeavesNothing()
+void tst_TableExport::cancelingLeavesNothing()
 {
     for (int i = 0; i < 3000; ++i)
         addNode(m_table->root, nullptr, { { "k", "1" } });
@@ -338,5 +338,5 @@ void tst_ValuePairTable::cancelingLeavesNothing()
     QVERIFY(QDir(m_table->folder.path()).entryList(QDir::Files | QDir::Hidden).isEmpty());
 }
 
-KAVO_TEST_MAIN(tst_ValuePairTable)
-#include "tst_valuepairtable.moc"
+KAVO_TEST_MAIN(tst_TableExport)
+#include "tst_tableexport.moc"

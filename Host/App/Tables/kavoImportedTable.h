@@ -9,7 +9,7 @@
 #include <vector>
 
 /// A table of value pairs as it was read from a file.
-struct kavoTable
+struct kavoImportedTable
 {
     /// A key, and which of several of that key in a node, counted from 0.
     using Column = std::pair<std::string, int>;

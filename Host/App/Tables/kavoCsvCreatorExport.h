@@ -7,7 +7,7 @@
 #include <QString>
 
 /// Export of value pairs through the graph operation "ValuePairCSVCreator".
-namespace kavoValuePairExport {
+namespace kavoCsvCreatorExport {
 
 /// \param root the scene or a part of it; null is an empty scene
 /// \param takesAllNodes If true, also exports nodes that are not fully visible.
@@ -16,4 +16,4 @@ namespace kavoValuePairExport {
 bool run(const osg::NodePtr &root, const QString &fileName, bool takesAllNodes,
     const kavoMonitor &monitor = {});
 
-} // namespace kavoValuePairExport
+} // namespace kavoCsvCreatorExport

@@ -1,19 +1,19 @@
-#include "Tables/kavoTableChanges.h"
+#include "Tables/kavoValueChanges.h"
 
 #include "Tables/kavoValuePairs.h"
 
-kavoTableChanges::kavoTableChanges(const kavoTable &table)
+kavoValueChanges::kavoValueChanges(const kavoImportedTable &table)
     : m_table(table)
 {
     for (std::size_t i = 0; i < table.columns.size(); ++i)
         m_columns.emplace(table.columns[i], i);
 }
 
-void kavoTableChanges::compare(const kavoTable::Row &row, const osg::NodePtr &node)
+void kavoValueChanges::compare(const kavoImportedTable::Row &row, const osg::NodePtr &node)
 {
     const std::size_t changesBefore = m_changes.size();
     std::map<std::size_t, int> pairs = pairsByColumn(node);
-    for (const kavoTable::Cell &cell : row.cells) {
+    for (const kavoImportedTable::Cell &cell : row.cells) {
         const auto pair = pairs.find(cell.column);
         compareCell(node, pair == pairs.end() ? none : pair->second, cell.column, cell.text);
         pairs.erase(cell.column);
@@ -26,7 +26,7 @@ void kavoTableChanges::compare(const kavoTable::Row &row, const osg::NodePtr &no
 }
 
 // Leaves out pairs whose key the table does not have, or does not have often enough.
-std::map<std::size_t, int> kavoTableChanges::pairsByColumn(const osg::NodePtr &node) const
+std::map<std::size_t, int> kavoValueChanges::pairsByColumn(const osg::NodePtr &node) const
 {
     std::map<std::size_t, int> found;
     std::map<std::string, int> occurrences;
@@ -40,7 +40,7 @@ std::map<std::size_t, int> kavoTableChanges::pairsByColumn(const osg::NodePtr &n
     return found;
 }
 
-void kavoTableChanges::compareCell(
+void kavoValueChanges::compareCell(
     const osg::NodePtr &node, int pair, std::size_t column, const std::string &cell)
 {
     const kavoCellText &cellText = m_table.cellText;
@@ -50,7 +50,7 @@ void kavoTableChanges::compareCell(
     m_changes.push_back({ node, pair, column, cellText.decode(cell) });
 }
 
-void kavoTableChanges::write() const
+void kavoValueChanges::write() const
 {
     for (const Change &change : m_changes) {
         if (change.pair == none)

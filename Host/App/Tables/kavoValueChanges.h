@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Tables/kavoTable.h"
+#include "Tables/kavoImportedTable.h"
 
 #include <OpenSG/OSGNode.h>
 
@@ -8,14 +8,14 @@
 #include <vector>
 
 /// Collects the values that a table would change, and then changes them.
-class kavoTableChanges
+class kavoValueChanges
 {
 public:
     /// \param table must outlive this object
-    explicit kavoTableChanges(const kavoTable &table);
+    explicit kavoValueChanges(const kavoImportedTable &table);
 
     /// Compares a row with the values of its node. Each node may have one row only.
-    void compare(const kavoTable::Row &row, const osg::NodePtr &node);
+    void compare(const kavoImportedTable::Row &row, const osg::NodePtr &node);
 
     int valueCount() const { return int(m_changes.size()); }
     int nodeCount() const { return m_nodeCount; }
@@ -37,8 +37,8 @@ private:
     void compareCell(
         const osg::NodePtr &node, int pair, std::size_t column, const std::string &cell);
 
-    const kavoTable &m_table;
-    std::map<kavoTable::Column, std::size_t> m_columns;
+    const kavoImportedTable &m_table;
+    std::map<kavoImportedTable::Column, std::size_t> m_columns;
     std::vector<Change> m_changes;
     int m_nodeCount = 0;
 };

@@ -1,4 +1,4 @@
-#include "Tables/kavoValuePairExport.h"
+#include "Tables/kavoCsvCreatorExport.h"
 
 #include "Basics/kavoOutputFile.h"
 #include "Basics/kavoTaskError.h"
@@ -19,7 +19,7 @@ namespace {
 
 struct Text
 {
-    Q_DECLARE_TR_FUNCTIONS(kavoValuePairExport)
+    Q_DECLARE_TR_FUNCTIONS(kavoCsvCreatorExport)
 };
 
 const char *const operationName = "ValuePairCSVCreator";
@@ -60,8 +60,8 @@ bool gather(ValuePairCSVCreator &creator, const osg::NodePtr &root, const kavoMo
 
 } // namespace
 
-bool kavoValuePairExport::run(const osg::NodePtr &root, const QString &fileName, bool takesAllNodes,
-    const kavoMonitor &monitor)
+bool kavoCsvCreatorExport::run(const osg::NodePtr &root, const QString &fileName,
+    bool takesAllNodes, const kavoMonitor &monitor)
 {
     const kavoNodePtr kept(root); // the monitor may close the scene
     kavoOutputFile file(fileName);

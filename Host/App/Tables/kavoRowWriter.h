@@ -6,7 +6,7 @@
 #include <vector>
 
 /// Writes the rows of a table of value pairs, one for each node.
-class kavoTableWriter
+class kavoRowWriter
 {
 public:
     struct Node
@@ -19,7 +19,7 @@ public:
     /// The value of each column, or null if the node does not have the key.
     using Values = std::vector<const std::string *>;
 
-    virtual ~kavoTableWriter() = default;
+    virtual ~kavoRowWriter() = default;
 
     /// Must be called once, before all rows.
     /// \param keys the key of each column; equal keys are adjacent
