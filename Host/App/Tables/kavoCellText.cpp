@@ -21,7 +21,7 @@ const char *skipDigits(const char *c)
     return c;
 }
 
-// Digits with at most one separator among them, then perhaps an exponent.
+// Digits with at most one separator, and an optional exponent.
 bool hasFormOfNumber(const std::string &text, char separator)
 {
     const char *begin = skipSign(text.c_str());
@@ -95,7 +95,7 @@ bool kavoCellText::isGuarded(const std::string &cell) const
     return m_guardsFormulas && !cell.empty() && cell.front() == guard;
 }
 
-// An apostrophe of the text's own needs one as well, to be told from a guard.
+// A text that starts with an apostrophe needs a guard too, or decode() would remove its apostrophe.
 bool kavoCellText::needsGuard(const std::string &text) const
 {
     static const std::string starters = "=+-@\t\r\n'";

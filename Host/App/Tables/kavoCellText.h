@@ -2,26 +2,26 @@
 
 #include <string>
 
-/// How a text of the scene stands in a table that a spreadsheet opens, and the way back.
+/// Converts texts of the scene to cells of a table that a spreadsheet opens, and back.
 class kavoCellText
 {
 public:
     /// \param decimalSeparator '.' or ','
-    /// \param guardsFormulas whether text that a spreadsheet would run as a formula, or take for a
-    /// number that it is not, gets an apostrophe before it
+    /// \param guardsFormulas If true, encode() puts an apostrophe before text that a spreadsheet
+    /// would run as a formula, and before text that it would mistake for a number.
     explicit kavoCellText(char decimalSeparator = '.', bool guardsFormulas = false);
 
-    /// UTF-8, with U+FFFD for bytes that are none. Numbers get the decimal separator.
+    /// Returns UTF-8 with U+FFFD in place of invalid bytes. Numbers get the decimal separator.
     std::string encode(const std::string &text) const;
-    /// The text that encode() makes this cell of. Unguarded, a text that has the form of a number
-    /// with a decimal comma is taken for one.
+    /// The inverse of encode(). Without a guard, text that looks like a number with a decimal comma
+    /// becomes a number with a point.
     std::string decode(const std::string &cell) const;
 
-    /// Whether the cell is a number as encode() writes it.
+    /// Whether the cell has the form in which encode() writes numbers.
     bool isNumber(const std::string &cell) const;
 
-    /// The same as encode() for keys, at which columns are known again: the bytes of any key come
-    /// back, and none is taken for a number. kavoUtf8::escaped() tells how.
+    /// Encodes a key as kavoUtf8::escaped() does, with a guard if necessary. Unlike encode(), this
+    /// loses no bytes and does not change numbers: an import finds columns by their keys.
     std::string encodeKey(const std::string &key) const;
     std::string decodeKey(const std::string &cell) const;
 

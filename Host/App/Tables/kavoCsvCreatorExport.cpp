@@ -24,7 +24,7 @@ struct Text
 
 const char *const operationName = "ValuePairCSVCreator";
 
-// The factory never deletes its prototypes.
+// Static, because the factory keeps the pointer and never deletes it.
 void registerPrototype()
 {
     static ValuePairCSVCreator prototype(operationName);

@@ -6,21 +6,21 @@
 #include <string>
 #include <vector>
 
-/// Splits CSV as in RFC 4180 into rows of cells. Lines may end in CR LF, LF or CR; blank ones are
-/// passed over.
+/// Splits CSV (RFC 4180) into rows of cells. Accepts CR LF, LF and CR as line ends, and skips blank
+/// lines.
 class kavoCsvParser
 {
     Q_DECLARE_TR_FUNCTIONS(kavoCsvParser)
 
 public:
-    /// \param text must live as long as the parser
+    /// \param text must outlive the parser
     kavoCsvParser(const std::string &text, char delimiter);
 
     /// \returns false at the end
-    /// \throws kavoTaskError if a quote stands where none may be, or is never closed
+    /// \throws kavoTaskError if a quote is misplaced or never closed
     bool readRow(std::vector<std::string> &cells);
 
-    /// Where the row that was read last begins, counted from 1.
+    /// Returns the line on which the last row begins, counted from 1.
     int line() const { return m_rowLine; }
 
 private:

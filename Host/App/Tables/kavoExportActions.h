@@ -16,13 +16,14 @@ class kavoExportActions : public QObject
 
 public:
     /// Adds the commands at the end of the menu.
-    /// \param window parent of this object and of its dialogs
+    /// \param window becomes the parent of this object and of its dialogs
     kavoExportActions(QWidget *window, QMenu *fileMenu);
 
     /// Runs a task with a progress dialog that can cancel it.
-    /// \param task ends early if its monitor cancels it, throws a std::exception if it fails
+    /// \param task returns early if the monitor cancels it, and throws if it fails; failed() then
+    /// says why
     void run(const QString &title, const std::function<void(const kavoMonitor &)> &task);
-    /// Shows what became of an import.
+    /// Shows the result of an import.
     void show(const kavoTableImport::Report &report);
 
 signals:
@@ -32,7 +33,7 @@ private:
     void exportValuePairs();
     void exportTable();
     void importTable();
-    /// Where to export to, empty if the user cancels.
+    /// Returns the name of the file to write, empty if the user cancels.
     QString askForFile(const QString &title, kavoTableOptions::Format format);
 
     QWidget *m_window;

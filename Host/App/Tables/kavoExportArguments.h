@@ -10,7 +10,7 @@
 #include <QList>
 #include <QString>
 
-/// What the command line asks for in the way of value pairs: import of a table, export of tables.
+/// The imports and exports of value pairs that the command line asks for.
 class kavoExportArguments
 {
     Q_DECLARE_TR_FUNCTIONS(kavoExportArguments)
@@ -18,19 +18,18 @@ class kavoExportArguments
 public:
     static QList<QCommandLineOption> options();
 
-    /// \param parser has these options and has parsed
+    /// \param parser knows options() and has parsed the command line
     explicit kavoExportArguments(const QCommandLineParser &parser);
 
-    /// What is wrong with the values of the options, empty if nothing is.
+    /// Returns what is wrong with the values of the options, or an empty text.
     QString error() const { return m_error; }
-    /// Whether there is something to run.
     bool areJobs() const;
 
-    /// Imports first, so that what it changes comes out again, then exports.
-    /// \param scene the nodes that can be changed
-    /// \param part the nodes that are written
-    /// \returns false if rows of the table could not be placed; standard error tells which
-    /// \throws kavoTaskError if an import or export fails; the following are not run then
+    /// Runs the import, then the exports, which write the imported values.
+    /// \param scene the root of the nodes that the import may change
+    /// \param part the root of the nodes to export
+    /// \returns false if rows of the table could not be placed; standard error lists them
+    /// \throws kavoTaskError if a job fails; skips the remaining jobs then
     bool run(const osg::NodePtr &scene, const osg::NodePtr &part) const;
 
 private:
@@ -39,14 +38,14 @@ private:
     QString choose(const QCommandLineParser &parser, const QString &option,
         const QStringList &choices, const QString &preset);
     kavoPatterns parsePatterns(const QCommandLineParser &parser, const QString &option);
-    /// \returns whether all rows could be placed
+    /// \returns false if rows could not be placed
     bool importTable(const osg::NodePtr &scene) const;
     kavoTableOptions optionsFor(const QString &fileName) const;
 
     QString m_valuePairFile;
     QString m_exportFile;
     QString m_importFile;
-    QString m_format; ///< empty: by the name of the file
+    QString m_format; ///< if empty, the name of the file decides
     kavoTableOptions m_tableOptions;
     QString m_error;
 };

@@ -11,26 +11,25 @@
 /// A table of value pairs as it was read from a file.
 struct kavoImportedTable
 {
-    /// A key, and which of several of that key in a node, counted from 0.
+    /// A key and its occurrence in a node, counted from 0.
     using Column = std::pair<std::string, int>;
 
     struct Cell
     {
         std::size_t column; ///< index in columns
-        std::string text; ///< as it stands in the file, to be decoded
+        std::string text; ///< as in the file, not decoded
     };
 
     struct Row
     {
-        int line; ///< in the file, counted from 1
+        int line; ///< counted from 1
         osg::UInt32 id;
         std::string path;
         std::vector<Cell> cells; ///< at most one for each column
     };
 
-    std::vector<Column> columns; ///< each once, those of a key in the order of occurrence
-    /// Whether a row says of a column for which it has no cell that the value is empty. Else it
-    /// says nothing of it.
+    std::vector<Column> columns; ///< unique; the columns of a key in ascending order of occurrence
+    /// If true, a missing cell clears the value; if false, it leaves the value alone.
     bool missingCellsAreEmpty = false;
     kavoCellText cellText;
     std::vector<Row> rows;

@@ -6,27 +6,27 @@
 #include <unordered_map>
 #include <vector>
 
-/// Visits a node and all below it, parents before children, and knows the path of each.
+/// Visits a node and all nodes below it, parents before children, and computes the path of each.
 ///
-/// A path is made of the names from the scene's root down, each after a slash: "/Car/Wheel[2]". The
-/// second and further siblings of one name have their number among these; the characters / % [ ] of
-/// a name, and bytes that are no UTF-8, are written as % and two hexadecimal digits. So paths are
-/// UTF-8, and no two nodes of a scene have the same.
+/// A path lists the names from the root of the scene down to the node, as in "/Car/Wheel[2]". The
+/// second Wheel below Car has the number 2, the first has none. In a name, the characters / % [ ]
+/// and bytes that are not UTF-8 are written as % and two hexadecimal digits. Every path is valid
+/// UTF-8 and unique in its scene.
 class kavoPathWalk
 {
 public:
     explicit kavoPathWalk(const osg::NodePtr &root);
 
-    /// Goes on to the next node, at first to the root. Null nodes are passed over.
-    /// \returns false if there is none
+    /// Moves to the next node; the first call moves to the root. Skips null nodes.
+    /// \returns false at the end
     bool next();
 
     const osg::NodePtr &node() const { return m_node; }
     const std::string &path() const { return m_path; }
-    /// The node's display name, empty if it has none.
+    /// Returns the node's name, empty if it has none.
     const char *name() const { return m_name; }
 
-    /// A path without the numbers of siblings.
+    /// Returns the path without the numbers of siblings.
     static std::string withoutNumbers(const std::string &path);
 
 private:
@@ -35,7 +35,7 @@ private:
         osg::NodePtr node;
         osg::UInt32 nextChild;
         std::size_t pathLength;
-        std::unordered_map<std::string, int> names; ///< how many children had it so far
+        std::unordered_map<std::string, int> names; ///< number of visited children by name
     };
 
     void visit(const osg::NodePtr &node, int number);

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-// QRegExp since asterisks in wildcards of QRegularExpression match no slash, which keys may have.
+// QRegExp, because keys may have slashes, and asterisks of QRegularExpression do not match them.
 kavoPatterns::kavoPatterns(const QString &patterns)
 {
     for (const QString &pattern : patterns.split(QLatin1Char(';'), Qt::SkipEmptyParts))

@@ -7,18 +7,18 @@
 
 #include <string>
 
-/// Wildcard patterns, of which a text must match one.
+/// A list of wildcard patterns. A text matches if it matches one of them.
 class kavoPatterns
 {
     Q_DECLARE_TR_FUNCTIONS(kavoPatterns)
 
 public:
-    /// \param patterns separated by semicolons: * any text, ? any character, [ab] one of these.
-    /// Upper and lower case differ. An empty list matches everything.
+    /// \param patterns separated by semicolons; case-sensitive. * is any text, ? is any character,
+    /// [ab] is one of these. An empty list matches every text.
     explicit kavoPatterns(const QString &patterns = QString());
 
-    /// What is wrong with the patterns, in words for the user; empty if nothing is. A wrong pattern
-    /// matches nothing.
+    /// Returns what is wrong with the patterns in words for the user, or an empty text. A malformed
+    /// pattern matches nothing.
     QString error() const;
 
     bool matches(const std::string &text) const;

@@ -12,13 +12,13 @@
 #include <unordered_map>
 #include <vector>
 
-/// Finds the nodes that the rows of a table speak about.
+/// Finds the node of each row of a table.
 ///
-/// Neither ids nor paths are to be trusted alone: ids hold only as long as a scene is open, and in
-/// another session the same id may be that of a sibling; paths change when siblings of the same
-/// name come, go or change places. So a row names a node by its exact path, and also by its id if
-/// that node's path is the row's but for the numbers of siblings. It has a place only if these are
-/// not two different nodes, and if no other row names the node in either way.
+/// Neither ids nor paths are reliable alone. An id is valid only while the scene is open; in
+/// another session a sibling may have it. A path changes when siblings of the same name are added,
+/// deleted or moved. Therefore a row names the node that has exactly its path, and it names the
+/// node that has its id if the two paths differ only in the numbers of siblings. The row has a
+/// place if it names exactly one node and no other row names that node.
 class kavoRowPlacer
 {
     Q_DECLARE_TR_FUNCTIONS(kavoRowPlacer)
@@ -27,17 +27,16 @@ public:
     struct Place
     {
         osg::NodePtr node; ///< null if there is none
-        QString problem; ///< why there is none, in words for the user
+        QString problem; ///< if there is none, the reason in words for the user
     };
 
-    /// \param rows must live as long as this object
+    /// \param rows must outlive this object
     explicit kavoRowPlacer(const std::vector<kavoImportedTable::Row> &rows);
 
-    /// Looks at the nodes of a scene. To be called once.
-    /// \returns false if the monitor has canceled it
+    /// Searches the nodes of a scene. Must be called once.
+    /// \returns false if the monitor canceled the search
     bool search(const osg::NodePtr &root, kavoTaskProgress &progress);
 
-    /// Where that row belongs.
     Place placeOf(std::size_t row) const;
 
 private:
@@ -45,7 +44,7 @@ private:
     {
         osg::NodePtr byId, byPath;
     };
-    /// The rows that name a node, of which two are enough.
+    /// The first and the last row that name a node; the same row if there is only one.
     struct Claim
     {
         std::size_t first, last;

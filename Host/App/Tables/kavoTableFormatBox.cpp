@@ -9,7 +9,7 @@ namespace {
 
 const char settingsGroup[] = "tableFormat";
 
-// The widgets that only an export has are null at an import.
+// Some widgets are null at an import.
 void recall(const QSettings &settings, QComboBox *box, const char *key)
 {
     const int place = box ? box->findData(settings.value(key)) : -1;

@@ -2,30 +2,30 @@
 
 #include "Tables/kavoPatterns.h"
 
-/// How the value pairs of a scene are laid out as a table, and which of them.
+/// The format of a table of value pairs, and the selection of what an export writes.
 struct kavoTableOptions
 {
     enum Format { Csv, JsonLines };
 
-    /// By the ending of a file's name: .jsonl is JSON Lines.
+    /// Returns the format for the ending of a file name: JSON Lines for .jsonl, else CSV.
     static Format formatOf(const QString &fileName);
-    /// \param text comma, semicolon or tab, or the delimiter itself: any ASCII character that is
-    /// no quote, line end or NUL
-    /// \returns false if it is none of these; the delimiter keeps its value then
+    /// \param text comma, semicolon or tab, or the delimiter itself: any ASCII character but a
+    /// quote, a line end and NUL
+    /// \returns false for any other text; the delimiter is unchanged then
     bool setDelimiter(const QString &text);
 
     Format format = Csv;
-    // Of CSV only:
+    // For CSV only:
     char delimiter = ',';
     char decimalSeparator = '.';
     bool startsWithByteOrderMark = false;
-    /// Whether text that a spreadsheet would take for a formula begins with an apostrophe.
+    /// If true, text that a spreadsheet would take for a formula gets an apostrophe before it.
     bool guardsFormulas = true;
 
-    // Of export only:
+    // For exports only:
     kavoPatterns keys; ///< the columns
     kavoPatterns nodeNames;
     kavoPatterns coreTypes;
-    kavoPatterns nodeKeys; ///< nodes need a key that matches
-    bool takesAllNodes = false; ///< also those that are not fully visible
+    kavoPatterns nodeKeys; ///< a node needs at least one matching key
+    bool takesAllNodes = false; ///< if true, also nodes that are not fully visible
 };

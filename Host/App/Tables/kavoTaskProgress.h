@@ -4,14 +4,14 @@
 
 #include <functional>
 
-/// Hears from a long task how far it is, 0 to 100 percent. \returns whether to go on
+/// Receives the progress of a long task, from 0 to 100 percent. \returns false to cancel the task
 using kavoMonitor = std::function<bool(int percent)>;
 
-/// Counts the nodes that a task has done and tells its monitor now and then.
+/// Counts the nodes that a task has visited, and reports to a monitor every 1024 nodes.
 class kavoTaskProgress
 {
 public:
-    /// \param passes how often the task visits each node at or below the root
+    /// \param passes how often the task visits each node
     /// \param monitor may be empty
     kavoTaskProgress(const osg::NodePtr &root, int passes, kavoMonitor monitor);
 

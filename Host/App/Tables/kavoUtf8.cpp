@@ -7,8 +7,8 @@ namespace {
 
 const char digits[] = "0123456789ABCDEF";
 
-// The bytes that begin a character, and what the second may be; all further ones are 80 to BF. So
-// overlong forms, surrogates and what lies beyond Unicode are left out.
+// A range of first bytes, the range of the second byte after them, and the length. All further
+// bytes are 80 to BF. The ranges exclude overlong forms, surrogates and characters beyond Unicode.
 struct Form
 {
     unsigned char first, last;
@@ -58,8 +58,8 @@ int valueOf(char digit)
     return found ? int(found - digits) : -1;
 }
 
-// The byte that an escape stands for: a percent sign, or one that no ASCII character has; -1 if
-// there is no escape at that place.
+// Returns the byte that the escape at that place stands for, or -1 if there is no escape. Only the
+// percent sign and bytes outside ASCII are escaped.
 int escapeAt(const std::string &text, std::size_t place)
 {
     if (text[place] != '%' || text.size() - place < 3)
@@ -69,7 +69,7 @@ int escapeAt(const std::string &text, std::size_t place)
     return byte == '%' || byte >= 0x80 ? byte : -1;
 }
 
-// The text, with something else for the bytes that are no UTF-8.
+// Copies the text; calls `replace` for each invalid byte.
 template <class Replace> std::string replaced(const std::string &text, Replace replace)
 {
     std::string result;
@@ -116,7 +116,7 @@ std::string kavoUtf8::valid(const std::string &text)
 
 QString kavoUtf8::toString(const std::string &text)
 {
-    // Of two byte order marks the conversion leaves one.
+    // The conversion drops a byte order mark at the start.
     const bool hasMark = text.compare(0, 3, byteOrderMark) == 0;
     return QString::fromStdString(hasMark ? byteOrderMark + text : text);
 }
