@@ -3,7 +3,8 @@
 #include <csignal>
 #include <sys/resource.h>
 
-/// As long as it lives, writing to files fails behind so many bytes: errno is EFBIG then.
+/// Limits the size of the files that this process writes, while the object lives. Writing more
+/// fails with EFBIG.
 class kavoFileSizeLimit
 {
 public:

@@ -4,7 +4,7 @@
 
 #include <kavoNodeUtils.h>
 
-/// Tables of a hull with a mast and a deck, as text to be edited and imported.
+/// A scene of a hull with a mast and a deck, and text for tables about it.
 struct kavoShipFixture : kavoTableFixture
 {
     kavoShipFixture()
@@ -13,7 +13,7 @@ struct kavoShipFixture : kavoTableFixture
     {
     }
 
-    /// A line about that child of the root.
+    /// Returns a line of a table for a child of the root.
     static QByteArray row(const osg::NodePtr &node, const QByteArray &cells)
     {
         const QByteArray name = kavoNodeUtils::getName(node);

@@ -8,7 +8,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-/// A scene with value pairs, and tables of it in a folder of their own.
+/// A scene, and a temporary folder for tables of its value pairs.
 struct kavoTableFixture
 {
     kavoTableFixture()
@@ -37,7 +37,7 @@ struct kavoTableFixture
         return kavoTableImport::run(root, path(), options).value();
     }
 
-    /// The part of the line with that number (from 0) that stands behind the fixed columns.
+    /// Returns the cells of a line after the fixed columns. \param line counted from 0
     QByteArray cells(int line) const
     {
         const QByteArray text = exported().split('\n').value(line).trimmed();

@@ -82,7 +82,7 @@ QByteArray tst_CsvCreatorExport::contentOf(const QString &file)
     return opened.open(QIODevice::ReadOnly) ? opened.readAll() : "no file";
 }
 
-// Why the file cannot be written.
+// Returns the reason why the file cannot be written.
 QString tst_CsvCreatorExport::reasonOf(const QString &file) const
 {
     try {

@@ -21,12 +21,12 @@ private slots:
     void wrongValuesAreExplained_data();
     void wrongValuesAreExplained();
     void valuePairsAreExported();
-    void thePartIsExported();
-    void theTableHasTheOptionsAskedFor();
-    void theFormatIsThatOfTheNameOrTheOption();
+    void aPartOfTheSceneIsExported();
+    void optionsShapeTheTable();
+    void theOptionOrTheFileNameDecidesTheFormat();
     void theImportComesFirst();
-    void unplacedRowsAreAFailureThatKeepsNoExportBack();
-    void namesWithPercentSignsAreReportedAsTheyAre();
+    void unplacedRowsAreAFailureButExportsStillRun();
+    void fileNamesWithPercentSignsAreReportedUnchanged();
 
 private:
     static kavoExportArguments parse(const QStringList &arguments);
@@ -99,14 +99,14 @@ void tst_ExportArguments::valuePairsAreExported()
     QCOMPARE(written("all.csv"), QByteArray("nodes\\keys,color,size,\nHull,,,\nMast,red,1.5,\n"));
 }
 
-void tst_ExportArguments::thePartIsExported()
+void tst_ExportArguments::aPartOfTheSceneIsExported()
 {
     const kavoConsoleCapture output(kavoConsoleCapture::StandardOutput);
     parse({ "--export-value-pairs", m_table->path("a.csv") }).run(m_table->root, m_mast);
     QCOMPARE(written("a.csv"), QByteArray("nodes\\keys,color,size,\nMast,red,1.5,\n"));
 }
 
-void tst_ExportArguments::theTableHasTheOptionsAskedFor()
+void tst_ExportArguments::optionsShapeTheTable()
 {
     addNode(m_table->root, "Deck", { { "size", "=2" } });
     run({ "--export-table", m_table->path("t.csv"), "--table-bom", "--table-delimiter", "semicolon",
@@ -118,7 +118,7 @@ void tst_ExportArguments::theTableHasTheOptionsAskedFor()
     QVERIFY(table.endsWith(";/Hull/Deck;Deck;Group;=2\r\n"));
 }
 
-void tst_ExportArguments::theFormatIsThatOfTheNameOrTheOption()
+void tst_ExportArguments::theOptionOrTheFileNameDecidesTheFormat()
 {
     run({ "--export-table", m_table->path("t.jsonl") });
     QVERIFY(written("t.jsonl").startsWith('{'));
@@ -140,7 +140,7 @@ void tst_ExportArguments::theImportComesFirst()
     QVERIFY(written("p.csv").endsWith("Mast,green,1.5,\n"));
 }
 
-void tst_ExportArguments::unplacedRowsAreAFailureThatKeepsNoExportBack()
+void tst_ExportArguments::unplacedRowsAreAFailureButExportsStillRun()
 {
     const QString file = m_table->path("t.csv");
     QFile table(file);
@@ -152,7 +152,7 @@ void tst_ExportArguments::unplacedRowsAreAFailureThatKeepsNoExportBack()
     QVERIFY(written("p.csv").endsWith("Mast,red,1.5,\n"));
 }
 
-void tst_ExportArguments::namesWithPercentSignsAreReportedAsTheyAre()
+void tst_ExportArguments::fileNamesWithPercentSignsAreReportedUnchanged()
 {
     const QString file = m_table->path("sales %2.csv");
     QFile table(file);

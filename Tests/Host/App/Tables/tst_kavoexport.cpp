@@ -3,7 +3,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-// Import and export of value pairs as scripts meet it: the application without a display.
+// Runs the application without a display, as scripts do.
 class tst_kavoExport : public QObject
 {
     Q_OBJECT

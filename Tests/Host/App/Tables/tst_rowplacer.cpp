@@ -10,7 +10,7 @@ using kavoTestPairs::addNode;
 using Ship = kavoShipFixture;
 using Pairs = std::vector<kavoTestPairs::Pair>;
 
-// Which nodes the rows of an edited table are written to.
+// Checks to which node an import writes each row of an edited table.
 class tst_RowPlacer : public QObject
 {
     Q_OBJECT
@@ -27,9 +27,9 @@ private slots:
     void afterASiblingWasDeletedNothingLandsOnItsSuccessor();
     void anIdOfANodeElsewhereDoesNotCount();
     void rowsWithoutANodeAreReported();
-    void rowsAreReportedWithTheirPathAsItStands();
+    void reportsShowThePathOfTheFile();
     void rowsOfTheSameNodeAreReported();
-    void otherRowsAreWrittenAllTheSame();
+    void otherRowsAreStillWritten();
 
 private:
     std::unique_ptr<kavoShipFixture> m_table;
@@ -120,7 +120,7 @@ void tst_RowPlacer::rowsWithoutANodeAreReported()
     QCOMPARE(m_table->import(Ship::header).unplacedRows, QStringList());
 }
 
-void tst_RowPlacer::rowsAreReportedWithTheirPathAsItStands()
+void tst_RowPlacer::reportsShowThePathOfTheFile()
 {
     const auto report = m_table->import(Ship::header + "17,/A%2FX,,,,\n");
     QCOMPARE(
@@ -138,7 +138,7 @@ void tst_RowPlacer::rowsOfTheSameNodeAreReported()
     QVERIFY(kavoTestPairs::of(m_table->mast) == (Pairs { { "size", "2" }, { "color", "red" } }));
 }
 
-void tst_RowPlacer::otherRowsAreWrittenAllTheSame()
+void tst_RowPlacer::otherRowsAreStillWritten()
 {
     const auto report
         = m_table->import(Ship::header + "1,/Hull/A,,,,\n" + Ship::row(m_table->mast, "green,2"));

@@ -9,7 +9,7 @@
 using kavoTestPairs::addNode;
 using Pairs = std::vector<kavoTestPairs::Pair>;
 
-// Texts that are not UTF-8, or look like something else, on their way through a table.
+// Exports and imports texts that are not UTF-8, and texts that are easily confused.
 class tst_TableEncoding : public QObject
 {
     Q_OBJECT
@@ -22,11 +22,11 @@ private slots:
     void textsThatLookAlikeAreNotMixedUp();
     void aByteOrderMarkInATextIsKept_data() { formats(); }
     void aByteOrderMarkInATextIsKept();
-    void bytesThatAreNoUtf8AreReplaced_data();
-    void bytesThatAreNoUtf8AreReplaced();
-    void keysAndPathsTellBytesThatAreNoUtf8_data();
-    void keysAndPathsTellBytesThatAreNoUtf8();
-    void charactersWithAMeaningInPathsAreEscaped();
+    void invalidUtf8IsReplaced_data();
+    void invalidUtf8IsReplaced();
+    void keysAndPathsEscapeInvalidUtf8_data();
+    void keysAndPathsEscapeInvalidUtf8();
+    void specialCharactersInPathsAreEscaped();
 
 private:
     static void formats();
@@ -41,7 +41,7 @@ void tst_TableEncoding::formats()
     QTest::newRow("JSON Lines") << int(kavoTableOptions::JsonLines);
 }
 
-void tst_TableEncoding::bytesThatAreNoUtf8AreReplaced_data()
+void tst_TableEncoding::invalidUtf8IsReplaced_data()
 {
     QTest::addColumn<QByteArray>("value");
     QTest::addColumn<QByteArray>("cell");
@@ -54,14 +54,14 @@ void tst_TableEncoding::bytesThatAreNoUtf8AreReplaced_data()
     QTest::newRow("4 bytes") << QByteArray("\xF0\x9F\x9A\xA2") << QByteArray("\xF0\x9F\x9A\xA2");
 }
 
-void tst_TableEncoding::bytesThatAreNoUtf8AreReplaced()
+void tst_TableEncoding::invalidUtf8IsReplaced()
 {
     QFETCH(QByteArray, value);
     addNode(m_table->root, "Mast", { { "k", value.toStdString() } });
     QTEST(m_table->cells(1), "cell");
 }
 
-void tst_TableEncoding::keysAndPathsTellBytesThatAreNoUtf8_data()
+void tst_TableEncoding::keysAndPathsEscapeInvalidUtf8_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<QByteArray>("key");
@@ -75,7 +75,7 @@ void tst_TableEncoding::keysAndPathsTellBytesThatAreNoUtf8_data()
     QTest::newRow("percent") << QByteArray("5%") << QByteArray("5%") << QByteArray("/Hull/5%25");
 }
 
-void tst_TableEncoding::keysAndPathsTellBytesThatAreNoUtf8()
+void tst_TableEncoding::keysAndPathsEscapeInvalidUtf8()
 {
     QFETCH(QByteArray, text);
     QFETCH(QByteArray, path);
@@ -84,13 +84,13 @@ void tst_TableEncoding::keysAndPathsTellBytesThatAreNoUtf8()
     QVERIFY(m_table->exported().contains(',' + path + ','));
 }
 
-void tst_TableEncoding::charactersWithAMeaningInPathsAreEscaped()
+void tst_TableEncoding::specialCharactersInPathsAreEscaped()
 {
     addNode(m_table->root, "a/b[2]%", { { "k", "1" } });
     QVERIFY(m_table->exported().contains(",/Hull/a%2Fb%5B2%5D%25,a/b[2]%,"));
 }
 
-// Keys and names that are not UTF-8, and keys that are numbers with one separator or the other.
+// Uses keys and names that are not UTF-8, and keys that are numbers with either separator.
 void tst_TableEncoding::textsThatLookAlikeAreNotMixedUp()
 {
     QFETCH(int, format);

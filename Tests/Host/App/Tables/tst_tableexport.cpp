@@ -13,7 +13,7 @@
 
 using kavoTestPairs::addNode;
 
-// Tables as they are written. How they are read is in tst_tableimport.
+// Writes tables; tst_tableimport reads them.
 class tst_TableExport : public QObject
 {
     Q_OBJECT
@@ -22,15 +22,15 @@ private slots:
     void init() { m_table = std::make_unique<kavoTableFixture>(); }
     void cleanup() { m_table.reset(); }
 
-    void aRowTellsIdPathNameTypeAndValues();
+    void aRowHoldsIdPathNameTypeAndValues();
     void nodesWithoutPairsHaveNoRow();
     void nodesThatAreNotFullyVisibleHaveNoRow();
     void aPartOfTheSceneKeepsItsPaths();
-    void cellsAreQuotedWhereNeedBe_data();
-    void cellsAreQuotedWhereNeedBe();
+    void cellsAreQuotedIfNecessary_data();
+    void cellsAreQuotedIfNecessary();
     void theDelimiterCanBeChosen();
-    void theDelimiterIsKnownByNameOrCharacter_data();
-    void theDelimiterIsKnownByNameOrCharacter();
+    void theDelimiterIsANameOrACharacter_data();
+    void theDelimiterIsANameOrACharacter();
     void numbersGetTheDecimalSeparator_data();
     void numbersGetTheDecimalSeparator();
     void formulasAreGuarded_data();
@@ -42,9 +42,9 @@ private slots:
     void columnsAreChosenByPattern();
     void rowsAreFiltered_data();
     void rowsAreFiltered();
-    void jsonLinesTellTheSame();
-    void theEndingOfTheNameTellsTheFormat();
-    void siblingsOfOneNameHaveNumbers();
+    void jsonLinesHoldTheSameValues();
+    void theFileNameDecidesTheFormat();
+    void siblingsWithTheSameNameHaveNumbers();
     void aTableThatCannotBeWrittenIsExplained();
     void aFailureInTheMiddleLeavesNothing();
     void cancelingLeavesNothing();
@@ -53,7 +53,7 @@ private:
     std::unique_ptr<kavoTableFixture> m_table;
 };
 
-void tst_TableExport::aRowTellsIdPathNameTypeAndValues()
+void tst_TableExport::aRowHoldsIdPathNameTypeAndValues()
 {
     const osg::NodePtr mast
         = addNode(m_table->root, "Mast", { { "size", "2" }, { "color", "red" } });
@@ -88,7 +88,7 @@ void tst_TableExport::aPartOfTheSceneKeepsItsPaths()
     QVERIFY(file.readAll().contains(",/Hull/Mast[2]/Flag,"));
 }
 
-void tst_TableExport::cellsAreQuotedWhereNeedBe_data()
+void tst_TableExport::cellsAreQuotedIfNecessary_data()
 {
     QTest::addColumn<QByteArray>("value");
     QTest::addColumn<QByteArray>("cell");
@@ -101,7 +101,7 @@ void tst_TableExport::cellsAreQuotedWhereNeedBe_data()
     QTest::newRow("UTF-8") << QByteArray("\xC3\xA4") << QByteArray("\xC3\xA4");
 }
 
-void tst_TableExport::cellsAreQuotedWhereNeedBe()
+void tst_TableExport::cellsAreQuotedIfNecessary()
 {
     QFETCH(QByteArray, value);
     QFETCH(QByteArray, cell);
@@ -117,7 +117,7 @@ void tst_TableExport::theDelimiterCanBeChosen()
     QCOMPARE(m_table->cells(1), QByteArray("\"a,b\";\"a;b\""));
 }
 
-void tst_TableExport::theDelimiterIsKnownByNameOrCharacter_data()
+void tst_TableExport::theDelimiterIsANameOrACharacter_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QChar>("delimiter");
@@ -132,7 +132,7 @@ void tst_TableExport::theDelimiterIsKnownByNameOrCharacter_data()
     QTest::newRow("nothing") << "" << QChar();
 }
 
-void tst_TableExport::theDelimiterIsKnownByNameOrCharacter()
+void tst_TableExport::theDelimiterIsANameOrACharacter()
 {
     QFETCH(QString, text);
     QFETCH(QChar, delimiter);
@@ -270,7 +270,7 @@ void tst_TableExport::rowsAreFiltered()
     QTEST(m_table->cells(1) + m_table->cells(2), "rows");
 }
 
-void tst_TableExport::jsonLinesTellTheSame()
+void tst_TableExport::jsonLinesHoldTheSameValues()
 {
     const osg::NodePtr mast = addNode(m_table->root, "Mast",
         { { "k", "=\"\n" }, { "l", "1.5" }, { "k", "\xC3\xA4" }, { "m", "" } });
@@ -285,14 +285,14 @@ void tst_TableExport::jsonLinesTellTheSame()
     QVERIFY(lines[1].endsWith("\"values\":{\"l\":\"2\"}}"));
 }
 
-void tst_TableExport::theEndingOfTheNameTellsTheFormat()
+void tst_TableExport::theFileNameDecidesTheFormat()
 {
     QCOMPARE(kavoTableOptions::formatOf("a.JSONL"), kavoTableOptions::JsonLines);
     QCOMPARE(kavoTableOptions::formatOf("jsonl.csv"), kavoTableOptions::Csv);
     QCOMPARE(kavoTableOptions::formatOf("a"), kavoTableOptions::Csv);
 }
 
-void tst_TableExport::siblingsOfOneNameHaveNumbers()
+void tst_TableExport::siblingsWithTheSameNameHaveNumbers()
 {
     for (const char *name : { "Oar", "Mast", "Oar", "Oar" })
         addNode(m_table->root, name);

@@ -29,17 +29,17 @@ private slots:
     void theChangeIsAnnounced();
     void aRepeatedKeyIsWrittenByItsPlace();
     void aFilledCellAddsAPair();
-    void aFilledCellTakesNoValueWithoutAKey();
+    void aFilledCellMovesValuesWithoutAKeyBack();
     void aFilledCellAddsTheAttachmentToo();
     void anEmptiedCellEmptiesTheValue();
     void aMissingColumnLeavesItsValuesAlone();
     void columnsMayChangePlaces();
     void missingValuesCanBeFilled();
     void jsonLinesAreWrittenBack();
-    void jsonLinesSayWhatToChange();
+    void jsonLinesChangeOnlyTheValuesTheyHold();
 
-    void cancelingComesBeforeTheFirstChange_data();
-    void cancelingComesBeforeTheFirstChange();
+    void cancelingChangesNothing_data();
+    void cancelingChangesNothing();
 
     void realScenesComeBackUnchanged_data();
     void realScenesComeBackUnchanged();
@@ -116,7 +116,7 @@ void tst_TableImport::aFilledCellAddsAPair()
     QVERIFY(kavoTestPairs::of(m_table->deck) == (Pairs { { "color", "blue" }, { "size", "3" } }));
 }
 
-void tst_TableImport::aFilledCellTakesNoValueWithoutAKey()
+void tst_TableImport::aFilledCellMovesValuesWithoutAKeyBack()
 {
     kavoTestPairs::attachment(m_table->deck)->getValues().push_back("surplus");
     m_table->import(Ship::header + Ship::row(m_table->deck, "blue,3"));
@@ -165,7 +165,7 @@ void tst_TableImport::jsonLinesAreWrittenBack()
         == (Pairs { { "size", "2" }, { "color", "'=r\xC3\xA4" } }));
 }
 
-void tst_TableImport::jsonLinesSayWhatToChange()
+void tst_TableImport::jsonLinesChangeOnlyTheValuesTheyHold()
 {
     m_table->options.format = kavoTableOptions::JsonLines;
     const auto report = m_table->import(
@@ -175,14 +175,14 @@ void tst_TableImport::jsonLinesSayWhatToChange()
         == (Pairs { { "size", "2" }, { "color", "" }, { "new", "" }, { "size", "3" } }));
 }
 
-void tst_TableImport::cancelingComesBeforeTheFirstChange_data()
+void tst_TableImport::cancelingChangesNothing_data()
 {
     QTest::addColumn<int>("callsAllowed");
     QTest::newRow("while nodes are looked for") << 1;
     QTest::newRow("while values are compared") << 4;
 }
 
-void tst_TableImport::cancelingComesBeforeTheFirstChange()
+void tst_TableImport::cancelingChangesNothing()
 {
     for (int i = 0; i < 3000; ++i)
         addNode(m_table->root, nullptr, { { "color", "red" } });
@@ -197,7 +197,7 @@ void tst_TableImport::cancelingComesBeforeTheFirstChange()
     QVERIFY(kavoTestPairs::of(m_table->mast) == (Pairs { { "size", "2" }, { "color", "blue" } }));
 }
 
-// Every FBX file there is among the test models, except one that cannot be read.
+// All FBX files of the test models, except one that cannot be read.
 void tst_TableImport::realScenesComeBackUnchanged_data()
 {
     QTest::addColumn<QString>("file");

@@ -11,7 +11,7 @@
 
 using kavoTestPairs::addNode;
 
-// The line of Python that the documentation shows, run as it stands there.
+// Runs the line of Python from the documentation.
 class tst_TablePython : public QObject
 {
     Q_OBJECT
@@ -28,7 +28,7 @@ private:
     kavoTableFixture m_table;
 };
 
-// The rows as they are in the scene: name and value of each pair, by column.
+// Returns a row for each node with pairs: its name, then the key and the value of each pair.
 QJsonArray tst_TablePython::expectedRows(const osg::NodePtr &root)
 {
     QJsonArray rows;

@@ -11,7 +11,7 @@
 using kavoTestPairs::addNode;
 using Pairs = std::vector<kavoTestPairs::Pair>;
 
-// The forms of files that an import understands, and those that it refuses.
+// Imports files that other programs have saved, and malformed files.
 class tst_TableReader : public QObject
 {
     Q_OBJECT
@@ -47,7 +47,7 @@ void tst_TableReader::init()
     m_mast = addNode(m_table->root, "Mast", { { "size", "2" }, { "color", "red" } });
 }
 
-// A line about the mast.
+// Returns a line of a table for the mast.
 QByteArray tst_TableReader::row(const QByteArray &cells) const
 {
     const QByteArray id = QByteArray::number(m_mast.getFieldContainerId());
