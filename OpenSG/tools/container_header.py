@@ -2,7 +2,7 @@
 
 import textwrap
 
-GENERATED = "#pragma once\n\n// Generated from a description in OpenSG/containers.\n\n"
+GENERATED = "#pragma once\n\n// Generated from a description in OpenSG/src.\n\n"
 
 
 def fields_header(c, classes):

@@ -4,7 +4,7 @@ from container_header import include
 
 
 def family_source(members):
-    parts = ["// Generated from a description in OpenSG/containers.\n\n"]
+    parts = ["// Generated from a description in OpenSG/src.\n\n"]
     parts += [include(c.name) for c in members]
     parts.append("\n#include <OpenSG/OSGMFieldTypeDef.inl>\n")
     parts.append("#include <OpenSG/OSGSFieldTypeDef.inl>\n")

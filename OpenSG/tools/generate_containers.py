@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Writes the C++ of container classes from their descriptions in containers/*.fcd.
+"""Writes the C++ of container classes from their descriptions in src/*/*.fcd.
 
     generate_containers.py [--list] OUTPUT_FOLDER FILE.fcd...
 

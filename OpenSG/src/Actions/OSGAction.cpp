@@ -1,6 +1,6 @@
 #include <OpenSG/OSGAction.h>
 
-#include "OSGTraversal.h"
+#include "Actions/OSGTraversal.h"
 
 #include <utility>
 

@@ -1,4 +1,4 @@
-#include "OSGTraversal.h"
+#include "Actions/OSGTraversal.h"
 
 #include <utility>
 

@@ -1,6 +1,6 @@
 #include <OpenSG/OSGBaseFunctions.h>
 
-#include "OSGStartupPhases.h"
+#include "Base/OSGStartupPhases.h"
 
 #include <OpenSG/OSGLog.h>
 

@@ -1,6 +1,6 @@
 #include <OpenSG/OSGMatrix.h>
 
-#include "OSGMatrixDecomposition.h"
+#include "Base/OSGMatrixDecomposition.h"
 
 #include <ostream>
 

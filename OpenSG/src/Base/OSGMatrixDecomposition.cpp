@@ -1,4 +1,4 @@
-#include "OSGMatrixDecomposition.h"
+#include "Base/OSGMatrixDecomposition.h"
 
 #include <cmath>
 

@@ -1,4 +1,4 @@
-#include "OSGStartupPhases.h"
+#include "Base/OSGStartupPhases.h"
 
 #include <OpenSG/OSGLog.h>
 

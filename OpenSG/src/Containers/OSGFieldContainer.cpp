@@ -1,6 +1,6 @@
 #include <OpenSG/OSGFieldContainer.h>
 
-#include "OSGFieldContainerHeader.h"
+#include "Containers/OSGFieldContainerHeader.h"
 
 #include <OpenSG/OSGField.h>
 #include <OpenSG/OSGFieldContainerFactory.h>

@@ -1,6 +1,6 @@
 #include <OpenSG/OSGFieldContainerFactory.h>
 
-#include "OSGStartupPhases.h"
+#include "Base/OSGStartupPhases.h"
 
 #include <OpenSG/OSGAttachment.h>
 #include <OpenSG/OSGNode.h>

@@ -1,6 +1,6 @@
 #include <OpenSG/OSGFieldContainerPtrBase.h>
 
-#include "OSGFieldContainerHeader.h"
+#include "Containers/OSGFieldContainerHeader.h"
 
 #include <OpenSG/OSGThread.h>
 

@@ -2,7 +2,7 @@
 
 #include <OpenSG/OSGThreadManager.h>
 
-#include "OSGStartupPhases.h"
+#include "Base/OSGStartupPhases.h"
 
 #include <cstring>
 

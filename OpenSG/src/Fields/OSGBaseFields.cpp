@@ -1,4 +1,4 @@
-#include "OSGValueFieldDefs.h"
+#include "Fields/OSGValueFieldDefs.h"
 
 #include <OpenSG/OSGMFBaseTypes.h>
 #include <OpenSG/OSGSFBaseTypes.h>

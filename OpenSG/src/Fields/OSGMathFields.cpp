@@ -1,4 +1,4 @@
-#include "OSGValueFieldDefs.h"
+#include "Fields/OSGValueFieldDefs.h"
 
 #include <OpenSG/OSGMFMathTypes.h>
 #include <OpenSG/OSGSFMathTypes.h>

@@ -1,4 +1,4 @@
-#include "OSGValueFieldDefs.h"
+#include "Fields/OSGValueFieldDefs.h"
 
 #include <OpenSG/OSGMFVecTypes.h>
 #include <OpenSG/OSGSFVecTypes.h>

@@ -1,7 +1,7 @@
-#include "OSGAsciiFileType.h"
+#include "IO/OSGAsciiFileType.h"
 
-#include "OSGAsciiReader.h"
-#include "OSGAsciiWriter.h"
+#include "IO/OSGAsciiReader.h"
+#include "IO/OSGAsciiWriter.h"
 
 #include <algorithm>
 #include <istream>

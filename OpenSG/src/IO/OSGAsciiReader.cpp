@@ -1,7 +1,7 @@
-#include "OSGAsciiReader.h"
+#include "IO/OSGAsciiReader.h"
 
-#include "OSGAsciiFormat.h"
-#include "OSGFieldSyntax.h"
+#include "IO/OSGAsciiFormat.h"
+#include "Fields/OSGFieldSyntax.h"
 
 #include <OpenSG/OSGFieldFactory.h>
 #include <OpenSG/OSGGroup.h>

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "OSGContainerKeeper.h"
-#include "OSGPointerField.h"
-#include "OSGSceneCursor.h"
-#include "OSGSceneValueReader.h"
+#include "IO/OSGContainerKeeper.h"
+#include "IO/OSGPointerField.h"
+#include "IO/OSGSceneCursor.h"
+#include "IO/OSGSceneValueReader.h"
 
 #include <OpenSG/OSGSceneFileType.h>
 

@@ -1,7 +1,7 @@
-#include "OSGAsciiValues.h"
+#include "IO/OSGAsciiValues.h"
 
-#include "OSGAsciiFormat.h"
-#include "OSGUnbrokenStringState.h"
+#include "IO/OSGAsciiFormat.h"
+#include "IO/OSGUnbrokenStringState.h"
 
 #include <OpenSG/OSGSFBaseTypes.h>
 #include <OpenSG/OSGStandardStringConversionState.h>

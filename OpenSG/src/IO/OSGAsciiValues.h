@@ -1,6 +1,6 @@
 #pragma once
 
-#include "OSGFieldSyntax.h"
+#include "Fields/OSGFieldSyntax.h"
 
 #include <OpenSG/OSGDynamicVolume.h>
 #include <OpenSG/OSGField.h>

@@ -1,7 +1,7 @@
-#include "OSGAsciiWriter.h"
+#include "IO/OSGAsciiWriter.h"
 
-#include "OSGAsciiFormat.h"
-#include "OSGAsciiValues.h"
+#include "IO/OSGAsciiFormat.h"
+#include "IO/OSGAsciiValues.h"
 
 #include <OpenSG/OSGAttachmentContainer.h>
 #include <OpenSG/OSGLog.h>

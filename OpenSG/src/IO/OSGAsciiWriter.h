@@ -1,6 +1,6 @@
 #pragma once
 
-#include "OSGSharedContainers.h"
+#include "IO/OSGSharedContainers.h"
 
 #include <OpenSG/OSGSceneFileType.h>
 

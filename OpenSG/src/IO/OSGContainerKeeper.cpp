@@ -1,7 +1,7 @@
-#include "OSGContainerKeeper.h"
+#include "IO/OSGContainerKeeper.h"
 
-#include "../Containers/OSGFieldContainerHeader.h"
-#include "OSGSharedContainers.h"
+#include "Containers/OSGFieldContainerHeader.h"
+#include "IO/OSGSharedContainers.h"
 
 #include <OpenSG/OSGAttachmentContainer.h>
 #include <OpenSG/OSGNode.h>

@@ -1,4 +1,4 @@
-#include "OSGPointerField.h"
+#include "IO/OSGPointerField.h"
 
 #include <OpenSG/OSGAttachmentContainer.h>
 #include <OpenSG/OSGMaterial.h>

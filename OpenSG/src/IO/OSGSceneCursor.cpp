@@ -1,4 +1,4 @@
-#include "OSGSceneCursor.h"
+#include "IO/OSGSceneCursor.h"
 
 #include <OpenSG/OSGFieldContainerFactory.h>
 #include <OpenSG/OSGLog.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "OSGSceneScanner.h"
+#include "IO/OSGSceneScanner.h"
 
 #include <string>
 

@@ -1,7 +1,7 @@
 #include <OpenSG/OSGSceneFileHandler.h>
 
-#include "OSGAsciiFileType.h"
-#include "OSGContainerKeeper.h"
+#include "IO/OSGAsciiFileType.h"
+#include "IO/OSGContainerKeeper.h"
 
 #include <OpenSG/OSGFieldContainerFactory.h>
 #include <OpenSG/OSGGroup.h>

@@ -1,4 +1,4 @@
-#include "OSGSceneScanner.h"
+#include "IO/OSGSceneScanner.h"
 
 #include <algorithm>
 #include <array>

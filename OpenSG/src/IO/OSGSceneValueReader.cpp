@@ -1,6 +1,6 @@
-#include "OSGSceneValueReader.h"
+#include "IO/OSGSceneValueReader.h"
 
-#include "OSGFieldSyntax.h"
+#include "Fields/OSGFieldSyntax.h"
 
 #include <OpenSG/OSGLog.h>
 

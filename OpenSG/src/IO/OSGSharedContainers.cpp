@@ -1,7 +1,7 @@
-#include "OSGSharedContainers.h"
+#include "IO/OSGSharedContainers.h"
 
-#include "OSGFieldSyntax.h"
-#include "OSGSceneScanner.h"
+#include "Fields/OSGFieldSyntax.h"
+#include "IO/OSGSceneScanner.h"
 
 #include <OpenSG/OSGAttachmentContainer.h>
 #include <OpenSG/OSGSimpleAttachments.h>

@@ -1,4 +1,4 @@
-#include "OSGUnbrokenStringState.h"
+#include "IO/OSGUnbrokenStringState.h"
 
 #include <OpenSG/OSGField.h>
 

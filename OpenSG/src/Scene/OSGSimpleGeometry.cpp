@@ -1,6 +1,6 @@
 #include <OpenSG/OSGSimpleGeometry.h>
 
-#include "OSGTriangleBuilder.h"
+#include "Scene/OSGTriangleBuilder.h"
 
 #include <algorithm>
 #include <cmath>

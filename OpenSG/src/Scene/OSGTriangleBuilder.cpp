@@ -1,4 +1,4 @@
-#include "OSGTriangleBuilder.h"
+#include "Scene/OSGTriangleBuilder.h"
 
 #include <OpenSG/OSGSimpleGeometry.h>
 

@@ -1,4 +1,4 @@
-#include "OSGFieldSyntax.h"
+#include "Fields/OSGFieldSyntax.h"
 
 #include <OpenSG/OSGFieldType.h>
 

@@ -1,6 +1,6 @@
 #include <OpenSG/OSGNode.h>
 
-#include "../Actions/OSGTraversal.h"
+#include "Actions/OSGTraversal.h"
 
 #include <OpenSG/OSGCNodePtr.h>
 #include <OpenSG/OSGLog.h>

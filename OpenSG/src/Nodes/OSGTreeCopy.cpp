@@ -1,6 +1,6 @@
-#include "OSGTreeCopy.h"
+#include "Nodes/OSGTreeCopy.h"
 
-#include "OSGSharedContainers.h"
+#include "IO/OSGSharedContainers.h"
 
 #include <OpenSG/OSGFieldContainerFactory.h>
 #include <OpenSG/OSGFieldFactory.h>

@@ -1,7 +1,7 @@
-#include "OSGSharePtrGraphOp.h"
+#include "Actions/OSGSharePtrGraphOp.h"
 
-#include "OSGFieldSyntax.h"
-#include "OSGSharedContainers.h"
+#include "Fields/OSGFieldSyntax.h"
+#include "IO/OSGSharedContainers.h"
 
 #include <OpenSG/OSGBinaryDataHandler.h>
 #include <OpenSG/OSGFieldContainerFactory.h>
