@@ -6,9 +6,6 @@ OSG_BEGIN_NAMESPACE
 
 namespace {
 
-/// The one that runs, started perhaps by a callback of the next outer one.
-thread_local Traversal *innermost = nullptr;
-
 constexpr UInt32 fetchedAhead = 4;
 
 // Nodes lie scattered in memory: waiting for them is what a traversal mostly does. Those that come
@@ -26,13 +23,8 @@ void fetchChild(const NodePtr &node, UInt32 index)
 Traversal::Traversal(TraverseEnterFunctor enter, TraverseLeaveFunctor leave)
     : _enter(std::move(enter))
     , _leave(std::move(leave))
-    , _outer(std::exchange(innermost, this))
+    , _watch([this](const NodePtr &node) { forget(node); })
 {
-}
-
-Traversal::~Traversal()
-{
-    innermost = _outer;
 }
 
 Action::ResultE Traversal::visit(const NodePtr &root)
@@ -58,14 +50,12 @@ Action::ResultE Traversal::visitAll(const std::vector<NodePtr> &nodes)
 
 void Traversal::forget(const NodePtr &node)
 {
-    for (Traversal *traversal = innermost; traversal; traversal = traversal->_outer) {
-        if (traversal->_entering == node) {
-            traversal->_entering = NullFC;
-        }
-        for (Level &level : traversal->_path) {
-            if (level.node == node) {
-                level.node = NullFC;
-            }
+    if (_entering == node) {
+        _entering = NullFC;
+    }
+    for (Level &level : _path) {
+        if (level.node == node) {
+            level.node = NullFC;
         }
     }
 }

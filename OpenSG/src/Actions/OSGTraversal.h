@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Nodes/OSGNodeDestructionWatch.h"
+
 #include <OpenSG/OSGAction.h>
 
 #include <vector>
@@ -13,16 +15,10 @@ class Traversal
 {
 public:
     Traversal(TraverseEnterFunctor enter, TraverseLeaveFunctor leave);
-    ~Traversal();
-    Traversal(const Traversal &) = delete;
-    Traversal &operator=(const Traversal &) = delete;
 
     Action::ResultE visit(const NodePtr &root);
     /// The list may grow, but its nodes have to live until it is their turn.
     Action::ResultE visitAll(const std::vector<NodePtr> &nodes);
-
-    /// Tells the traversals of the calling thread that a node goes.
-    static void forget(const NodePtr &node);
 
 private:
     /// A node that was entered and not left yet; null when it has been destroyed since.
@@ -37,12 +33,13 @@ private:
     Action::ResultE leave();
     Action::ResultE leave(NodePtr node, Action::ResultE entered);
     NodePtr takeChild();
+    void forget(const NodePtr &node);
 
     TraverseEnterFunctor _enter;
     TraverseLeaveFunctor _leave;
     NodePtr _entering;
     std::vector<Level> _path;
-    Traversal *_outer;
+    NodeDestructionWatch _watch;
 };
 
 OSG_END_NAMESPACE

@@ -1,6 +1,6 @@
 #include <OpenSG/OSGNode.h>
 
-#include "Actions/OSGTraversal.h"
+#include "Nodes/OSGNodeDestructionWatch.h"
 
 #include <OpenSG/OSGCNodePtr.h>
 #include <OpenSG/OSGLog.h>
@@ -41,7 +41,7 @@ Node::Node(const Node &source)
 // attachments that they share look for their parents from the back.
 Node::~Node()
 {
-    Traversal::forget(NodePtr(this));
+    NodeDestructionWatch::tell(NodePtr(this));
     const std::vector<NodePtr> children = std::exchange(_mfChildren.getValues(), {});
     std::for_each(children.begin(), children.end(), leaveParent);
     std::for_each(children.rbegin(), children.rend(), subRefCP);
