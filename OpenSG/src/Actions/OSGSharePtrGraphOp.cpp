@@ -1,7 +1,7 @@
 #include "Actions/OSGSharePtrGraphOp.h"
 
 #include "Fields/OSGFieldSyntax.h"
-#include "IO/OSGSharedContainers.h"
+#include "Nodes/OSGContainerTargets.h"
 
 #include <OpenSG/OSGBinaryDataHandler.h>
 #include <OpenSG/OSGFieldContainerFactory.h>

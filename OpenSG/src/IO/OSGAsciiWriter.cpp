@@ -2,6 +2,7 @@
 
 #include "IO/OSGAsciiFormat.h"
 #include "IO/OSGAsciiValues.h"
+#include "Nodes/OSGContainerTargets.h"
 
 #include <OpenSG/OSGAttachmentContainer.h>
 #include <OpenSG/OSGLog.h>

@@ -1,7 +1,7 @@
 #include "IO/OSGContainerKeeper.h"
 
 #include "Containers/OSGFieldContainerHeader.h"
-#include "IO/OSGSharedContainers.h"
+#include "Nodes/OSGContainerTargets.h"
 
 #include <OpenSG/OSGAttachmentContainer.h>
 #include <OpenSG/OSGNode.h>

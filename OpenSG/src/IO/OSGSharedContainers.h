@@ -2,25 +2,11 @@
 
 #include <OpenSG/OSGFieldContainer.h>
 
-#include <functional>
 #include <string>
 #include <unordered_map>
 #include <unordered_set>
 
 OSG_BEGIN_NAMESPACE
-
-typedef std::function<void(const FieldContainerPtr &)> TargetFunction;
-typedef std::function<void(Field &, const FieldDescription &)> FieldFunction;
-
-/// Calls `function` with every attachment in an SFAttachmentMap that is not internal.
-void forEachAttachment(const Field &field, const TargetFunction &function);
-
-/// Calls `function` with every container that a container refers to, in the order of its fields:
-/// the targets of fields that are not internal, and attachments that are not.
-void forEachTarget(const FieldContainerPtr &container, const TargetFunction &function);
-
-/// Calls `function` with every field of a container that holds pointers and is not internal.
-void forEachPointerField(const FieldContainerPtr &owner, const FieldFunction &function);
 
 /// Knows which containers of a graph are reached more than once, and gives these the names by which
 /// a file refers to them: their own, if that can be told from all others, or one made of type and

@@ -1,6 +1,6 @@
 #include "Nodes/OSGTreeCopy.h"
 
-#include "IO/OSGSharedContainers.h"
+#include "Nodes/OSGContainerTargets.h"
 
 #include <OpenSG/OSGFieldContainerFactory.h>
 #include <OpenSG/OSGFieldFactory.h>
