@@ -2,7 +2,6 @@
 
 #include <OpenSG/OSGBinaryDataHandler.h>
 #include <OpenSG/OSGDataType.h>
-#include <OpenSG/OSGFieldContainerPtrBase.h>
 
 #include <string>
 #include <type_traits>
@@ -133,6 +132,7 @@ template <class T> struct FieldTraitsIntegralRecurseMapper : FieldTraits
 };
 
 class FieldContainerPtr;
+class FieldContainerPtrBase;
 
 /// Base of a type whose binary form is that of its `T::Inherited`; handles of all classes are
 /// written as FieldContainerPtr is. Without `forwards` the binary form is empty, and reading it

@@ -1,9 +1,10 @@
 #pragma once
 
-#include <OpenSG/OSGFieldContainerPtr.h>
 #include <OpenSG/OSGFieldDataType.h>
 
 OSG_BEGIN_NAMESPACE
+
+class FieldContainerPtr;
 
 /// What SField and MField have in common: one value to and from text, one value as a handle.
 namespace FieldText {
@@ -46,13 +47,18 @@ template <class T> const FieldContainerPtr *asHandle(const T &value)
     }
 }
 
+// A template, since FieldContainerPtr is not defined here.
+template <class HandleT> void assign(HandleT &handle, const HandleT &other)
+{
+    handle = other;
+}
+
 /// Lets `value`, if it is a handle, refer to the container, which the caller knows to be of its
 /// class. False if it is none. The class itself need not be complete here.
 template <class T> bool assignHandle(T &value, const FieldContainerPtr &container)
 {
     if constexpr (std::is_base_of_v<FieldContainerPtr, T>) {
-        FieldContainerPtr &handle = value;
-        handle = container;
+        assign<FieldContainerPtr>(value, container);
         return true;
     } else {
         return false;
