@@ -2,9 +2,6 @@
 
 #include "Base/OSGStartupPhases.h"
 
-#include <OpenSG/OSGAttachment.h>
-#include <OpenSG/OSGNode.h>
-#include <OpenSG/OSGNodeCore.h>
 #include <OpenSG/OSGThread.h>
 
 #include <algorithm>

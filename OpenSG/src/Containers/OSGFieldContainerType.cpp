@@ -1,11 +1,8 @@
 #include <OpenSG/OSGFieldContainerType.h>
 
-#include <OpenSG/OSGAttachment.h>
 #include <OpenSG/OSGBaseFunctions.h>
 #include <OpenSG/OSGFieldContainerFactory.h>
 #include <OpenSG/OSGLog.h>
-#include <OpenSG/OSGNode.h>
-#include <OpenSG/OSGNodeCore.h>
 
 #include <algorithm>
 #include <cstring>
@@ -119,21 +116,6 @@ FieldContainerPtr FieldContainerType::createFieldContainer() const
     return _prototype ? _prototype->shallowCopy() : FieldContainerPtr();
 }
 
-NodePtr FieldContainerType::createNode() const
-{
-    return isNode() ? NodePtr::dcast(createFieldContainer()) : NodePtr();
-}
-
-NodeCorePtr FieldContainerType::createNodeCore() const
-{
-    return isNodeCore() ? NodeCorePtr::dcast(createFieldContainer()) : NodeCorePtr();
-}
-
-AttachmentPtr FieldContainerType::createAttachment() const
-{
-    return isAttachment() ? AttachmentPtr::dcast(createFieldContainer()) : AttachmentPtr();
-}
-
 void FieldContainerType::dump(UInt32 uiIndent, const BitVector) const
 {
     const std::string indent(uiIndent, ' ');
@@ -192,17 +174,6 @@ void FieldContainerType::addOwnDescriptions()
     if (_descriptions.size() >= maskBits) {
         SWARNING << getName() << " has more fields than a mask has bits" << endLog;
     }
-}
-
-FieldContainerType::Family FieldContainerType::findFamily() const
-{
-    if (isDerivedFrom(Node::getClassType())) {
-        return Family::Node;
-    }
-    if (isDerivedFrom(NodeCore::getClassType())) {
-        return Family::NodeCore;
-    }
-    return isDerivedFrom(Attachment::getClassType()) ? Family::Attachment : Family::None;
 }
 
 OSG_END_NAMESPACE

@@ -1,17 +1,12 @@
 #include <OpenSG/OSGAttachmentContainerFields.h>
 #include <OpenSG/OSGAttachmentFields.h>
 #include <OpenSG/OSGAttachmentMapFields.h>
-#include <OpenSG/OSGFieldContainerFields.h>
 #include <OpenSG/OSGMFieldTypeDef.inl>
 #include <OpenSG/OSGNodeCoreFields.h>
 #include <OpenSG/OSGNodeFields.h>
 #include <OpenSG/OSGSFieldTypeDef.inl>
 
 OSG_BEGIN_NAMESPACE
-
-DataType FieldDataTraits<FieldContainerPtr>::_type("FieldContainerPtr", nullptr);
-OSG_DLLEXPORT_SFIELD_DEF1(FieldContainerPtr, );
-OSG_DLLEXPORT_MFIELD_DEF1(FieldContainerPtr, );
 
 DataType FieldDataTraits<AttachmentContainerPtr>::_type(
     "AttachmentContainerPtr", "FieldContainerPtr");
