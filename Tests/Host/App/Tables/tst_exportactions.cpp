@@ -4,6 +4,7 @@
 #include "Tables/kavoExportActions.h"
 #include "Window/kavoMainWindow.h"
 #include <kavoConsoleCapture.h>
+#include <kavoDialogUser.h>
 #include <kavoRealInput.h>
 #include <kavoScenegraph.h>
 #include <kavoTestHost.h>
@@ -12,7 +13,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
-#include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
@@ -24,58 +25,25 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
 
-#include <functional>
+#include <exception>
 #include <memory>
 #include <stdexcept>
 
 using kavoTestPairs::addNode;
 
-using Task = std::function<void(const kavoMonitor &)>;
-Q_DECLARE_METATYPE(Task)
+Q_DECLARE_METATYPE(std::exception_ptr)
 
 namespace {
 
-// The menu's actions open dialogs and return when these close, so what a user does in them is
-// queued beforehand: one step for each dialog.
-class User
+// Returns when the dialogs that the action opens have closed.
+void trigger(QMenu &menu, const QString &text)
 {
-public:
-    void willDo(const std::function<void(QDialog &)> &step) { m_steps.append(step); }
-
-    void trigger(QMenu &menu, const QString &text)
-    {
-        QTimer timer;
-        QObject::connect(&timer, &QTimer::timeout, [this] { act(); });
-        timer.start(50);
-        find(menu, text)->trigger();
+    for (QAction *action : menu.findChildren<QAction *>()) {
+        if (action->text().remove('&') == text)
+            action->trigger();
     }
-
-    bool isDone() const { return m_steps.isEmpty(); }
-
-private:
-    static QAction *find(QMenu &menu, const QString &text)
-    {
-        for (QAction *action : menu.findChildren<QAction *>()) {
-            if (action->text().remove('&') == text)
-                return action;
-        }
-        return nullptr;
-    }
-
-    void act()
-    {
-        auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-        if (!dialog || dialog == m_last || m_steps.isEmpty())
-            return;
-        m_last = dialog;
-        m_steps.takeFirst()(*dialog);
-    }
-
-    QList<std::function<void(QDialog &)>> m_steps;
-    QPointer<QDialog> m_last;
-};
+}
 
 template <class Widget> Widget *child(const QDialog &dialog, const QString &text)
 {
@@ -92,15 +60,7 @@ void accept(QDialog &dialog)
     QTest::mouseClick(buttons->button(QDialogButtonBox::Ok), Qt::LeftButton);
 }
 
-std::function<void(QDialog &)> chooseFile(const QString &file)
-{
-    return [file](QDialog &dialog) {
-        dialog.findChild<QLineEdit *>()->setText(file);
-        QTest::keyClick(dialog.findChild<QLineEdit *>(), Qt::Key_Return);
-    };
-}
-
-}
+} // namespace
 
 class tst_ExportActions : public QObject
 {
@@ -116,6 +76,7 @@ private slots:
     void aWrongPatternIsExplained();
     void theFormatChosenLastIsOfferedAgain();
     void aTableIsImported();
+    void anImportAsksOnlyForWhatItCannotDetect();
     void jsonLinesWithoutAnEndingCanBeImportedAgain();
     void rowsWithoutAPlaceAreShown();
     void aFailureIsSignaled_data();
@@ -132,7 +93,7 @@ private:
     std::unique_ptr<kavoConsoleCapture> m_console;
     std::unique_ptr<QMenu> m_menu;
     std::unique_ptr<kavoExportActions> m_actions;
-    std::unique_ptr<User> m_user;
+    std::unique_ptr<kavoDialogUser> m_user;
     osg::NodePtr m_mast;
 };
 
@@ -148,7 +109,7 @@ void tst_ExportActions::init()
     kavoScenegraph::setRoot(m_table->root);
     m_menu = std::make_unique<QMenu>();
     m_actions = std::make_unique<kavoExportActions>(&kavoTestHost::mainWindow(), m_menu.get());
-    m_user = std::make_unique<User>();
+    m_user = std::make_unique<kavoDialogUser>();
 }
 
 void tst_ExportActions::cleanup()
@@ -177,8 +138,8 @@ void tst_ExportActions::valuePairsOfTheSelectionAreExported()
         child<QCheckBox>(dialog, "Also nodes that are not fully visible")->click();
         accept(dialog);
     });
-    m_user->willDo(chooseFile(m_table->path("p.csv")));
-    m_user->trigger(*m_menu, "Value Pairs (CSV)...");
+    m_user->willChooseFile(m_table->path("p.csv"));
+    trigger(*m_menu, "Value Pairs (CSV)...");
     QVERIFY(m_user->isDone());
     QCOMPARE(written("p.csv"), QByteArray("nodes\\keys,color,\nMast,red,\n"));
 }
@@ -190,8 +151,8 @@ void tst_ExportActions::withoutASelectionOnlyTheSceneCanBeExported()
         isEnabled = child<QRadioButton>(dialog, "Selected node and all below")->isEnabled();
         accept(dialog);
     });
-    m_user->willDo(chooseFile(m_table->path("p.csv")));
-    m_user->trigger(*m_menu, "Value Pairs (CSV)...");
+    m_user->willChooseFile(m_table->path("p.csv"));
+    trigger(*m_menu, "Value Pairs (CSV)...");
     QVERIFY(!isEnabled);
     QCOMPARE(written("p.csv"), QByteArray("nodes\\keys,color,\nHull,,\nMast,red,\n"));
 }
@@ -203,8 +164,8 @@ void tst_ExportActions::aTableIsExportedAsChosen()
         dialog.findChildren<QLineEdit *>().first()->setText("col*");
         accept(dialog);
     });
-    m_user->willDo(chooseFile(m_table->path("t.csv")));
-    m_user->trigger(*m_menu, "Table...");
+    m_user->willChooseFile(m_table->path("t.csv"));
+    trigger(*m_menu, "Table...");
     QVERIFY(m_user->isDone());
     QVERIFY(written("t.csv").startsWith("id;path;name;type;color\r\n"));
     QVERIFY(written("t.csv").endsWith(";/Hull/Mast;Mast;Group;red\r\n"));
@@ -212,21 +173,18 @@ void tst_ExportActions::aTableIsExportedAsChosen()
 
 void tst_ExportActions::aWrongPatternIsExplained()
 {
-    QString explanation;
     bool staysOpen = false;
     m_user->willDo([&](QDialog &dialog) {
         dialog.findChildren<QLineEdit *>().last()->setText("[abc");
-        QTimer::singleShot(0, &dialog, [&] {
-            auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-            explanation = box->text();
-            box->accept();
-        });
         accept(dialog);
         staysOpen = dialog.isVisible();
         dialog.reject();
     });
-    m_user->trigger(*m_menu, "Table...");
-    QVERIFY2(explanation.contains("'[abc'"), qPrintable(explanation));
+    m_user->willPress(QMessageBox::Ok);
+    trigger(*m_menu, "Table...");
+    QVERIFY(m_user->isDone());
+    QVERIFY2(
+        m_user->questions().value(0).contains("'[abc'"), qPrintable(m_user->questions().value(0)));
     QVERIFY(staysOpen);
 }
 
@@ -237,13 +195,13 @@ void tst_ExportActions::theFormatChosenLastIsOfferedAgain()
         dialog.findChildren<QComboBox *>().at(1)->setCurrentText("Semicolon");
         accept(dialog);
     });
-    m_user->willDo(chooseFile(m_table->path("t.csv")));
-    m_user->trigger(*m_menu, "Table...");
+    m_user->willChooseFile(m_table->path("t.csv"));
+    trigger(*m_menu, "Table...");
     m_user->willDo([&](QDialog &dialog) {
         offered = dialog.findChildren<QComboBox *>().at(1)->currentText();
         dialog.reject();
     });
-    m_user->trigger(*m_menu, "Table...");
+    trigger(*m_menu, "Table...");
     QCOMPARE(offered, QString("Semicolon"));
 }
 
@@ -253,9 +211,9 @@ void tst_ExportActions::aTableIsImported()
     QFile file(m_table->path("t.csv"));
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write(edited) == edited.size());
     file.close();
-    m_user->willDo(chooseFile(file.fileName()));
-    m_user->willDo([](QDialog &dialog) { accept(dialog); });
-    m_user->trigger(*m_menu, "Import Table...");
+    m_user->willChooseFile(file.fileName());
+    m_user->willDo(accept);
+    trigger(*m_menu, "Import Table...");
     QVERIFY(m_user->isDone());
     QVERIFY(
         kavoTestPairs::of(m_mast) == (std::vector<kavoTestPairs::Pair> { { "color", "blue" } }));
@@ -264,20 +222,37 @@ void tst_ExportActions::aTableIsImported()
     box->close();
 }
 
+void tst_ExportActions::anImportAsksOnlyForWhatItCannotDetect()
+{
+    m_table->exported();
+    QStringList labels;
+    m_user->willChooseFile(m_table->path());
+    m_user->willDo([&](QDialog &dialog) {
+        for (const QLabel *label : dialog.findChildren<QLabel *>())
+            labels << label->text();
+        for (const QCheckBox *box : dialog.findChildren<QCheckBox *>())
+            labels << box->text();
+        dialog.reject();
+    });
+    trigger(*m_menu, "Import Table...");
+    QVERIFY(m_user->isDone());
+    QCOMPARE(labels, (QStringList { "&Decimal separator:", "Put an apostrophe before &formulas" }));
+}
+
 void tst_ExportActions::jsonLinesWithoutAnEndingCanBeImportedAgain()
 {
     m_user->willDo([](QDialog &dialog) {
         dialog.findChildren<QComboBox *>().at(0)->setCurrentText("JSON Lines");
         accept(dialog);
     });
-    m_user->willDo(chooseFile(m_table->path("t")));
-    m_user->trigger(*m_menu, "Table...");
+    m_user->willChooseFile(m_table->path("t"));
+    trigger(*m_menu, "Table...");
     QVERIFY(written("t.jsonl").endsWith("\"values\":{\"color\":\"red\"}}\n"));
     QVERIFY(QFile::rename(m_table->path("t.jsonl"), m_table->path("t.txt")));
     kavoTestPairs::attachment(m_mast)->getValues()[0] = "blue";
-    m_user->willDo(chooseFile(m_table->path("t.txt")));
-    m_user->willDo([](QDialog &dialog) { accept(dialog); });
-    m_user->trigger(*m_menu, "Import Table...");
+    m_user->willChooseFile(m_table->path("t.txt"));
+    m_user->willDo(accept);
+    trigger(*m_menu, "Import Table...");
     QVERIFY(m_user->isDone());
     QVERIFY(kavoTestPairs::of(m_mast) == (std::vector<kavoTestPairs::Pair> { { "color", "red" } }));
     kavoTestHost::mainWindow().findChild<QMessageBox *>()->close();
@@ -297,20 +272,19 @@ void tst_ExportActions::rowsWithoutAPlaceAreShown()
 
 void tst_ExportActions::aFailureIsSignaled_data()
 {
-    QTest::addColumn<Task>("task");
+    QTest::addColumn<std::exception_ptr>("failure");
     QTest::addColumn<QString>("reason");
-    QTest::newRow("of the host") << Task([](auto &) { throw kavoTaskError("no way"); }) << "no way";
-    QTest::newRow("of a plug-in") << Task([](auto &) { throw std::runtime_error("no way"); })
+    QTest::newRow("of the host") << std::make_exception_ptr(kavoTaskError("no way")) << "no way";
+    QTest::newRow("of a plug-in") << std::make_exception_ptr(std::runtime_error("no way"))
                                   << "no way";
-    QTest::newRow("that is no std::exception")
-        << Task([](auto &) { throw 1; }) << "unknown exception";
+    QTest::newRow("that is no std::exception") << std::make_exception_ptr(1) << "unknown exception";
 }
 
 void tst_ExportActions::aFailureIsSignaled()
 {
-    QFETCH(Task, task);
+    QFETCH(std::exception_ptr, failure);
     QSignalSpy failed(m_actions.get(), &kavoExportActions::failed);
-    m_actions->run("Try", task);
+    m_actions->run("Try", [&](const kavoMonitor &) { std::rethrow_exception(failure); });
     QCOMPARE(failed.size(), 1);
     QTEST(failed[0][0].toString(), "reason");
 }
@@ -327,10 +301,10 @@ void tst_ExportActions::theMainWindowSaysWhyAFileCannotBeWritten()
     kavoMainWindow window;
     kavoScenegraph::setRoot(m_table->root);
     const QString file = m_table->path("no such folder/a.csv");
-    m_user->willDo([](QDialog &dialog) { accept(dialog); });
-    m_user->willDo(chooseFile(file));
+    m_user->willDo(accept);
+    m_user->willChooseFile(file);
     QFETCH(QString, action);
-    m_user->trigger(*window.menuBar()->findChild<QMenu *>(), action);
+    trigger(*window.menuBar()->findChild<QMenu *>(), action);
     QVERIFY(m_user->isDone());
     auto *box = window.findChild<QMessageBox *>();
     QVERIFY(box && box->isVisible());

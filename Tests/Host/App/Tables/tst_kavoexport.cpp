@@ -4,7 +4,7 @@
 #include <QTest>
 
 // Runs the application without a display, as scripts do.
-class tst_kavoExport : public QObject
+class tst_KavoExport : public QObject
 {
     Q_OBJECT
 
@@ -30,7 +30,7 @@ private:
 
 static const QString spider = QStringLiteral(KAVO_TEST_MODELS "/FBX/spider.fbx");
 
-tst_kavoExport::Result tst_kavoExport::run(const QStringList &arguments) const
+tst_KavoExport::Result tst_KavoExport::run(const QStringList &arguments) const
 {
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -46,13 +46,13 @@ tst_kavoExport::Result tst_kavoExport::run(const QStringList &arguments) const
         process.readAllStandardError() };
 }
 
-QByteArray tst_kavoExport::written(const QString &name) const
+QByteArray tst_KavoExport::written(const QString &name) const
 {
     QFile file(m_folder.filePath(name));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : "no file";
 }
 
-void tst_kavoExport::valuePairsAndTableAreWritten()
+void tst_KavoExport::valuePairsAndTableAreWritten()
 {
     const Result result
         = run({ spider, "--export-value-pairs", "pairs.csv", "--export-table", "table.csv" });
@@ -62,7 +62,7 @@ void tst_kavoExport::valuePairsAndTableAreWritten()
     QVERIFY(result.output.contains("ValuePairCSVCreator::ValuePairCSVCreator\n"));
 }
 
-void tst_kavoExport::aPartIsWritten()
+void tst_KavoExport::aPartIsWritten()
 {
     const Result result
         = run({ spider, "--select", "Camera", "--all-nodes", "--export-value-pairs", "part.csv" });
@@ -71,7 +71,7 @@ void tst_kavoExport::aPartIsWritten()
     QVERIFY(written("part.csv").contains("\nCamera,"));
 }
 
-void tst_kavoExport::aFileThatCannotBeWrittenExitsWithOne()
+void tst_KavoExport::aFileThatCannotBeWrittenExitsWithOne()
 {
     const Result result = run({ spider, "--export-value-pairs", "no/such.csv" });
     QCOMPARE(result.exitCode, 1);
@@ -79,7 +79,7 @@ void tst_kavoExport::aFileThatCannotBeWrittenExitsWithOne()
         result.errors);
 }
 
-void tst_kavoExport::anEditedTableIsImported()
+void tst_KavoExport::anEditedTableIsImported()
 {
     QCOMPARE(run({ spider, "--export-table", "before.csv" }).exitCode, 0);
     QByteArray edited = written("before.csv");
@@ -94,7 +94,7 @@ void tst_kavoExport::anEditedTableIsImported()
     QCOMPARE(written("after.csv"), edited);
 }
 
-void tst_kavoExport::rowsWithoutAPlaceExitWithOneAfterAllOtherJobs()
+void tst_KavoExport::rowsWithoutAPlaceExitWithOneAfterAllOtherJobs()
 {
     QCOMPARE(run({ spider, "--export-table", "before.csv" }).exitCode, 0);
     QFile file(m_folder.filePath("edited.csv"));
@@ -113,12 +113,12 @@ void tst_kavoExport::rowsWithoutAPlaceExitWithOneAfterAllOtherJobs()
     QVERIFY(written("window.png").startsWith("\x89PNG"));
 }
 
-void tst_kavoExport::wrongOptionsExitWithTwo()
+void tst_KavoExport::wrongOptionsExitWithTwo()
 {
     const Result result = run({ spider, "--export-table", "t.csv", "--table-decimal", ";" });
     QCOMPARE(result.exitCode, 2);
     QVERIFY(result.errors.contains("--table-decimal is one of point, comma."));
 }
 
-QTEST_GUILESS_MAIN(tst_kavoExport)
+QTEST_GUILESS_MAIN(tst_KavoExport)
 #include "tst_kavoexport.moc"
