@@ -79,6 +79,7 @@ void kavoFCEditorWidget::setFC(const QString &name, osg::FieldContainerPtr fc)
 void kavoFCEditorWidget::deleteAllRows()
 {
     m_bindings.clear();
+    m_isCut = false;
     setCurrentItem(nullptr);
     auto &view = *findChild<QTreeWidget *>();
     view.reset();

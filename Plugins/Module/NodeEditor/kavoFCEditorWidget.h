@@ -12,6 +12,7 @@
 
 #include <map>
 #include <optional>
+#include <vector>
 
 class QMimeData;
 class QtGLenumEditorFactory;
@@ -31,8 +32,9 @@ public:
     static constexpr osg::UInt32 maxListedElements = 100;
     /// So many containers are opened one inside the other; several times as many exhaust the stack.
     static constexpr int maxDepth = 2000;
-    /// A tree that has so many rows of fields opens no more containers. The time that the component
-    /// takes to delete rows grows with the square of their number.
+    /// A tree with this many rows of fields opens no more containers. The title of the first one
+    /// that stays closed says so, and the log does once per tree. The time that the component takes
+    /// to delete rows grows with the square of their number.
     static constexpr std::size_t maxRows = 50000;
 
     /// \param name accepted for the host's widget convention and not used
@@ -43,9 +45,9 @@ public:
     /// \param name stands before the container's type in the title of the top row
     void setFC(const QString &name, osg::FieldContainerPtr fc);
     /// Adds a container with its fields below a row, or as top row if parent is null. Follows
-    /// pointer fields; links back to owners are cut off. A container inside itself, one deeper than
-    /// maxDepth and one beyond maxRows is added by setFCnr().
-    /// \param expand whether the new row is open; a top row always is
+    /// pointer fields; links back to owners are cut off. Fills lists of containers last. A
+    /// container inside itself, one deeper than maxDepth and one beyond maxRows gets its title
+    /// only. \param expand whether the new row is open; a top row always is
     void setFC(QtProperty *parent, osg::FieldContainerPtr fc, const QString &name, bool expand);
     /// The same without fields: the container's title, with a node's name, is all.
     void setFCnr(QtProperty *parent, osg::FieldContainerPtr fc, const QString &name, bool expand);
@@ -87,23 +89,28 @@ private:
     };
 
     struct FieldSource;
+    struct Element;
+    struct List;
+    using Lists = std::vector<List>;
     using RowText = std::optional<QString>;
 
     void deleteAllRows();
     void deleteRows(const QList<QtProperty *> &rows);
 
-    bool mayFill(osg::UInt32 containerId) const;
     QtProperty *addGroup(QtProperty *parent, const QString &title);
     void finishGroup(QtProperty *group, bool expand);
-    void addField(const FieldSource &source);
+    void addUnopened(
+        QtProperty *parent, const osg::FieldContainerPtr &fc, const QString &name, bool expand);
+    void addFields(QtProperty *group, const osg::FieldContainerPtr &fc);
+    void addField(const FieldSource &source, Lists &lists);
     void addValueRow(const FieldSource &source, const QString &text);
     static QString valueText(const FieldSource &source);
-    void addAttachments(const FieldSource &source);
+    void addAttachments(const FieldSource &source, Lists &lists);
     RowText addPointer(const FieldSource &source);
-    RowText addPointers(const FieldSource &source);
-    void addNodes(const FieldSource &source);
+    RowText addPointers(const FieldSource &source, Lists &lists);
+    void addNodes(const FieldSource &source, Lists &lists);
     void addChunks(const FieldSource &source);
-    void addVariants(const FieldSource &source);
+    void addVariants(const FieldSource &source, Lists &lists);
 
     /// Lists that are shown and edited element by element.
     static bool isNumberList(const QString &typeName);
@@ -123,6 +130,7 @@ private:
     QtKavoColorPropertyManager *m_colorManager = nullptr;
     QtKavoColorEditorFactory *m_colorFactory = nullptr;
     bool m_building = false;
-    QVector<osg::UInt32> m_path; ///< ids of the containers being filled, the outermost first
     std::map<QtProperty *, FieldBinding> m_bindings;
+    QVector<osg::UInt32> m_path; ///< ids of the containers being filled, the outermost first
+    bool m_isCut = false; ///< the tree has reached maxRows and says so
 };

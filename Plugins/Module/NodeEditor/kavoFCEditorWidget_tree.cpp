@@ -1,6 +1,7 @@
 #include "kavoFCEditorWidget.h"
 
 #include <OSGAnimNodeBase.h>
+#include <kavoLog.h>
 #include <kavoNodeUtils.h>
 #include <kavoOpenSGCompat.h>
 
@@ -9,6 +10,9 @@
 
 #include <QScopeGuard>
 #include <QSet>
+
+#include <utility>
+#include <vector>
 
 // A field on its way into the tree: where it comes from and the group that it goes into.
 struct kavoFCEditorWidget::FieldSource
@@ -19,6 +23,20 @@ struct kavoFCEditorWidget::FieldSource
     osg::Field *field;
     QString name;
     QString typeName;
+};
+
+// A container of a list, and its label.
+struct kavoFCEditorWidget::Element
+{
+    QString label;
+    osg::FieldContainerPtr container;
+};
+
+// A group of containers that have not been added yet.
+struct kavoFCEditorWidget::List
+{
+    QtProperty *group;
+    std::vector<Element> elements;
 };
 
 namespace {
@@ -56,6 +74,14 @@ QString titleOf(const osg::FieldContainerPtr &fc, const QString &name)
     return name + ' ' + fc->getTypeName() + " (" + QString::number(fc.getFieldContainerId()) + ')';
 }
 
+// The title of a container without rows, which names a node.
+QString shallowTitleOf(const osg::FieldContainerPtr &fc, const QString &name)
+{
+    const osg::NodePtr node = osg::NodePtr::dcast(fc);
+    const QString title = titleOf(fc, name);
+    return kavoNodeUtils::hasName(node) ? title + " name:" + kavoNodeUtils::getName(node) : title;
+}
+
 }
 
 void kavoFCEditorWidget::setFC(
@@ -63,37 +89,56 @@ void kavoFCEditorWidget::setFC(
 {
     if (fc == osg::NullFC)
         return;
-    if (!mayFill(fc.getFieldContainerId()))
+    const osg::UInt32 id = fc.getFieldContainerId();
+    if (m_path.contains(id) || m_path.size() >= maxDepth)
         return setFCnr(parent, fc, name, expand);
-    m_path.append(fc.getFieldContainerId());
+    if (m_bindings.size() >= maxRows)
+        return addUnopened(parent, fc, name, expand);
+    m_path.append(id);
     const auto leave = qScopeGuard([this] { m_path.removeLast(); });
     QtProperty *group = addGroup(parent, titleOf(fc, name));
+    addFields(group, fc);
+    finishGroup(group, expand);
+}
+
+// The lists are filled last: core and material must not find all rows of the tree used up.
+void kavoFCEditorWidget::addFields(QtProperty *group, const osg::FieldContainerPtr &fc)
+{
+    Lists lists;
     const osg::FieldContainerType &type = fc->getType();
     for (osg::UInt32 id = 1; id <= type.getNumFieldDescs(); ++id) {
         const osg::FieldDescription *description = type.getFieldDescription(id);
         osg::Field *field = description ? fc->getField(id) : nullptr;
         if (field)
             addField({ group, fc, description->getFieldMask(), field, description->getCName(),
-                field->getType().getCName() });
+                         field->getType().getCName() },
+                lists);
     }
-    finishGroup(group, expand);
-}
-
-// Every tree ends: there can be more ways from one container to the next than there is memory.
-bool kavoFCEditorWidget::mayFill(osg::UInt32 containerId) const
-{
-    return !m_path.contains(containerId) && m_path.size() < maxDepth && m_bindings.size() < maxRows;
+    for (const List &list : lists) {
+        for (const Element &element : list.elements)
+            setFC(list.group, element.container, element.label, false);
+    }
 }
 
 void kavoFCEditorWidget::setFCnr(
     QtProperty *parent, osg::FieldContainerPtr fc, const QString &name, bool expand)
 {
-    if (fc == osg::NullFC)
-        return;
-    QString title = titleOf(fc, name);
-    const osg::NodePtr node = osg::NodePtr::dcast(fc);
-    if (kavoNodeUtils::hasName(node))
-        title += QStringLiteral(" name:") + kavoNodeUtils::getName(node);
+    if (fc != osg::NullFC)
+        finishGroup(addGroup(parent, shallowTitleOf(fc, name)), expand);
+}
+
+// The first of these containers says that the tree is not complete.
+void kavoFCEditorWidget::addUnopened(
+    QtProperty *parent, const osg::FieldContainerPtr &fc, const QString &name, bool expand)
+{
+    QString title = shallowTitleOf(fc, name);
+    if (!std::exchange(m_isCut, true)) {
+        title
+            = tr("%1 - not opened: the tree ends at %2 rows").arg(title, QString::number(maxRows));
+        kavoLog::error(
+            "kavoFCEditorWidget::setFC: no more containers are opened, the tree has %zu rows",
+            maxRows);
+    }
     finishGroup(addGroup(parent, title), expand);
 }
 
@@ -124,15 +169,15 @@ void kavoFCEditorWidget::finishGroup(QtProperty *group, bool expand)
         setExpanded(item, true);
 }
 
-void kavoFCEditorWidget::addField(const FieldSource &source)
+void kavoFCEditorWidget::addField(const FieldSource &source, Lists &lists)
 {
     const QByteArray contentType = source.field->getContentType().getCName();
     if (contentType == "AttachmentMap")
-        addAttachments(source);
+        addAttachments(source, lists);
     else if (!contentType.contains("Ptr"))
         addValueRow(source, valueText(source));
     else if (const RowText text
-        = isSingle(*source.field) ? addPointer(source) : addPointers(source))
+        = isSingle(*source.field) ? addPointer(source) : addPointers(source, lists))
         addValueRow(source, *text);
 }
 
@@ -154,15 +199,15 @@ QString kavoFCEditorWidget::valueText(const FieldSource &source)
     return source.typeName.startsWith("MFString") ? textOf(field) : summaryText(field);
 }
 
-void kavoFCEditorWidget::addAttachments(const FieldSource &source)
+void kavoFCEditorWidget::addAttachments(const FieldSource &source, Lists &lists)
 {
-    const auto &attachments = static_cast<osg::SFAttachmentMap *>(source.field)->getValue();
-    if (attachments.empty())
+    List list;
+    for (const auto &entry : static_cast<osg::SFAttachmentMap *>(source.field)->getValue())
+        list.elements.push_back({ QString::number(list.elements.size()), entry.second });
+    if (list.elements.empty())
         return;
-    QtProperty *list = addGroup(source.group, "attachments (AttachmentMap)");
-    int label = 0;
-    for (const auto &entry : attachments)
-        setFC(list, entry.second, QString::number(label++), false);
+    list.group = addGroup(source.group, "attachments (AttachmentMap)");
+    lists.push_back(list);
 }
 
 // Shows the target as a group of its own, or gives the text of the row to show instead.
@@ -178,29 +223,30 @@ kavoFCEditorWidget::RowText kavoFCEditorWidget::addPointer(const FieldSource &so
 }
 
 // Shows the elements as groups, or gives the text of the row to show instead.
-kavoFCEditorWidget::RowText kavoFCEditorWidget::addPointers(const FieldSource &source)
+kavoFCEditorWidget::RowText kavoFCEditorWidget::addPointers(const FieldSource &source, Lists &lists)
 {
     const osg::UInt32 size = source.field->getSize();
     const bool listsNodes
         = source.container->getType().isDerivedFrom(osg::AnimNodeBase::getClassType());
     if (listsNodes && source.typeName == "MFNodePtr" && size < maxListedElements)
-        addNodes(source);
+        addNodes(source, lists);
     else if (source.typeName == "MFStateChunkPtr")
         addChunks(source);
     else if (source.typeName == "MFTransformVariantPtr" && size > 0)
-        addVariants(source);
+        addVariants(source, lists);
     else
         return sizeText(*source.field);
     return std::nullopt;
 }
 
-void kavoFCEditorWidget::addNodes(const FieldSource &source)
+void kavoFCEditorWidget::addNodes(const FieldSource &source, Lists &lists)
 {
-    QtProperty *list = addGroup(source.group, source.name);
+    List list { addGroup(source.group, source.name), {} };
     for (osg::UInt32 i = 0; i < source.field->getSize(); ++i) {
         const auto node = osg::NodePtr::dcast(kavoOpenSG::target(source.field, i));
-        setFC(list, node, kavoNodeUtils::getName(node), false);
+        list.elements.push_back({ kavoNodeUtils::getName(node), node });
     }
+    lists.push_back(list);
 }
 
 // Deliberate: chunks have no name and stand directly below their material, open.
@@ -211,13 +257,13 @@ void kavoFCEditorWidget::addChunks(const FieldSource &source)
 }
 
 // Deliberate: null elements are not counted, the labels have no gaps.
-void kavoFCEditorWidget::addVariants(const FieldSource &source)
+void kavoFCEditorWidget::addVariants(const FieldSource &source, Lists &lists)
 {
-    QtProperty *list = addGroup(source.group, source.name);
-    int label = 0;
+    List list { addGroup(source.group, source.name), {} };
     for (osg::UInt32 i = 0; i < source.field->getSize(); ++i) {
         const osg::FieldContainerPtr variant = kavoOpenSG::target(source.field, i);
         if (variant != osg::NullFC)
-            setFC(list, variant, QString::number(label++), false);
+            list.elements.push_back({ QString::number(list.elements.size()), variant });
     }
+    lists.push_back(list);
 }

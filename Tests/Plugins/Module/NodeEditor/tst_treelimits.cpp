@@ -1,9 +1,12 @@
 #include "kavoTreeRows.h"
 
+#include <OSGAnimNodeBase.h>
+#include <kavoConsoleCapture.h>
 #include <kavoTestHost.h>
 #include <kavoTestScene.h>
 
 #include <OpenSG/OSGDirectionalLight.h>
+#include <OpenSG/OSGGeometry.h>
 #include <OpenSG/OSGTexGenChunk.h>
 
 #include <QtTest>
@@ -38,7 +41,45 @@ const QtProperty *lastRow(const kavoFCEditorWidget &editor, const std::vector<ka
     return row;
 }
 
+// The first node shows more rows than a tree may have. Each chunk leads to the next node in four
+// ways.
+std::vector<kavoNodePtr> manyWaysToTheSameNodes()
+{
+    std::vector<kavoNodePtr> nodes { kavoTestScene::makeGroup("Last") };
+    for (int i = 0; i < 10; ++i) {
+        const osg::NodePtr next(nodes.back());
+        const osg::TexGenChunkPtr chunk = osg::TexGenChunk::create();
+        chunk->setSBeacon(next);
+        chunk->setTBeacon(next);
+        chunk->setRBeacon(next);
+        chunk->setQBeacon(next);
+        const osg::ChunkMaterialPtr material = osg::ChunkMaterial::create();
+        material->addChunk(chunk);
+        nodes.emplace_back(kavoTestScene::makeGeometry(nullptr, material));
+    }
+    std::reverse(nodes.begin(), nodes.end());
+    return nodes;
 }
+
+void addList(const osg::AttachmentContainerPtr &container, const osg::NodePtr &node)
+{
+    const osg::AnimNodeBasePtr list = osg::AnimNodeBase::create();
+    list->getNodes().push_back(node);
+    container->addAttachment(list);
+}
+
+// The groups that say that the tree ends.
+QList<QtProperty *> endings(const kavoFCEditorWidget &editor)
+{
+    QList<QtProperty *> rows = all(editor);
+    const auto isOther = [](const QtProperty *row) {
+        return !row->propertyName().endsWith(") - not opened: the tree ends at 50000 rows");
+    };
+    rows.erase(std::remove_if(rows.begin(), rows.end(), isOther), rows.end());
+    return rows;
+}
+
+} // namespace
 
 // How far the tree follows containers that lead to one another.
 class TestTreeLimits : public QObject
@@ -53,6 +94,10 @@ private slots:
     void aContainerInsideItselfShowsItsTitleAlone();
     void aContainerBesideItselfShowsItsFieldsTwice();
     void aTreeOfManyWaysToTheSameContainersEnds();
+    void eachTreeThatEndsSaysSoOnce();
+    void aContainerInsideItselfDoesNotEndTheTree();
+    void listsLeaveRowsToCoreAndMaterial();
+    void listsKeepTheirPlace();
 
 private:
     void show(const osg::FieldContainerPtr &container) { m_editor->setFC(QString(), container); }
@@ -113,26 +158,69 @@ void TestTreeLimits::aContainerBesideItselfShowsItsFieldsTwice()
     QCOMPARE(filledGroups(titleOf("", chunk)), 2);
 }
 
-// Each chunk leads to the next node in four ways.
 void TestTreeLimits::aTreeOfManyWaysToTheSameContainersEnds()
 {
-    std::vector<kavoNodePtr> nodes; // beacons are not held
-    kavoNodePtr node(kavoTestScene::makeGroup("Last"));
-    for (int i = 0; i < 10; ++i) {
-        const osg::TexGenChunkPtr chunk = osg::TexGenChunk::create();
-        chunk->setSBeacon(node);
-        chunk->setTBeacon(node);
-        chunk->setRBeacon(node);
-        chunk->setQBeacon(node);
-        const osg::ChunkMaterialPtr material = osg::ChunkMaterial::create();
-        material->addChunk(chunk);
-        nodes.push_back(node);
-        node = kavoNodePtr(kavoTestScene::makeGeometry(nullptr, material));
-    }
-    show(osg::NodePtr(node));
+    const std::vector<kavoNodePtr> nodes = manyWaysToTheSameNodes();
+    show(osg::NodePtr(nodes.front()));
     const int rows = all(*m_editor).size();
     QVERIFY(rows > int(kavoFCEditorWidget::maxRows));
     QVERIFY(rows < int(kavoFCEditorWidget::maxRows) * 2);
+}
+
+void TestTreeLimits::eachTreeThatEndsSaysSoOnce()
+{
+    const std::vector<kavoNodePtr> nodes = manyWaysToTheSameNodes();
+    kavoConsoleCapture errors(kavoConsoleCapture::StandardError);
+    for (int timesShown = 1; timesShown <= 2; ++timesShown) {
+        show(osg::NodePtr(nodes.front()));
+        QCOMPARE(endings(*m_editor).size(), 1);
+        QVERIFY(endings(*m_editor).first()->subProperties().isEmpty());
+        QCOMPARE(errors.text().count("no more containers are opened"), timesShown);
+    }
+    show(osg::NodePtr(nodes.back()));
+    QVERIFY(endings(*m_editor).isEmpty());
+}
+
+void TestTreeLimits::aContainerInsideItselfDoesNotEndTheTree()
+{
+    const std::vector<kavoNodePtr> lights = lightsBehindLights(1);
+    const osg::NodePtr node(lights.front());
+    osg::LightPtr::dcast(node->getCore())->setBeacon(node);
+    kavoConsoleCapture errors(kavoConsoleCapture::StandardError);
+    show(node);
+    QVERIFY(endings(*m_editor).isEmpty());
+    QCOMPARE(errors.text(), QByteArray());
+    osg::LightPtr::dcast(node->getCore())->setBeacon(osg::NullFC);
+}
+
+// A list of the node stands above its core, a list of the core above its material.
+void TestTreeLimits::listsLeaveRowsToCoreAndMaterial()
+{
+    const std::vector<kavoNodePtr> nodes = manyWaysToTheSameNodes();
+    const osg::ChunkMaterialPtr material = kavoTestScene::makeMaterial();
+    const kavoNodePtr node(kavoTestScene::makeGeometry("Tyre", material));
+    const osg::NodeCorePtr core = osg::NodePtr(node)->getCore();
+    addList(osg::NodePtr(node), nodes.front());
+    addList(core, nodes.front());
+    kavoConsoleCapture errors(kavoConsoleCapture::StandardError);
+    show(osg::NodePtr(node));
+    QCOMPARE(endings(*m_editor).size(), 1);
+    const QtProperty *coreRow = row(*m_editor, titleOf("core", core));
+    QVERIFY(child(coreRow, "positions"));
+    const QtProperty *materialRow = child(coreRow, titleOf("material", material));
+    QVERIFY(child(materialRow, "sortKey"));
+    for (const osg::StateChunkPtr &chunk : *material->getMFChunks())
+        QVERIFY(!child(materialRow, titleOf("", chunk))->subProperties().isEmpty());
+}
+
+void TestTreeLimits::listsKeepTheirPlace()
+{
+    const kavoNodePtr node(kavoTestScene::makeGroup("Root"));
+    addList(osg::NodePtr(node), osg::NodePtr(node));
+    show(osg::NodePtr(node));
+    QCOMPARE(titles(top(*m_editor)),
+        QStringList({ "attachments (AttachmentMap)", "volume", "travMask", "parent", "children",
+            titleOf("core", osg::NodePtr(node)->getCore()) }));
 }
 
 KAVO_TEST_MAIN(TestTreeLimits)
