@@ -96,12 +96,17 @@ QtProperty *makeTextRow(QtVariantPropertyManager &manager, const RowSource &sour
     return row;
 }
 
-// Infinity and NaN fit in no range and are shown, and can be replaced, as text.
+// The C library writes the usual NaN as "-nan", which QString and QTextStream cannot read.
+QString withoutSignOfNan(QString text)
+{
+    return text.replace("-nan", "nan", Qt::CaseInsensitive);
+}
+
+// Infinity and NaN fit in no range. They are shown as text, which can be edited.
 QtProperty *makeNumberRow(
     QtVariantPropertyManager &manager, const RowType &type, const RowSource &source)
 {
-    const double value = source.valueText.toDouble();
-    if (!std::isfinite(value))
+    if (!std::isfinite(withoutSignOfNan(source.valueText).toDouble()))
         return makeTextRow(manager, source);
     const auto kind = type.kind == RowKind::Real ? QVariant::Double : QVariant::Int;
     QtVariantProperty *row = manager.addProperty(kind, source.name);
@@ -169,7 +174,7 @@ QtVariantProperty *kavoFCEditorWidget::createPropertyList(const QString &name,
 {
     QtVariantProperty *group = m_variantManager->addProperty(
         QtVariantPropertyManager::groupTypeId(), name + " (" + typeName + ')');
-    QTextStream text(valueText.toUtf8(), QIODevice::ReadOnly);
+    QTextStream text(withoutSignOfNan(valueText).toUtf8(), QIODevice::ReadOnly);
     for (int k = 0;; ++k) {
         const QString subName = subNames.section(',', k, k);
         if (subName.isEmpty())

@@ -23,6 +23,9 @@ private slots:
     void aBoxIsAGroupOfSixNumbers_data();
     void aBoxIsAGroupOfSixNumbers();
     void aQuaternionIsAGroupOfFourNumbers();
+    void numbersThatAreNotFiniteAreText_data();
+    void numbersThatAreNotFiniteAreText();
+    void aMinusBeforeNanLeavesTheOtherSubRows();
     void typeNamesAreCaseSensitive();
     void anEnumRowReadsOneNumber_data();
     void anEnumRowReadsOneNumber();
@@ -146,6 +149,34 @@ void TestPropertyRows::aQuaternionIsAGroupOfFourNumbers()
     QCOMPARE(titles(row), QString("x,y,z,w").split(','));
     QCOMPARE(child(row, "y")->valueText(), QString("0.9999999"));
     QCOMPARE(child(row, "w")->valueText(), QString("1.570796"));
+}
+
+void TestPropertyRows::numbersThatAreNotFiniteAreText_data()
+{
+    QTest::addColumn<QString>("text");
+    for (const char *text : { "inf", "-inf", "nan", "-nan", "-NAN", " -nan" })
+        QTest::newRow(text) << text;
+}
+
+void TestPropertyRows::numbersThatAreNotFiniteAreText()
+{
+    QFETCH(QString, text);
+    for (const char *typeName : { "SFReal32", "SFReal64", "SFTime" }) {
+        const QtVariantProperty *row = variant(typeName, text);
+        QCOMPARE(row->propertyType(), int(QVariant::String));
+        QCOMPARE(row->valueText(), text);
+        QCOMPARE(row->toolTip(), QString(typeName));
+    }
+}
+
+void TestPropertyRows::aMinusBeforeNanLeavesTheOtherSubRows()
+{
+    const QtProperty *row
+        = m_editor->createPropertyItem("rotation", "SFQuaternion", "1 -nan -2.5 -NAN");
+    QStringList texts;
+    for (const QtProperty *sub : row->subProperties())
+        texts.append(sub->valueText());
+    QCOMPARE(texts, QStringList({ "1", "nan", "-2.5", "nan" }));
 }
 
 void TestPropertyRows::typeNamesAreCaseSensitive()
