@@ -19,7 +19,7 @@ public:
     std::map<const QtProperty *, Data> m_values;
 };
 
-class QtKavoColorEditorFactoryPrivate : public EditorFactoryPrivate<QKAVOColorManipulator>
+class QtKavoColorEditorFactoryPrivate : public kavoEditorFactoryPrivate<QKAVOColorManipulator>
 {
     QtKavoColorEditorFactory *q_ptr;
     Q_DECLARE_PUBLIC(QtKavoColorEditorFactory)

@@ -32,7 +32,7 @@ public:
     std::map<const QtProperty *, Data> m_values;
 };
 
-class QtGLenumEditorFactoryPrivate : public EditorFactoryPrivate<QComboBox>
+class QtGLenumEditorFactoryPrivate : public kavoEditorFactoryPrivate<QComboBox>
 {
     QtGLenumEditorFactory *q_ptr;
     Q_DECLARE_PUBLIC(QtGLenumEditorFactory)

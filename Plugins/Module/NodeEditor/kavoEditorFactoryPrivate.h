@@ -7,8 +7,10 @@
 
 #include <algorithm>
 
-// Which editors are open for which property: the bookkeeping that our editor factories share.
-template <class Editor> class EditorFactoryPrivate
+/// Knows the editors that are open for each property. Base of the private parts of the editor
+/// factories. The component has a template EditorFactoryPrivate with the same members inside; this
+/// one needs another name, because its functions differ.
+template <class Editor> class kavoEditorFactoryPrivate
 {
 public:
     using EditorList = QList<Editor *>;
@@ -22,7 +24,7 @@ public:
 };
 
 template <class Editor>
-Editor *EditorFactoryPrivate<Editor>::createEditor(QtProperty *property, QWidget *parent)
+Editor *kavoEditorFactoryPrivate<Editor>::createEditor(QtProperty *property, QWidget *parent)
 {
     auto *editor = new Editor(parent);
     initializeEditor(property, editor);
@@ -32,7 +34,7 @@ Editor *EditorFactoryPrivate<Editor>::createEditor(QtProperty *property, QWidget
 // An editor may outlive its property, for a browser closes editors with a delay and a manager may
 // be destroyed without any browser. It is forgotten then, so that nobody reads the dead property.
 template <class Editor>
-void EditorFactoryPrivate<Editor>::initializeEditor(QtProperty *property, Editor *editor)
+void kavoEditorFactoryPrivate<Editor>::initializeEditor(QtProperty *property, Editor *editor)
 {
     m_createdEditors[property].append(editor);
     m_editorToProperty.insert(editor, property);
@@ -47,7 +49,7 @@ void EditorFactoryPrivate<Editor>::initializeEditor(QtProperty *property, Editor
         });
 }
 
-template <class Editor> void EditorFactoryPrivate<Editor>::slotEditorDestroyed(QObject *object)
+template <class Editor> void kavoEditorFactoryPrivate<Editor>::slotEditorDestroyed(QObject *object)
 {
     const QList<Editor *> editors = m_editorToProperty.keys();
     const auto editor = std::find(editors.begin(), editors.end(), object);

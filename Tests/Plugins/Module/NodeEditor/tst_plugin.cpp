@@ -8,6 +8,7 @@
 
 #include <QLibrary>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QtTest>
 
 #include <dlfcn.h>
@@ -18,6 +19,7 @@ class TestPlugin : public QObject
 
 private slots:
     void initPluginIsTheOnlyFunctionExported();
+    void noTemplateOfTheComponentIsDefinedAgain();
     void loadingAloneMakesNoModule();
     void loadingBringsTheValuePairOperationAlong();
     void anExceptionLeavesInitPluginAndTheNextCallTriesAgain();
@@ -35,15 +37,20 @@ private:
 
 namespace {
 
-// Names of the functions and data that a library offers to others. Weak ones are left out, they are
-// template and inline code of other libraries, and so are the linker's own marks.
-QStringList exportedSymbols(const QString &file)
+QStringList definedSymbols(const QString &file, const QString &option)
 {
     QProcess nm;
-    nm.start("nm", { "--dynamic", "--defined-only", "--format=posix", file });
+    nm.start("nm", { option, "--defined-only", "--format=posix", file });
     nm.waitForFinished();
+    return QString(nm.readAllStandardOutput()).split('\n');
+}
+
+// The functions and data that a library offers to others, without template and inline code of other
+// libraries, which is weak, and without the linker's own marks.
+QStringList exportedSymbols(const QString &file)
+{
     QStringList names;
-    for (const QString &line : QString(nm.readAllStandardOutput()).split('\n')) {
+    for (const QString &line : definedSymbols(file, "--dynamic")) {
         const QStringList parts = line.split(' ');
         const bool isWeak = QString("VWu").contains(parts.value(1, "W"));
         if (!isWeak && !QStringList { "__bss_start", "_edata", "_end" }.contains(parts.first()))
@@ -57,6 +64,14 @@ QStringList exportedSymbols(const QString &file)
 void TestPlugin::initPluginIsTheOnlyFunctionExported()
 {
     QCOMPARE(exportedSymbols(m_library.fileName()), QStringList("initPlugin"));
+}
+
+// The linker would take one of the two definitions for both.
+void TestPlugin::noTemplateOfTheComponentIsDefinedAgain()
+{
+    const QStringList symbols = definedSymbols(m_library.fileName(), "--demangle");
+    QVERIFY(!symbols.filter("kavoEditorFactoryPrivate<QComboBox>::").isEmpty());
+    QCOMPARE(symbols.filter(QRegularExpression("\\bEditorFactoryPrivate<")), QStringList());
 }
 
 void TestPlugin::loadingAloneMakesNoModule()
