@@ -1,5 +1,7 @@
 #include <kavoNodeUtils.h>
 
+#include <kavoNodeQueries.h>
+
 #include <OpenSG/OSGNode.h>
 #include <OpenSG/OSGNodeCore.h>
 #include <OpenSG/OSGSimpleAttachments.h>
@@ -9,7 +11,7 @@ namespace {
 const char *attachedName(const osg::AttachmentContainerPtr &container)
 {
     const osg::AttachmentPtr found
-        = kavoNodeUtils::findAttachment(container, osg::Name::getClassType());
+        = kavoNodeQueries::findAttachment(container, osg::Name::getClassType());
     if (found == osg::NullFC)
         return nullptr;
     return static_cast<osg::Name *>(found.getCPtr())->getFieldPtr()->getValue().c_str();
@@ -33,18 +35,4 @@ const char *kavoNodeUtils::getName(const osg::NodePtr &node)
 bool kavoNodeUtils::hasName(const osg::NodePtr &node)
 {
     return node != osg::NullFC && attachedName(node);
-}
-
-// Attachments are stored by group, and a group may hold other types, too.
-osg::AttachmentPtr kavoNodeUtils::findAttachment(
-    const osg::AttachmentContainerPtr &container, const osg::FieldContainerType &type)
-{
-    const osg::AttachmentPtr found = container->findAttachment(type.getGroupId());
-    const bool isOfType = found != osg::NullFC && found->getType().isDerivedFrom(type);
-    return isOfType ? found : osg::AttachmentPtr();
-}
-
-bool kavoNodeUtils::isFullyVisible(const osg::NodePtr &node)
-{
-    return node->getTravMask() == 0xFFFFFFFF;
 }

@@ -2,10 +2,9 @@
 
 #include <kavoSDKExport.h>
 
-#include <OpenSG/OSGAttachment.h>
 #include <OpenSG/OSGNodePtr.h>
 
-/// Questions about nodes.
+/// Names of nodes.
 class KAVO_SDK_EXPORT kavoNodeUtils
 {
 public:
@@ -15,13 +14,4 @@ public:
     static const char *getName(const osg::NodePtr &node);
     /// Whether the node itself has a Name attachment, be it an empty one.
     static bool hasName(const osg::NodePtr &node);
-
-    /// The attachment of that type or of one derived from it, null if there is none.
-    /// \param container not null
-    static osg::AttachmentPtr findAttachment(
-        const osg::AttachmentContainerPtr &container, const osg::FieldContainerType &type);
-
-    /// Whether no bit of the node's traversal mask is cleared.
-    /// \param node not null
-    static bool isFullyVisible(const osg::NodePtr &node);
 };

@@ -7,7 +7,7 @@
 #include "Tables/kavoValuePairs.h"
 
 #include <kavoNodePtr.h>
-#include <kavoNodeUtils.h>
+#include <kavoNodeQueries.h>
 
 #include <OpenSG/OSGNodeCore.h>
 
@@ -105,7 +105,7 @@ bool Export::writeRows(
 const osg::ValuePairBase *Export::pairsOfRow(const kavoPathWalk &walk) const
 {
     const osg::ValuePairBase *pairs = kavoValuePairs::of(walk.node());
-    if (!pairs || (!m_options.takesAllNodes && !kavoNodeUtils::isFullyVisible(walk.node())))
+    if (!pairs || (!m_options.takesAllNodes && !kavoNodeQueries::isFullyVisible(walk.node())))
         return nullptr;
     const std::vector<std::string> &keys = pairs->getKeys().getValues();
     const auto isWanted

@@ -1,6 +1,6 @@
 #include "Tables/kavoValuePairs.h"
 
-#include <kavoNodeUtils.h>
+#include <kavoNodeQueries.h>
 
 #include <algorithm>
 
@@ -9,7 +9,7 @@ namespace {
 osg::ValuePairBasePtr find(const osg::NodePtr &node)
 {
     return osg::ValuePairBasePtr::dcast(
-        kavoNodeUtils::findAttachment(node, osg::ValuePairBase::getClassType()));
+        kavoNodeQueries::findAttachment(node, osg::ValuePairBase::getClassType()));
 }
 
 osg::ValuePairBasePtr findOrAttach(const osg::NodePtr &node)

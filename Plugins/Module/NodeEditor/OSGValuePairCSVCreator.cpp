@@ -1,6 +1,7 @@
 #include "OSGValuePairCSVCreator.h"
 
 #include <OSGValuePairBase.h>
+#include <kavoNodeQueries.h>
 #include <kavoNodeUtils.h>
 
 #include <cerrno>
@@ -14,7 +15,7 @@ namespace {
 
 ValuePairBase *valuePairsOf(const NodePtr &node)
 {
-    const AttachmentPtr found = kavoNodeUtils::findAttachment(node, ValuePairBase::getClassType());
+    const AttachmentPtr found = kavoNodeQueries::findAttachment(node, ValuePairBase::getClassType());
     return found == NullFC ? nullptr : static_cast<ValuePairBase *>(found.getCPtr());
 }
 
@@ -121,7 +122,7 @@ Action::ResultE ValuePairCSVCreator::goOn() const
 
 bool ValuePairCSVCreator::gather(const NodePtr &node)
 {
-    if (!m_takesAllNodes && !kavoNodeUtils::isFullyVisible(node))
+    if (!m_takesAllNodes && !kavoNodeQueries::isFullyVisible(node))
         return false;
     const char *name = kavoNodeUtils::getName(node);
     m_table.addName(name ? name : "");

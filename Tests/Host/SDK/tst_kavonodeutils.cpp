@@ -1,4 +1,4 @@
-#include <OSGValuePairBase.h>
+#include <OSGDerivedContainer.h>
 #include <kavoNodeUtils.h>
 #include <kavoTestHost.h>
 #include <kavoTestScene.h>
@@ -10,6 +10,35 @@
 #include <QTest>
 
 using kavoTestScene::makeNode;
+
+namespace {
+
+struct DerivedName
+{
+    typedef osg::Name Base;
+    typedef osg::NamePtr BasePtr;
+    static constexpr const char *type = "DerivedName";
+    static constexpr const char *parent = "Name";
+    static constexpr const char *group = "name";
+};
+
+struct ForeignName
+{
+    typedef osg::Attachment Base;
+    typedef osg::AttachmentPtr BasePtr;
+    static constexpr const char *type = "ForeignName";
+    static constexpr const char *parent = "Attachment";
+    static constexpr const char *group = "name";
+};
+
+osg::NodeCorePtr namedGroup(const char *name)
+{
+    const osg::GroupPtr core = osg::Group::create();
+    osg::setName(core, name);
+    return core;
+}
+
+} // namespace
 
 class tst_kavoNodeUtils : public QObject
 {
@@ -23,16 +52,9 @@ private slots:
     void aNamelessCoreGivesTheNameOfItsType();
     void aNodeWithoutNameAndCoreHasNoName();
     void hasNameAsksTheNodeItselfOnly();
-    void attachmentsAreFoundByTheirType();
-    void aClearedBitOfTheTraversalMaskHidesANodeInPart();
+    void attachmentsDerivedFromNameAreNames();
+    void otherTypesInTheGroupOfNamesAreNoNames();
 };
-
-static osg::NodeCorePtr namedGroup(const char *name)
-{
-    const osg::GroupPtr core = osg::Group::create();
-    osg::setName(core, name);
-    return core;
-}
 
 void tst_kavoNodeUtils::aNullNodeHasNoName()
 {
@@ -77,22 +99,25 @@ void tst_kavoNodeUtils::hasNameAsksTheNodeItselfOnly()
     QVERIFY(kavoNodeUtils::hasName(kavoNodePtr(makeNode("Node", osg::NullFC))));
 }
 
-void tst_kavoNodeUtils::attachmentsAreFoundByTheirType()
+void tst_kavoNodeUtils::attachmentsDerivedFromNameAreNames()
 {
-    const kavoNodePtr node(makeNode("Node", osg::NullFC));
-    const osg::AttachmentPtr name
-        = kavoNodeUtils::findAttachment(osg::NodePtr(node), osg::Name::getClassType());
-    QVERIFY(osg::NamePtr::dcast(name) != osg::NullFC);
-    const auto &pairs = osg::ValuePairBase::getClassType();
-    QVERIFY(kavoNodeUtils::findAttachment(osg::NodePtr(node), pairs) == osg::NullFC);
+    const auto name = osg::DerivedContainer<DerivedName>::create();
+    name->getFieldPtr()->setValue("Derived");
+    const kavoNodePtr node(makeNode(nullptr, namedGroup("Core")));
+    node->addAttachment(name);
+    QVERIFY(kavoNodeUtils::hasName(node));
+    QCOMPARE(kavoNodeUtils::getName(node), "Derived");
 }
 
-void tst_kavoNodeUtils::aClearedBitOfTheTraversalMaskHidesANodeInPart()
+void tst_kavoNodeUtils::otherTypesInTheGroupOfNamesAreNoNames()
 {
-    const kavoNodePtr node(makeNode("Node", osg::NullFC));
-    QVERIFY(kavoNodeUtils::isFullyVisible(node));
-    node->setTravMask(0x7FFFFFFF);
-    QVERIFY(!kavoNodeUtils::isFullyVisible(node));
+    const osg::GroupPtr core = osg::Group::create();
+    const kavoNodePtr node(makeNode(nullptr, core));
+    node->addAttachment(osg::DerivedContainer<ForeignName>::create());
+    core->addAttachment(osg::DerivedContainer<ForeignName>::create());
+    QVERIFY(node->findAttachment(osg::Name::getClassType().getGroupId()) != osg::NullFC);
+    QVERIFY(!kavoNodeUtils::hasName(node));
+    QCOMPARE(kavoNodeUtils::getName(node), "Group");
 }
 
 KAVO_TEST_MAIN(tst_kavoNodeUtils)
