@@ -89,6 +89,7 @@ void FieldSampler::changed(BitVector mask, UInt32 origin)
         throw 1;
     ++changes;
     lastMask = mask;
+    lastOrigin = origin;
     const ChangeList *list = Thread::getCurrentChangeList();
     listedBeforeChanged = list ? list->sizeChanged() : 0;
     Inherited::changed(mask, origin);

@@ -17,8 +17,9 @@ OSG_BEGIN_NAMESPACE
 class FieldSampler;
 typedef FCPtr<AttachmentPtr, FieldSampler> FieldSamplerPtr;
 
-/// Test container with a field of every kind that the editor tells apart, open to all. It counts
-/// the calls of changed(), keeps the last mask and the number of changes that were listed by then.
+/// Test container with a public field of every kind that the editor distinguishes. It counts the
+/// calls of changed() and records the last mask, the last origin and the length of the change list
+/// at the last call.
 class FieldSampler : public Attachment
 {
     typedef Attachment Inherited;
@@ -67,6 +68,7 @@ public:
 
     int changes = 0;
     BitVector lastMask = 0;
+    UInt32 lastOrigin = ChangedOrigin::Abstract;
     UInt32 listedBeforeChanged = 0;
 
 protected:

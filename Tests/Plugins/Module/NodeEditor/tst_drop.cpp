@@ -1,6 +1,7 @@
 #include "OSGFieldSampler.h"
 #include "kavoTreeRows.h"
 
+#include <OSGDerivedContainer.h>
 #include <kavoConsoleCapture.h>
 #include <kavoDragFormats.h>
 #include <kavoTestHost.h>
@@ -19,6 +20,19 @@
 using namespace kavoDragFormats;
 using namespace kavoTreeRows;
 
+namespace {
+
+struct DerivedMaterialGroup
+{
+    typedef osg::MaterialGroup Base;
+    typedef osg::MaterialGroupPtr BasePtr;
+    static constexpr const char *type = "DerivedMaterialGroup";
+    static constexpr const char *parent = "MaterialGroup";
+    static constexpr const char *group = "MaterialGroup";
+};
+
+} // namespace
+
 class TestDrop : public QObject
 {
     Q_OBJECT
@@ -33,6 +47,7 @@ private slots:
     void entryOfUnknownFormatsIsNotAccepted();
     void aDropIsNotAnswered();
     void aMaterialIsShownWithoutAName();
+    void aGroupDerivedFromMaterialGroupsShowsItsMaterial();
     void aLightIsShownWithItsName();
     void anUnnamedLightBearsTheTypeOfItsCore();
     void aCameraIsShownWithItsName();
@@ -179,6 +194,15 @@ void TestDrop::aMaterialIsShownWithoutAName()
     drop(materials, payload({ id(osg::NodePtr(m_materialNode)), id(m_material) }));
     QCOMPARE(title(), titleOf("", m_material));
     QVERIFY(isOpen(*m_editor, top(*m_editor)));
+}
+
+void TestDrop::aGroupDerivedFromMaterialGroupsShowsItsMaterial()
+{
+    const auto group = osg::DerivedContainer<DerivedMaterialGroup>::create();
+    group->setMaterial(m_material);
+    const kavoNodePtr node(kavoTestScene::makeNode("Paint", group));
+    drop(materials, payload({ id(osg::NodePtr(node)), id(m_material) }));
+    QCOMPARE(title(), titleOf("", m_material));
 }
 
 void TestDrop::aLightIsShownWithItsName()

@@ -9,8 +9,26 @@
 
 #include <QGridLayout>
 #include <QStatusBar>
+#include <QTranslator>
 
 using namespace kavoTreeRows;
+
+namespace {
+
+// Translates every text into its context and the text.
+class MarkingTranslator : public QTranslator
+{
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(
+        const char *context, const char *text, const char *disambiguation, int) const override
+    {
+        const QString note = disambiguation ? QStringLiteral(", %1").arg(disambiguation) : QString();
+        return QStringLiteral("[%1: %2%3]").arg(context, text, note);
+    }
+};
+
+} // namespace
 
 // The module, its window and what they show.
 class TestNodeEditor : public kavoModuleFixture
@@ -25,6 +43,7 @@ private slots:
     void itRegistersWithTheHost();
     void itDocksItsWindowInTheSceneGroup();
     void theFormIsAsDesigned();
+    void textsAreTranslated();
     void theEditorFillsTheFrame();
     void metaObjectsHoldTheDocumentedMembers();
     void theWindowIsCastToItsFormByName();
@@ -97,6 +116,20 @@ void TestNodeEditor::theFormIsAsDesigned()
     QCOMPARE(form.gridLayout->itemAtPosition(0, 0)->widget(), form._frame);
     QCOMPARE(form._frame->objectName(), QString("_frame"));
     QCOMPARE(form.statusbar->objectName(), QString("statusbar"));
+}
+
+void TestNodeEditor::textsAreTranslated()
+{
+    MarkingTranslator translator;
+    QCoreApplication::installTranslator(&translator);
+    stop();
+    start();
+    QCOMPARE(kavoTestHost::docks().toggleAction("Node Editor")->text(),
+        QString("[kavoNodeEditor: Attributes]"));
+    QVERIFY(m_module->getWidget()->windowTitle().startsWith("[kavoNodeEditor: Node Editor] - "));
+    QMainWindow fresh;
+    Ui::kavoNodeEditorGUI().setupUi(&fresh);
+    QCOMPARE(fresh.windowTitle(), QString("[kavoNodeEditorGUI: Node Editor]"));
 }
 
 void TestNodeEditor::theEditorFillsTheFrame()

@@ -31,6 +31,7 @@ private slots:
     void otherMessagesLeaveTheEditor();
     void everyMessageEmptiesAHiddenEditor_data();
     void everyMessageEmptiesAHiddenEditor();
+    void anExceptionInAHiddenWindowReachesTheCaller();
     void aMaterialIsShownAndTheTitleStays();
     void aNullMaterialChangesNothing();
     void aMissingMaterialChangesNothing();
@@ -164,6 +165,15 @@ void TestNodeEditorMessages::everyMessageEmptiesAHiddenEditor()
     QVERIFY(!send(id, osg::NodePtr(m_node)));
     QCOMPARE(title(), QString());
     QCOMPARE(m_module->getWidget()->windowTitle(), QString("Node Editor"));
+}
+
+void TestNodeEditorMessages::anExceptionInAHiddenWindowReachesTheCaller()
+{
+    setVisible(false);
+    const auto throwing
+        = connect(m_module->getWidget(), &QWidget::windowTitleChanged, this, [] { throw 1; });
+    QVERIFY_EXCEPTION_THROWN(send(0x20), int);
+    disconnect(throwing);
 }
 
 void TestNodeEditorMessages::aMaterialIsShownAndTheTitleStays()

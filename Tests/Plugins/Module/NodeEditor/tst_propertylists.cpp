@@ -2,13 +2,29 @@
 #include "kavoTreeRows.h"
 
 #include <OSGAnimNodeBase.h>
+#include <OSGDerivedContainer.h>
 #include <OSGTransformVariantList.h>
 #include <kavoTestHost.h>
 #include <kavoTestScene.h>
 
+#include <OpenSG/OSGBlendChunk.h>
+
 #include <QtTest>
 
 using namespace kavoTreeRows;
+
+namespace {
+
+struct DerivedAnimation
+{
+    typedef osg::AnimNodeBase Base;
+    typedef osg::AnimNodeBasePtr BasePtr;
+    static constexpr const char *type = "DerivedAnimation";
+    static constexpr const char *parent = "AnimNodeBase";
+    static constexpr const char *group = "AnimNodeBase";
+};
+
+} // namespace
 
 // What the tree shows of fields with many elements.
 class TestPropertyLists : public QObject
@@ -20,12 +36,16 @@ private slots:
     void cleanup();
     void animatedNodesAreListedUpTo99_data();
     void animatedNodesAreListedUpTo99();
+    void classesDerivedFromAnimationsListTheirNodes();
     void listedNodesBearTheirDisplayNames();
     void aNullNodeInTheListShowsNothing();
     void otherNodeListsShowTheirSize();
     void nullChunksAreSkipped();
+    void chunksAreShownAtAnyNumber();
     void aMaterialWithoutChunksHasNoChunkRow();
     void transformVariantsAreNumberedWithoutGaps();
+    void transformVariantsAreListedAtAnyNumber();
+    void aListOfNullVariantsIsAnEmptyGroup();
     void anEmptyVariantListShowsItsSize();
     void numbersAreListedUpTo99_data();
     void numbersAreListedUpTo99();
@@ -78,6 +98,17 @@ void TestPropertyLists::animatedNodesAreListedUpTo99()
     QCOMPARE(text(*m_editor, "nodes"), shownText);
     QCOMPARE(row(*m_editor, "nodes")->subProperties().size(), count % 100);
     QVERIFY(!isOpen(*m_editor, row(*m_editor, "nodes")));
+    osg::subRefCP(animation);
+}
+
+void TestPropertyLists::classesDerivedFromAnimationsListTheirNodes()
+{
+    const kavoNodePtr node(kavoTestScene::makeGroup("Part"));
+    const auto animation = osg::DerivedContainer<DerivedAnimation>::create();
+    osg::addRefCP(animation);
+    animation->getNodes().push_back(node);
+    show(animation);
+    QCOMPARE(titles(row(*m_editor, "nodes")), QStringList(titleOf("Part", osg::NodePtr(node))));
     osg::subRefCP(animation);
 }
 
@@ -134,6 +165,20 @@ void TestPropertyLists::nullChunksAreSkipped()
     osg::subRefCP(material);
 }
 
+void TestPropertyLists::chunksAreShownAtAnyNumber()
+{
+    const osg::ChunkMaterialPtr material = osg::ChunkMaterial::create();
+    osg::addRefCP(material);
+    for (int i = 0; i < 150; ++i)
+        material->addChunk(osg::BlendChunk::create());
+    show(material);
+    const QStringList shown = titles(top(*m_editor));
+    for (const osg::StateChunkPtr &chunk : *material->getMFChunks())
+        QVERIFY(shown.contains(titleOf("", chunk)));
+    QCOMPARE(shown.filter("BlendChunk").size(), 150);
+    osg::subRefCP(material);
+}
+
 // Deliberate: not even the size is shown.
 void TestPropertyLists::aMaterialWithoutChunksHasNoChunkRow()
 {
@@ -157,6 +202,32 @@ void TestPropertyLists::transformVariantsAreNumberedWithoutGaps()
     show(list);
     QCOMPARE(titles(row(*m_editor, "variants")), QStringList({ titleOf("0", a), titleOf("1", b) }));
     QVERIFY(!isOpen(*m_editor, row(*m_editor, "variants")));
+    osg::subRefCP(list);
+}
+
+void TestPropertyLists::transformVariantsAreListedAtAnyNumber()
+{
+    const osg::TransformVariantListPtr list = osg::TransformVariantList::create();
+    osg::addRefCP(list);
+    for (int i = 0; i < 150; ++i)
+        list->addVariant(osg::TransformVariant::create());
+    show(list);
+    const QStringList shown = titles(row(*m_editor, "variants"));
+    QCOMPARE(shown.size(), 150);
+    QCOMPARE(shown.last(), titleOf("149", list->getVariants()[149]));
+    osg::subRefCP(list);
+}
+
+void TestPropertyLists::aListOfNullVariantsIsAnEmptyGroup()
+{
+    const osg::TransformVariantListPtr list = osg::TransformVariantList::create();
+    osg::addRefCP(list);
+    for (int i = 0; i < 3; ++i)
+        list->addVariant(osg::NullFC);
+    show(list);
+    QCOMPARE(text(*m_editor, "variants"), QString());
+    QVERIFY(row(*m_editor, "variants")->subProperties().isEmpty());
+    QVERIFY(row(*m_editor, "variants")->toolTip().isEmpty());
     osg::subRefCP(list);
 }
 

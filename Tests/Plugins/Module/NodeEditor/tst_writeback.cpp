@@ -105,6 +105,7 @@ void TestWriteBack::anEditAnnouncesTheChangeOnce()
     QCOMPARE(changes->beginChanged()->second, osg::FieldSampler::maskOf("real32"));
     QCOMPARE(m_rows->sampler()->changes, 1);
     QCOMPARE(m_rows->sampler()->lastMask, osg::FieldSampler::maskOf("real32"));
+    QCOMPARE(m_rows->sampler()->lastOrigin, osg::UInt32(osg::ChangedOrigin::External));
 }
 
 void TestWriteBack::anEditGoesToTheChangeListBeforeChanged()

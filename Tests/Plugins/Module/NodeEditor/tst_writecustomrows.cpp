@@ -43,6 +43,7 @@ private slots:
     void cleanup();
     void anEnumIsWrittenAsDecimal();
     void anEnumEditPrintsATraceLineFirst();
+    void theTraceLineIsUtf8();
     void anEnumAboveTheSignedRangePrintsNegative();
     void aColorIsWrittenComponentByComponent();
     void aThreeComponentColorTakesTheFirstThree();
@@ -105,6 +106,14 @@ void TestWriteCustomRows::anEnumEditPrintsATraceLineFirst()
     kavoConsoleCapture output(kavoConsoleCapture::StandardOutput);
     setEnum(9729);
     QCOMPARE(output.text(), QByteArray("property 'minFilter' changed to '9729'\n"));
+}
+
+void TestWriteCustomRows::theTraceLineIsUtf8()
+{
+    QtProperty *row = m_rows->editor().createPropertyItem("Größe €", "SFGLenum", "0");
+    kavoConsoleCapture output(kavoConsoleCapture::StandardOutput);
+    m_rows->editor().valueChanged(row, 1u);
+    QCOMPARE(output.text(), QByteArray("property 'Größe €' changed to '1'\n"));
 }
 
 void TestWriteCustomRows::anEnumAboveTheSignedRangePrintsNegative()
