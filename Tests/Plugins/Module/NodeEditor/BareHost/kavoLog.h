@@ -1,0 +1,7 @@
+#pragma once
+
+class kavoLog
+{
+public:
+    static void error(const char *format, ...);
+};

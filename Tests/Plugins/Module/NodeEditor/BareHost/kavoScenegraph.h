@@ -1,0 +1,10 @@
+#pragma once
+
+#include <kavoNodePtr.h>
+
+class kavoScenegraph
+{
+public:
+    static kavoNodePtr getSelectedNode();
+    static const char *getNodeName(const osg::NodePtr &node);
+};
