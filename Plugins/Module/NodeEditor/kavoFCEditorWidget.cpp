@@ -1,13 +1,46 @@
 #include "kavoFCEditorWidget.h"
 
 #include "kavoCustomPropertyGLenum.h"
+#include "kavoDrop.h"
+#include "kavoFieldText.h"
 #include "kavoVariantEditorFactory.h"
 #include "kavoVariantPropertyManager.h"
 
+#include <kavoCallNames.h>
+#include <kavoController.h>
+#include <kavoGuarded.h>
+#include <kavoLog.h>
+#include <kavoMessage.h>
+#include <kavoOpenSGCompat.h>
+
+#include <OpenSG/OSGChangeList.h>
+#include <OpenSG/OSGFieldContainerFactory.h>
+#include <OpenSG/OSGThread.h>
+
+#include <QDragEnterEvent>
+#include <QDropEvent>
 #include <QScopeGuard>
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
 #include <QTreeWidget>
+
+#include <cstdio>
+#include <locale>
+#include <sstream>
+
+namespace {
+
+// Ends an edit as OpenSG does. Allows for a thread without a change list and for the ignore-change
+// switch.
+void endEdit(const osg::FieldContainerPtr &container, osg::BitVector mask)
+{
+    if (osg::ChangeList *changes = osg::Thread::getCurrentChangeList())
+        changes->addChanged(container, mask);
+    if (!kavoOpenSG::changesIgnored())
+        container->changed(mask, osg::ChangedOrigin::External);
+}
+
+} // namespace
 
 kavoFCEditorWidget::kavoFCEditorWidget(QWidget *parent, const char *)
     : QtTreePropertyBrowser(parent)
@@ -99,4 +132,68 @@ void kavoFCEditorWidget::deleteRows(const QList<QtProperty *> &rows)
         if ((*row)->propertyManager() == m_variantManager)
             delete *row;
     }
+}
+
+void kavoFCEditorWidget::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (kavoDrop::isAccepted(*event->mimeData()))
+        event->acceptProposedAction();
+}
+
+// Deliberate: every format of the drop is shown in turn, so the last one stays.
+void kavoFCEditorWidget::dropEvent(QDropEvent *event)
+{
+    kavoGuarded("Showing what was dropped", [&] {
+        for (const auto &[name, container] : kavoDrop::containersOf(*event->mimeData()))
+            setFC(name, container);
+    });
+}
+
+// Rows without a binding stand for no field and are ignored.
+void kavoFCEditorWidget::writeBack(QtProperty *property, const QString &value)
+{
+    const auto row = m_bindings.find(property);
+    if (row == m_bindings.end())
+        return;
+    const FieldBinding binding = row->second;
+    const osg::FieldContainerPtr container
+        = osg::FieldContainerFactory::the()->getContainer(binding.containerId);
+    if (container == osg::NullFC) {
+        kavoLog::error("kavoFCEditorWidget::valueChanged: invalid pointer!");
+        return;
+    }
+    kavoGuarded("Writing a field", [&] {
+        if (kavoFieldText::write(*binding.field, value))
+            endEdit(container, binding.fieldMask);
+    });
+}
+
+void kavoFCEditorWidget::valueChanged(QtProperty *property, const QVariant &value)
+{
+    if (!m_building)
+        writeBack(property, value.toString());
+}
+
+void kavoFCEditorWidget::valueChanged(QtProperty *property, unsigned int value)
+{
+    if (m_building)
+        return;
+    std::printf("property '%s' changed to '%d'\n", property->propertyName().toUtf8().constData(),
+        static_cast<int>(value));
+    writeBack(property, QString::number(value));
+}
+
+// Deliberate: every edit of a colour makes the host render its materials again, even if it was not
+// written. Other edits do not.
+void kavoFCEditorWidget::valueChanged(QtProperty *property, colorVal value)
+{
+    if (m_building)
+        return;
+    std::ostringstream text;
+    text.imbue(std::locale::classic());
+    text << value.r << ' ' << value.g << ' ' << value.b << ' ' << value.a;
+    writeBack(property, QString::fromStdString(text.str()));
+
+    kavoMessage message;
+    kavoController::call(kavoCallNames::updateMatRender, message, 0);
 }

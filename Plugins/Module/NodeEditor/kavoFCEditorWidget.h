@@ -14,7 +14,6 @@
 #include <optional>
 #include <vector>
 
-class QMimeData;
 class QtGLenumEditorFactory;
 class QtGLenumPropertyManager;
 
@@ -28,8 +27,6 @@ class kavoFCEditorWidget : public QtTreePropertyBrowser
     Q_OBJECT
 
 public:
-    /// Lists with at least this many elements are summarised and not opened or listed.
-    static constexpr osg::UInt32 maxListedElements = 100;
     /// So many containers are opened one inside the other; several times as many exhaust the stack.
     static constexpr int maxDepth = 2000;
     /// A tree with this many rows of fields opens no more containers. The title of the first one
@@ -104,7 +101,6 @@ private:
     void addFields(QtProperty *group, const osg::FieldContainerPtr &fc);
     void addField(const FieldSource &source, Lists &lists);
     void addValueRow(const FieldSource &source, const QString &text);
-    static QString valueText(const FieldSource &source);
     void addAttachments(const FieldSource &source, Lists &lists);
     RowText addPointer(const FieldSource &source);
     RowText addPointers(const FieldSource &source, Lists &lists);
@@ -112,16 +108,7 @@ private:
     void addChunks(const FieldSource &source);
     void addVariants(const FieldSource &source, Lists &lists);
 
-    /// Lists that are shown and edited element by element.
-    static bool isNumberList(const QString &typeName);
-    static bool writeList(osg::Field &field, QString text);
-    static bool writeText(osg::Field &field, const QString &text);
     void writeBack(QtProperty *property, const QString &value);
-
-    void showDropped(const QMimeData &data);
-    void dropMaterial(const QByteArray &payload);
-    void dropLight(const QByteArray &payload);
-    void dropCamera(const QByteArray &payload);
 
     QtVariantPropertyManager *m_variantManager = nullptr;
     QtVariantEditorFactory *m_variantFactory = nullptr;

@@ -1,9 +1,9 @@
 #include "kavoFCEditorWidget.h"
 
 #include "kavoCustomPropertyGLenum.h"
+#include "kavoFieldText.h"
 
 #include <QHash>
-#include <QSet>
 #include <QTextStream>
 
 #include <cfloat>
@@ -42,9 +42,6 @@ const QHash<QString, RowType> rowTypes {
     { "SFColor3f", { RowKind::Color } },
     { "SFColor4f", { RowKind::Color } },
 };
-
-const QSet<QString> floatVectors { "SFVec2f", "SFPnt2f", "SFVec3f", "SFPnt3f", "SFVec4f",
-    "SFPnt4f" };
 
 // The numbers of boxes and quaternions.
 constexpr RowType componentType { RowKind::Real, -FLT_MAX, FLT_MAX };
@@ -192,25 +189,7 @@ QtVariantProperty *kavoFCEditorWidget::createPropertyList(const QString &name,
 template QtVariantProperty *kavoFCEditorWidget::createPropertyList<float>(
     const QString &, const QString &, int, const QString &, const QString &);
 
-bool kavoFCEditorWidget::isNumberList(const QString &typeName)
-{
-    return typeName.startsWith(QLatin1String("MFReal"))
-        || typeName.startsWith(QLatin1String("MFInt"))
-        || typeName.startsWith(QLatin1String("MFUInt"));
-}
-
 QString kavoFCEditorWidget::beautifyFloats(const QString &typeName, const QString &valueText)
 {
-    if (!typeName.startsWith(QLatin1String("MFReal")) && !floatVectors.contains(typeName))
-        return valueText;
-    QString separated = valueText;
-    separated.replace(',', ' ');
-    QStringList parts = separated.split(' ', Qt::SkipEmptyParts);
-    for (QString &part : parts) {
-        bool isNumber = false;
-        const double number = part.toDouble(&isNumber);
-        if (isNumber)
-            part = QString::number(number, 'g', 6);
-    }
-    return parts.join(", ");
+    return kavoFieldText::beautified(typeName, valueText);
 }

@@ -1,5 +1,7 @@
 #include "kavoFCEditorWidget.h"
 
+#include "kavoFieldText.h"
+
 #include <OSGAnimNodeBase.h>
 #include <kavoLog.h>
 #include <kavoNodeUtils.h>
@@ -45,29 +47,6 @@ namespace {
 const QSet<QString> backLinks { "parent", "parents", "childs", "associated" };
 // Fields whose target is opened in the tree.
 const QSet<QString> openedLinks { "core", "material" };
-
-bool isSingle(const osg::Field &field)
-{
-    return field.getCardinality() == osg::FieldType::SINGLE_FIELD;
-}
-
-QString textOf(const osg::Field &field)
-{
-    std::string text;
-    field.getValueByStr(text);
-    return QString::fromStdString(text);
-}
-
-QString sizeText(const osg::Field &field)
-{
-    return QString::asprintf("<size = %zu>", std::size_t(field.getSize()));
-}
-
-QString summaryText(const osg::Field &field)
-{
-    return QString::asprintf(
-        "<type=%s> <size = %zu>", field.getContentType().getCName(), std::size_t(field.getSize()));
-}
 
 QString titleOf(const osg::FieldContainerPtr &fc, const QString &name)
 {
@@ -175,9 +154,9 @@ void kavoFCEditorWidget::addField(const FieldSource &source, Lists &lists)
     if (contentType == "AttachmentMap")
         addAttachments(source, lists);
     else if (!contentType.contains("Ptr"))
-        addValueRow(source, valueText(source));
+        addValueRow(source, kavoFieldText::valueOf(*source.field));
     else if (const RowText text
-        = isSingle(*source.field) ? addPointer(source) : addPointers(source, lists))
+        = kavoFieldText::isSingle(*source.field) ? addPointer(source) : addPointers(source, lists))
         addValueRow(source, *text);
 }
 
@@ -190,15 +169,6 @@ void kavoFCEditorWidget::addValueRow(const FieldSource &source, const QString &t
     collapseProperty(row);
 }
 
-QString kavoFCEditorWidget::valueText(const FieldSource &source)
-{
-    const osg::Field &field = *source.field;
-    const bool listsNumbers = isNumberList(source.typeName) && field.getSize() < maxListedElements;
-    if (isSingle(field) || listsNumbers)
-        return beautifyFloats(source.typeName, textOf(field));
-    return source.typeName.startsWith("MFString") ? textOf(field) : summaryText(field);
-}
-
 void kavoFCEditorWidget::addAttachments(const FieldSource &source, Lists &lists)
 {
     List list;
@@ -207,7 +177,7 @@ void kavoFCEditorWidget::addAttachments(const FieldSource &source, Lists &lists)
     if (list.elements.empty())
         return;
     list.group = addGroup(source.group, "attachments (AttachmentMap)");
-    lists.push_back(list);
+    lists.push_back(std::move(list));
 }
 
 // Shows the target as a group of its own, or gives the text of the row to show instead.
@@ -228,14 +198,14 @@ kavoFCEditorWidget::RowText kavoFCEditorWidget::addPointers(const FieldSource &s
     const osg::UInt32 size = source.field->getSize();
     const bool listsNodes
         = source.container->getType().isDerivedFrom(osg::AnimNodeBase::getClassType());
-    if (listsNodes && source.typeName == "MFNodePtr" && size < maxListedElements)
+    if (listsNodes && source.typeName == "MFNodePtr" && size <= kavoFieldText::maxListedElements)
         addNodes(source, lists);
     else if (source.typeName == "MFStateChunkPtr")
         addChunks(source);
     else if (source.typeName == "MFTransformVariantPtr" && size > 0)
         addVariants(source, lists);
     else
-        return sizeText(*source.field);
+        return kavoFieldText::sizeOf(*source.field);
     return std::nullopt;
 }
 
@@ -246,7 +216,7 @@ void kavoFCEditorWidget::addNodes(const FieldSource &source, Lists &lists)
         const auto node = osg::NodePtr::dcast(kavoOpenSG::target(source.field, i));
         list.elements.push_back({ kavoNodeUtils::getName(node), node });
     }
-    lists.push_back(list);
+    lists.push_back(std::move(list));
 }
 
 // Deliberate: chunks have no name and stand directly below their material, open.
@@ -265,5 +235,5 @@ void kavoFCEditorWidget::addVariants(const FieldSource &source, Lists &lists)
         if (variant != osg::NullFC)
             list.elements.push_back({ QString::number(list.elements.size()), variant });
     }
-    lists.push_back(list);
+    lists.push_back(std::move(list));
 }
