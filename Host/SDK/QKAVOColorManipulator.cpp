@@ -29,7 +29,7 @@ QPixmap swatch(const QColor &color, const QSize &size, const QPaintDevice &devic
     return pixmap;
 }
 
-}
+} // namespace
 
 QKAVOColorManipulator::QKAVOColorManipulator(QWidget *parent, const char *name)
     : QWidget(parent)

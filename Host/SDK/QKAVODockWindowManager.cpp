@@ -80,7 +80,7 @@ ads::CDockManager *createDocks(QMainWindow *mainWindow)
     return new ads::CDockManager(mainWindow);
 }
 
-}
+} // namespace
 
 QKAVODockWindowManager::QKAVODockWindowManager(QMainWindow *mainWindow)
     : QObject(mainWindow)

@@ -13,7 +13,7 @@ class QMenu;
 namespace ads {
 class CDockManager;
 class CDockWidget;
-}
+} // namespace ads
 
 /// Turns widgets into dockable windows of the host's main window.
 ///

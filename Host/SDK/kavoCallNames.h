@@ -9,4 +9,4 @@ constexpr char updateMatRender[] = "updateMatRender";
 /// Called by the host to show a material. Attribute "material": exactly an osg::MaterialPtr.
 constexpr char updateNodeEditorByMaterial[] = "updateNodeEditorByMaterial";
 
-}
+} // namespace kavoCallNames

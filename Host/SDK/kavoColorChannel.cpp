@@ -15,7 +15,7 @@ constexpr int sliderPage = 50;
 // Six linear stretches reproduce every hue exactly, and any other component anyway.
 constexpr int gradientStretches = 6;
 
-}
+} // namespace
 
 double kavoColorChannel::Part::value(const kavoHsvColor &color) const
 {

@@ -41,7 +41,7 @@ bool operator!=(const kavoHsvColor &a, const kavoHsvColor &b)
     return std::tie(a.hue, a.saturation, a.value) != std::tie(b.hue, b.saturation, b.value);
 }
 
-}
+} // namespace
 
 kavoColorPopup::kavoColorPopup(QWidget *parent)
     : QFrame(parent, Qt::Popup)

@@ -11,7 +11,7 @@ class ColorLineEdit;
 class ColorPreview;
 class ColorWheel;
 class Swatch;
-}
+} // namespace color_widgets
 class QGridLayout;
 class QLabel;
 class QLayout;

@@ -15,7 +15,7 @@ double hueSector(const kavoRgbColor &color, double largest, double range)
     return (color.red - color.green) / range + 4;
 }
 
-}
+} // namespace
 
 kavoHsvColor toHsv(const kavoRgbColor &color, double hueOfGrey)
 {

@@ -47,7 +47,7 @@ template <class Function> void forEachModule(Function function)
     }
 }
 
-}
+} // namespace
 
 QWidget *kavoController::getMainWindow()
 {

@@ -20,4 +20,4 @@ constexpr char cameras[] = "application/kavo-camera-item";
 /// The bytes to put under one of the formats, ids in the order given.
 KAVO_SDK_EXPORT QByteArray payload(const QVector<qint32> &ids);
 
-}
+} // namespace kavoDragFormats

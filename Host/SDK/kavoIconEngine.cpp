@@ -17,7 +17,7 @@ QColor textColor(QIcon::Mode mode)
         mode == QIcon::Selected ? QPalette::HighlightedText : QPalette::WindowText);
 }
 
-}
+} // namespace
 
 kavoIconEngine::kavoIconEngine(const QString &file)
     : m_file(file)

@@ -57,7 +57,7 @@ void write(kavoLog::Level level, const char *format, va_list arguments)
         observer.second(entry);
 }
 
-}
+} // namespace
 
 void kavoLog::error(const char *format, ...)
 {

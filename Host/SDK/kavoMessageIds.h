@@ -15,4 +15,4 @@ constexpr int sceneGraphChanged = 0x1000;
 /// kavoScenegraph::getSelectedNode() gives a new answer. No attributes.
 constexpr int selectionChanged = 0x80000;
 
-}
+} // namespace kavoMessageIds

@@ -11,7 +11,7 @@ std::vector<kavoModuleBase *> &registry()
     return *modules;
 }
 
-}
+} // namespace
 
 kavoModuleBase::kavoModuleBase(
     const char *name, const char *group, unsigned int messageMask, QPixmap *icon)

@@ -17,7 +17,7 @@ const char *attachedName(const osg::AttachmentContainerPtr &container)
     return static_cast<osg::Name *>(found.getCPtr())->getFieldPtr()->getValue().c_str();
 }
 
-}
+} // namespace
 
 const char *kavoNodeUtils::getName(const osg::NodePtr &node)
 {

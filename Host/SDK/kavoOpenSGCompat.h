@@ -49,7 +49,7 @@ template <class Handle> bool setChangesIgnored(bool, long)
     return false;
 }
 
-}
+} // namespace detail
 
 /// Target of a pointer field, whatever its handle type.
 /// \param field its content type must be a handle
@@ -75,4 +75,4 @@ inline bool setChangesIgnored(bool ignored)
     return detail::setChangesIgnored<osg::FieldContainerPtr>(ignored, 0);
 }
 
-}
+} // namespace kavoOpenSG

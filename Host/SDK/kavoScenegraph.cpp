@@ -37,7 +37,7 @@ void announceSelection()
     kavoController::sendMessage(nodeShown);
 }
 
-}
+} // namespace
 
 kavoNodePtr kavoScenegraph::getSelectedNode()
 {

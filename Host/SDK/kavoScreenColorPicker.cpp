@@ -17,7 +17,7 @@ constexpr int side = (2 * reach + 1) * zoom;
 constexpr int captionHeight = 22;
 constexpr int distance = 18;
 
-}
+} // namespace
 
 bool kavoScreenColorPicker::isAvailable()
 {

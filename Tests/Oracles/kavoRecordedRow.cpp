@@ -31,7 +31,7 @@ kavoRecordedRow recordRow(const kavoFCEditorWidget &editor, QtProperty &property
     return row;
 }
 
-}
+} // namespace
 
 kavoRecordedRow kavoRecordedRow::record(const kavoFCEditorWidget &editor)
 {

@@ -11,7 +11,7 @@
 
 namespace {
 
-// 0 to 255, truncated. QColor refuses components outside of that.
+// Truncates to 0 to 255, because QColor rejects other components.
 int swatchComponent(float component)
 {
     return std::isnan(component) ? 0 : int(std::clamp(component, 0.0f, 1.0f) * 255);
@@ -30,8 +30,7 @@ QPixmap swatch(const colorVal &color)
     QPixmap pixmap(w, height);
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
-    // Deliberate: the rectangle keeps its full height, so that a wide indicator cuts off its
-    // bottom.
+    // Deliberate: the rectangle keeps its full height, so a wide indicator cuts off its bottom.
     painter.translate(0, h < w ? (w - h) / 2 : 0);
     painter.setBrush(
         QColor(swatchComponent(color.r), swatchComponent(color.g), swatchComponent(color.b), 255));
@@ -40,13 +39,14 @@ QPixmap swatch(const colorVal &color)
     return pixmap;
 }
 
-// Deliberate: a hue of 360 or more stays just below the last sector's end instead of wrapping to 0.
+// Deliberate: a hue of 360 or more stays just below the end of the last sector and does not wrap to
+// 0.
 float sectorPosition(float hue)
 {
     return std::max(0.0f, hue >= 360 ? 5.999833f : hue / 60);
 }
 
-}
+} // namespace
 
 // QtKavoColorPropertyManager
 
@@ -59,7 +59,7 @@ QtKavoColorPropertyManager::QtKavoColorPropertyManager(QObject *parent)
 
 QtKavoColorPropertyManager::~QtKavoColorPropertyManager()
 {
-    qDeleteAll(properties()); // clear() copies the set for every row in it
+    qDeleteAll(properties()); // clear() would copy the set for every row
     delete d_ptr;
 }
 
@@ -74,8 +74,8 @@ void QtKavoColorPropertyManager::setValue(QtProperty *property, colorVal value)
     const auto it = d_ptr->m_values.find(property);
     if (it == d_ptr->m_values.end())
         return;
-    // Deliberate: setting the same value signals again, for the field behind the property may have
-    // changed meanwhile.
+    // Deliberate: setting the same value signals again, because the field behind the property may
+    // have changed.
     it->second.val = value;
     emit propertyChanged(property);
     emit valueChanged(property, value);
@@ -110,7 +110,7 @@ void QtKavoColorPropertyManager::uninitializeProperty(QtProperty *property)
 
 // QtKavoColorEditorFactoryPrivate
 
-// Deliberate: a change from elsewhere does not move a picker that the user is working with.
+// Deliberate: a change made elsewhere does not move an open picker.
 void QtKavoColorEditorFactoryPrivate::slotPropertyChanged(QtProperty *, colorVal)
 {
 }
@@ -185,8 +185,9 @@ QWidget *QtKavoColorEditorFactory::createEditor(
     return editor;
 }
 
-// Deliberate: Qt finds no signal by a signature with a parameter name and says so. The connection
-// stays until one side is destroyed, which does no harm while the slot does nothing.
+// Deliberate: Qt does not accept parameter names in signatures, so it warns and disconnects
+// nothing. The connection stays until one side is destroyed. It does no harm, because the slot is
+// empty.
 void QtKavoColorEditorFactory::disconnectPropertyManager(QtKavoColorPropertyManager *manager)
 {
     disconnect(manager, "2valueChanged(QtProperty *property, colorVal)", this,

@@ -2,19 +2,19 @@
 
 #include <qtpropertybrowser.h>
 
-/// A colour as a colour field of the scene holds it. No range is enforced.
+/// The value of a colour field. No range is enforced.
 struct colorVal
 {
-    float r; ///< red, 0 to 1
-    float g; ///< green, 0 to 1
-    float b; ///< blue, 0 to 1
-    float a; ///< alpha, 0 to 1; 1 when set through the editor
+    float r; ///< 0 to 1
+    float g; ///< 0 to 1
+    float b; ///< 0 to 1
+    float a; ///< 0 to 1; always 1 after an edit
 };
 
 class QtKavoColorPropertyManagerPrivate;
 
-/// Holds one colour per property and shows it as a swatch and its four components. A new property
-/// is opaque black.
+/// Property manager for colours. Shows a swatch and the four components. A new property is opaque
+/// black.
 class QtKavoColorPropertyManager : public QtAbstractPropertyManager
 {
     Q_OBJECT
@@ -22,7 +22,7 @@ public:
     explicit QtKavoColorPropertyManager(QObject *parent = nullptr);
     ~QtKavoColorPropertyManager() override;
 
-    /// All zero for a property of another manager.
+    /// Returns zeros for a property of another manager.
     colorVal value(const QtProperty *property) const;
 
 public Q_SLOTS:
@@ -30,7 +30,7 @@ public Q_SLOTS:
     void setValue(QtProperty *property, colorVal value);
 
 Q_SIGNALS:
-    /// Emitted by every setValue() of a property held, also when the value stays the same.
+    /// Emitted by every setValue(), even if the value stays the same.
     void valueChanged(QtProperty *property, colorVal value);
 
 protected:
@@ -47,8 +47,8 @@ private:
 
 class QtKavoColorEditorFactoryPrivate;
 
-/// Edits colours with the host's colour picker. A picker that is open keeps its colour when the
-/// property changes from elsewhere.
+/// Editor factory that creates the host's colour picker. An open picker ignores changes of the
+/// property that are made elsewhere.
 class QtKavoColorEditorFactory : public QtAbstractEditorFactory<QtKavoColorPropertyManager>
 {
     Q_OBJECT

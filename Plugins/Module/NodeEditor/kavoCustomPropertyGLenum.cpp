@@ -36,7 +36,7 @@ void select(QComboBox *editor, unsigned int value)
         editor->findData(value, Qt::UserRole, Qt::MatchExactly | Qt::MatchCaseSensitive));
 }
 
-}
+} // namespace
 
 // QtGLenumPropertyManagerPrivate
 
@@ -60,7 +60,7 @@ QtGLenumPropertyManager::QtGLenumPropertyManager(QObject *parent)
 
 QtGLenumPropertyManager::~QtGLenumPropertyManager()
 {
-    qDeleteAll(properties()); // clear() copies the set for every row in it
+    qDeleteAll(properties()); // clear() would copy the set for every row
     delete d_ptr;
 }
 
@@ -75,8 +75,8 @@ void QtGLenumPropertyManager::setValue(QtProperty *property, unsigned int value)
     const auto it = d_ptr->m_values.find(property);
     if (it == d_ptr->m_values.end())
         return;
-    // Deliberate: setting the same value signals again, for the field behind the property may have
-    // changed meanwhile.
+    // Deliberate: setting the same value signals again, because the field behind the property may
+    // have changed.
     it->second.val = value;
     emit propertyChanged(property);
     emit valueChanged(property, value);
@@ -110,7 +110,7 @@ void QtGLenumEditorFactoryPrivate::slotPropertyChanged(QtProperty *property, uns
 
 void QtGLenumEditorFactoryPrivate::slotSetValue(unsigned int index)
 {
-    // -1, as an unsigned number: the combo box is being cleared and nobody chose anything.
+    // The index is -1 while the combo box is being cleared. Nobody has chosen a value then.
     if (static_cast<int>(index) < 0)
         return;
     auto *editor = qobject_cast<QComboBox *>(q_ptr->sender());
@@ -155,8 +155,8 @@ QWidget *QtGLenumEditorFactory::createEditor(
         editor->addItem(QIcon(), enumName(value, QStringLiteral("unknown")), value);
     select(editor, current);
 
-    // Qt refuses to connect a signal that carries an int to a slot that takes an unsigned int by
-    // their signatures. With the factory as context sender() is still the combo box.
+    // Signatures cannot connect a signal with an int to a slot with an unsigned int. With the
+    // factory as context, sender() is still the combo box.
     connect(editor, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
         [this](int index) { d_ptr->slotSetValue(static_cast<unsigned int>(index)); });
     connect(editor, SIGNAL(destroyed(QObject *)), this, SLOT(slotEditorDestroyed(QObject *)));

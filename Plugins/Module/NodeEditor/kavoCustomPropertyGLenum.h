@@ -4,8 +4,8 @@
 
 class QtGLenumPropertyManagerPrivate;
 
-/// Holds one OpenGL enumeration value per property and shows it by its name. A new property has the
-/// value 0xFFFFFFFF, which has no name.
+/// Property manager for OpenGL enumeration values. Shows the name of the value. A new property has
+/// the value 0xFFFFFFFF, which has no name.
 class QtGLenumPropertyManager : public QtAbstractPropertyManager
 {
     Q_OBJECT
@@ -13,15 +13,15 @@ public:
     explicit QtGLenumPropertyManager(QObject *parent = nullptr);
     ~QtGLenumPropertyManager() override;
 
-    /// 0 for a property of another manager.
+    /// Returns 0 for a property of another manager.
     unsigned int value(const QtProperty *property) const;
 
 public Q_SLOTS:
-    /// Ignores a property of another manager. Any value is held, whether it has a name or not.
+    /// Ignores a property of another manager. Accepts values without a name.
     void setValue(QtProperty *property, unsigned int value);
 
 Q_SIGNALS:
-    /// Emitted by every setValue() of a property held, also when the value stays the same.
+    /// Emitted by every setValue(), even if the value stays the same.
     void valueChanged(QtProperty *property, unsigned int value);
 
 protected:
@@ -37,9 +37,9 @@ private:
 
 class QtGLenumEditorFactoryPrivate;
 
-/// Edits OpenGL enumeration values with a combo box that offers the values allowed for the field
-/// whose name the property carries. For other names it offers the first group of constants that
-/// holds the property's value.
+/// Editor factory that creates combo boxes. A combo box offers the values that are allowed for the
+/// field with the property's name. If there is no such field, it offers the first group of
+/// constants that contains the property's value.
 class QtGLenumEditorFactory : public QtAbstractEditorFactory<QtGLenumPropertyManager>
 {
     Q_OBJECT

@@ -13,10 +13,10 @@ constexpr unsigned int minFilters[] = { 0x2600, 0x2601, 0x2700, 0x2701, 0x2702, 
 
 constexpr unsigned int magFilters[] = { 0x2600, 0x2601 };
 
-// The last three are the clamp modes to border and to edge and the mirrored repeat.
+// The last three are clamp to border, clamp to edge and mirrored repeat.
 constexpr unsigned int wraps[] = { 0x2900, 0x2901, 0x812D, 0x812F, 0x8370 };
 
-// 0x8570: combine.
+// 0x8570 is combine.
 constexpr unsigned int envModes[] = { 0x0BE2, 0x1E01, 0x2100, 0x2101, 0x8570 };
 
 constexpr unsigned int internalFormats[] = {
@@ -39,14 +39,14 @@ constexpr unsigned int sourceFactors[]
 constexpr unsigned int destinationFactors[]
     = { 0x0000, 0x0001, 0x0300, 0x0301, 0x0302, 0x0303, 0x0304, 0x0305, 0x0306, 0x0307 };
 
-// Deliberate: the logic operations, not the blend equations.
+// Deliberate: logic operations, not blend equations.
 constexpr unsigned int equations[] = { 0x0000, 0x1500, 0x1501, 0x1502, 0x1503, 0x1504, 0x1505,
     0x1506, 0x1507, 0x1508, 0x1509, 0x150A, 0x150B, 0x150C, 0x150D, 0x150E, 0x150F };
 
 constexpr unsigned int alphaFuncs[]
     = { 0x0000, 0x0200, 0x0201, 0x0202, 0x0203, 0x0204, 0x0205, 0x0206, 0x0207 };
 
-// The last two are the normal map and the reflection map.
+// The last two are normal map and reflection map.
 constexpr unsigned int genFuncs[] = { 0x0000, 0x2400, 0x2401, 0x2402, 0x8511, 0x8512 };
 
 constexpr struct
@@ -73,7 +73,7 @@ constexpr struct
     { "genFuncQ", genFuncs },
 };
 
-}
+} // namespace
 
 void setupGLenumMap(
     std::map<unsigned int, QString> &enumToName, std::vector<std::set<unsigned int>> &groups)

@@ -14,7 +14,7 @@ class QtGLenumPropertyManagerPrivate
     QtGLenumPropertyManager *q_ptr;
     Q_DECLARE_PUBLIC(QtGLenumPropertyManager)
 public:
-    // The read-only tables that all managers and factories share.
+    // Read-only tables that all managers and factories share.
     struct EnumData
     {
         EnumData();

@@ -23,7 +23,7 @@ constexpr Constant comparisonFunctions[] = {
     { 0x0207, "GL_ALWAYS" },
 };
 
-// Deliberate: entered as 0, not as its bit mask, so that value 0 has a group of its own.
+// Deliberate: the value is 0, not the bit mask, so that 0 has a group of its own.
 constexpr Constant allAttributeBits[] = {
     { 0x0000, "GL_ALL_ATTRIB_BITS" },
 };
@@ -905,8 +905,8 @@ constexpr Rows<Constant> groupTable[] = {
     fogSpecularTexturesWin,
 };
 
-}
+} // namespace
 
 constexpr Rows<Rows<Constant>> groups = groupTable;
 
-}
+} // namespace kavoGLenumRows

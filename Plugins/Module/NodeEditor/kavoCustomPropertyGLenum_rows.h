@@ -4,8 +4,7 @@
 
 namespace kavoGLenumRows {
 
-// A constant array without its length in the type, so that arrays of different lengths can stand
-// in one table.
+// Refers to a constant array of any length, so that arrays of different lengths fit into one table.
 template <class Row> struct Rows
 {
     template <std::size_t N>
@@ -28,9 +27,8 @@ struct Constant
     const char *name;
 };
 
-// The constants of the OpenGL 1.1 header in its order, cut into groups, then those of the
-// extensions. The values are literals: which constants a platform's header knows must not change
-// what the editor offers.
+// The groups of constants: those of the OpenGL 1.1 header in its order, then those of the
+// extensions. The values are literals, so that they do not depend on the header of the platform.
 extern const Rows<Rows<Constant>> groups;
 
-}
+} // namespace kavoGLenumRows

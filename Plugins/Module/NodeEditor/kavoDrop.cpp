@@ -47,7 +47,7 @@ osg::NodePtr onlyNode(const QByteArray &payload)
     return node != osg::NullFC && node->getCore() != osg::NullFC ? node : osg::NodePtr();
 }
 
-// A drag of several materials shows nothing, deliberately. A group without a material empties the
+// Deliberate: a drag of several materials shows nothing. A group without a material empties the
 // editor.
 std::optional<Dropped> materialOf(const QByteArray &payload)
 {

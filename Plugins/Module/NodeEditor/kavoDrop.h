@@ -8,20 +8,20 @@
 
 class QMimeData;
 
-/// Reads what the host's views put on a drag (kavoDragFormats).
+/// Reads the data that the host's views put on a drag (kavoDragFormats).
 namespace kavoDrop {
 
 struct Dropped
 {
-    QString name; ///< to show the container under
-    osg::FieldContainerPtr container; ///< null empties the editor
+    QString name; ///< for the title of the top row
+    osg::FieldContainerPtr container; ///< may be null
 };
 
 /// Returns whether the data holds one of the formats.
 bool isAccepted(const QMimeData &data);
 
-/// Returns what a drop of the data shows: a material, then a light, then a camera. Formats that are
-/// missing and payloads that cannot be used add nothing.
+/// Returns the containers that a drop of the data shows one after the other: a material, a light, a
+/// camera. Skips formats that are missing or whose payload is not usable.
 std::vector<Dropped> containersOf(const QMimeData &data);
 
 } // namespace kavoDrop

@@ -7,9 +7,10 @@
 
 #include <algorithm>
 
-/// Knows the editors that are open for each property. Base of the private parts of the editor
-/// factories. The component has a template EditorFactoryPrivate with the same members inside; this
-/// one needs another name, because its functions differ.
+/// Registers the open editors of each property. Base of the private parts of the editor factories.
+///
+/// The component has an internal template EditorFactoryPrivate with the same members but other
+/// functions. This one needs a name of its own.
 template <class Editor> class kavoEditorFactoryPrivate
 {
 public:
@@ -31,8 +32,9 @@ Editor *kavoEditorFactoryPrivate<Editor>::createEditor(QtProperty *property, QWi
     return editor;
 }
 
-// An editor may outlive its property, for a browser closes editors with a delay and a manager may
-// be destroyed without any browser. It is forgotten then, so that nobody reads the dead property.
+// An editor may outlive its property: a browser closes editors with a delay, and a manager may be
+// destroyed without any browser. Such an editor is removed here, so that nobody reads the destroyed
+// property.
 template <class Editor>
 void kavoEditorFactoryPrivate<Editor>::initializeEditor(QtProperty *property, Editor *editor)
 {

@@ -30,7 +30,7 @@
 
 namespace {
 
-// Ends an edit as OpenSG does. Allows for a thread without a change list and for the ignore-change
+// Ends an edit as endEditCP() does, but works without a change list and respects the ignore-change
 // switch.
 void endEdit(const osg::FieldContainerPtr &container, osg::BitVector mask)
 {
@@ -46,7 +46,8 @@ kavoFCEditorWidget::kavoFCEditorWidget(QWidget *parent, const char *)
     : QtTreePropertyBrowser(parent)
 {
     m_variantManager = new kavoVariantPropertyManager;
-    // Makes the table behind all variant rows, so that it outlives widgets of static objects.
+    // Creates the component's static table of variant rows first, so that it is destroyed after
+    // static objects that own widgets.
     m_variantManager->value(nullptr);
     connect(m_variantManager, SIGNAL(valueChanged(QtProperty *, const QVariant &)), this,
         SLOT(valueChanged(QtProperty *, const QVariant &)));
@@ -77,20 +78,22 @@ kavoFCEditorWidget::kavoFCEditorWidget(QWidget *parent, const char *)
 
 kavoFCEditorWidget::~kavoFCEditorWidget()
 {
-    // The component remembers a browser by its address until it is told otherwise.
+    // The component keeps pointers to a browser until its factories are unset.
     unsetFactoryForManager(m_variantManager);
     unsetFactoryForManager(m_enumManager);
     deleteAllRows();
     delete m_variantManager;
     delete m_enumManager;
-    // The factory of colours cannot be disconnected without a warning, but knows when they go.
+    // Disconnecting the colour factory would print a warning, so the pointer is removed once the
+    // manager is gone.
     connect(m_colorManager, &QObject::destroyed, this,
         [this] { unsetFactoryForManager(m_colorManager); });
     delete m_colorManager;
 }
 
-// The view hears nothing of the single rows and lays them all out at the end: it would lay out the
-// open top row anew for each row in it, and look for the place of each text that is set.
+// The view gets no signals while the tree is filled and lays out all rows at the end. Otherwise it
+// would lay out the open top row again for each row in it and search for every row whose text is
+// set.
 void kavoFCEditorWidget::setFC(const QString &name, osg::FieldContainerPtr fc)
 {
     deleteAllRows();
@@ -106,9 +109,8 @@ void kavoFCEditorWidget::setFC(const QString &name, osg::FieldContainerPtr fc)
     setFC(nullptr, fc, name, false);
 }
 
-// What was typed and not finished arrives when its editor closes: nothing is bound any more then.
-// The view forgets all rows at once. It would look at those that are open or span both columns for
-// each one that goes.
+// Clears the bindings first: a row editor that closes here still sends the text typed so far.
+// Resets the view first: it would search its open and spanned rows for every row that is removed.
 void kavoFCEditorWidget::deleteAllRows()
 {
     m_bindings.clear();
@@ -122,9 +124,9 @@ void kavoFCEditorWidget::deleteAllRows()
     deleteRows(rows);
 }
 
-// The manager's own clear() copies the set of all its rows for every row that it deletes, which
-// takes seconds for a big tree; last rows first is the quickest order. The rows of the enumeration
-// and colour managers stay, deliberately: they leave the tree with their groups.
+// The manager's clear() copies the set of its rows for every row that it deletes, which takes
+// seconds in a large tree. Deleting the last rows first is the fastest order. Deliberate: rows of
+// the enumeration and colour managers are not deleted; they leave the tree with their groups.
 void kavoFCEditorWidget::deleteRows(const QList<QtProperty *> &rows)
 {
     for (auto row = rows.rbegin(); row != rows.rend(); ++row) {
@@ -140,7 +142,8 @@ void kavoFCEditorWidget::dragEnterEvent(QDragEnterEvent *event)
         event->acceptProposedAction();
 }
 
-// Deliberate: every format of the drop is shown in turn, so the last one stays.
+// Deliberate: if a drop has several formats, they are shown one after the other and the last one
+// stays.
 void kavoFCEditorWidget::dropEvent(QDropEvent *event)
 {
     kavoGuarded("Showing what was dropped", [&] {
@@ -149,7 +152,7 @@ void kavoFCEditorWidget::dropEvent(QDropEvent *event)
     });
 }
 
-// Rows without a binding stand for no field and are ignored.
+// Ignores rows without a binding.
 void kavoFCEditorWidget::writeBack(QtProperty *property, const QString &value)
 {
     const auto row = m_bindings.find(property);
@@ -183,8 +186,8 @@ void kavoFCEditorWidget::valueChanged(QtProperty *property, unsigned int value)
     writeBack(property, QString::number(value));
 }
 
-// Deliberate: every edit of a colour makes the host render its materials again, even if it was not
-// written. Other edits do not.
+// Deliberate: colour edits, and no others, make the host render its materials again, even if
+// nothing was written.
 void kavoFCEditorWidget::valueChanged(QtProperty *property, colorVal value)
 {
     if (m_building)

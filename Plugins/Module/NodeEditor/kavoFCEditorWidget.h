@@ -17,53 +17,57 @@
 class QtGLenumEditorFactory;
 class QtGLenumPropertyManager;
 
-/// Property tree of one field container: a row per field, and a group per container that it leads
-/// to (core, material, chunks, attachments, ...). Edits are written into the fields at once.
+/// Property tree of one field container: a row per field, and a group per container that its fields
+/// refer to (core, material, chunks, attachments, ...). Edits are written into the fields at once.
 ///
-/// The tree is built anew for every container shown and does not follow changes made elsewhere.
-/// A drop of a material, a light or a camera shows what was dropped. GUI thread only.
+/// The tree is rebuilt for every container shown and does not follow changes made elsewhere. A
+/// material, light or camera that is dropped on the widget replaces the container shown. GUI thread
+/// only.
 class kavoFCEditorWidget : public QtTreePropertyBrowser
 {
     Q_OBJECT
 
 public:
-    /// So many containers are opened one inside the other; several times as many exhaust the stack.
+    /// Maximum number of containers inside one another; several times as many exhaust the stack.
     static constexpr int maxDepth = 2000;
-    /// A tree with this many rows of fields opens no more containers. The title of the first one
-    /// that stays closed says so, and the log does once per tree. The time that the component takes
-    /// to delete rows grows with the square of their number.
+    /// Maximum number of field rows. A tree that has reached it opens no more containers; the title
+    /// of the first unopened one says so, and the log says it once per tree. The time that the
+    /// component takes to delete rows grows with the square of their number.
     static constexpr std::size_t maxRows = 50000;
 
-    /// \param name accepted for the host's widget convention and not used
+    /// \param name unused; the host's widgets have this parameter
     kavoFCEditorWidget(QWidget *parent, const char *name);
     ~kavoFCEditorWidget() override;
 
-    /// Shows a container, from its top row on, in place of what was shown; null empties the tree.
-    /// \param name stands before the container's type in the title of the top row
+    /// Replaces the tree by that of another container; null empties it.
+    /// \param name first part of the top row's title
     void setFC(const QString &name, osg::FieldContainerPtr fc);
-    /// Adds a container with its fields below a row, or as top row if parent is null. Follows
-    /// pointer fields; links back to owners are cut off. Fills lists of containers last. A
-    /// container inside itself, one deeper than maxDepth and one beyond maxRows gets its title
-    /// only. \param expand whether the new row is open; a top row always is
+    /// Adds a container and its fields below a row, or as top row if `parent` is null. Follows
+    /// pointer fields except those to owners. Fills lists of containers last. A container inside
+    /// itself, below maxDepth or beyond maxRows gets its title only.
+    /// \param expand whether the new row is open; ignored for a top row, which is always open
     void setFC(QtProperty *parent, osg::FieldContainerPtr fc, const QString &name, bool expand);
-    /// The same without fields: the container's title, with a node's name, is all.
+    /// Adds the title of a container without its fields. The title includes the name of a node.
     void setFCnr(QtProperty *parent, osg::FieldContainerPtr fc, const QString &name, bool expand);
 
-    /// Closes the first item of a row. \returns the item, null if the row is not in the tree
+    /// Closes the first item of a row.
+    /// \returns the item, null if the row is not in the tree
     QtBrowserItem *collapseProperty(QtProperty *property);
 
-    /// Makes the row of a field.
-    /// \param typeName name of the field's type, which decides on the kind of row; its tooltip
-    /// \param valueText the field's text, or what is to stand in its place
+    /// Creates the row of a field.
+    /// \param typeName name of the field's type, which decides on the kind of row and becomes its
+    ///     tooltip
+    /// \param valueText the field's text, or a text to show instead
     QtProperty *createPropertyItem(
         const QString &name, const QString &typeName, const QString &valueText);
-    /// Makes a group of rows from the numbers of a text, one for each of the comma-separated names.
+    /// Creates a group with one row per number of the text.
     /// \param propertyType QVariant type of the rows
+    /// \param subNames titles of the rows, separated by commas
     template <class T>
     QtVariantProperty *createPropertyList(const QString &name, const QString &typeName,
         int propertyType, const QString &valueText, const QString &subNames);
-    /// The numbers of real lists, vectors and points with up to 6 digits, separated by ", ". Text
-    /// of other types comes back as it is.
+    /// Returns the numbers of real lists, vectors and points with up to 6 digits, separated by ",
+    /// ". Returns the text of other types unchanged.
     static QString beautifyFloats(const QString &typeName, const QString &valueText);
 
 public slots:
@@ -76,8 +80,8 @@ protected:
     void dropEvent(QDropEvent *event) override;
 
 private:
-    /// The field that a row stands for. The container is known by its id, for it may be gone when
-    /// an edit arrives.
+    /// The field behind a row. Holds the id of the container, because the container may be gone
+    /// when an edit arrives.
     struct FieldBinding
     {
         osg::UInt32 containerId;
@@ -118,6 +122,6 @@ private:
     QtKavoColorEditorFactory *m_colorFactory = nullptr;
     bool m_building = false;
     std::map<QtProperty *, FieldBinding> m_bindings;
-    QVector<osg::UInt32> m_path; ///< ids of the containers being filled, the outermost first
+    QVector<osg::UInt32> m_path; ///< ids of the containers that are being filled, outermost first
     bool m_isCut = false; ///< the tree has reached maxRows and says so
 };

@@ -23,8 +23,9 @@ struct RowType
     double maximum = 0;
 };
 
-// Which field type gets which kind of row, with the range of its numbers; any other type is a line
-// of text. A 32-bit unsigned number is held by its bits as a signed one, so that all of them fit.
+// Kind of row and range of numbers for each field type. All other types get a text row. An unsigned
+// 32-bit number is stored as the signed number with the same bits, because the manager has no
+// unsigned type.
 const QHash<QString, RowType> rowTypes {
     { "SFBool", { RowKind::Flag } },
     { "SFInt8", { RowKind::Integer, SCHAR_MIN, SCHAR_MAX } },
@@ -43,10 +44,9 @@ const QHash<QString, RowType> rowTypes {
     { "SFColor4f", { RowKind::Color } },
 };
 
-// The numbers of boxes and quaternions.
+// Range of the numbers in boxes and quaternions.
 constexpr RowType componentType { RowKind::Real, -FLT_MAX, FLT_MAX };
 
-// What a row is made of.
 struct RowSource
 {
     const QString &name;
@@ -54,7 +54,7 @@ struct RowSource
     const QString &valueText;
 };
 
-// The streams' numbers are those of the library's text, whatever the language of the program.
+// The library writes numbers in the C locale.
 std::istringstream numbersOf(const RowSource &source)
 {
     std::istringstream numbers(source.valueText.toStdString());
@@ -62,7 +62,7 @@ std::istringstream numbersOf(const RowSource &source)
     return numbers;
 }
 
-// Lets a row hold every value of its type; the manager's own range is that of an int.
+// Sets the range of the field type. The manager's default range is that of an int.
 void setRange(QtVariantProperty *row, const RowType &type)
 {
     row->setAttribute("minimum", type.minimum);
@@ -70,7 +70,7 @@ void setRange(QtVariantProperty *row, const RowType &type)
         row->setAttribute("maximum", type.maximum);
 }
 
-// Only single fields have a row that takes one value of a kind.
+// Rows of multi fields would be disabled here. Only single fields have rows of these kinds.
 QtProperty *finishRow(QtVariantProperty *row, const RowSource &source)
 {
     row->setValue(source.valueText);
@@ -121,7 +121,7 @@ QtProperty *makeEnumRow(QtGLenumPropertyManager &manager, const RowSource &sourc
     return row;
 }
 
-// The text of a three-component colour has no alpha.
+// Alpha is 1 for a colour with three components.
 QtProperty *makeColorRow(QtKavoColorPropertyManager &manager, const RowSource &source)
 {
     QtProperty *row = manager.addProperty(source.name);
@@ -135,7 +135,7 @@ QtProperty *makeColorRow(QtKavoColorPropertyManager &manager, const RowSource &s
     return row;
 }
 
-}
+} // namespace
 
 QtProperty *kavoFCEditorWidget::createPropertyItem(
     const QString &name, const QString &typeName, const QString &valueText)

@@ -16,7 +16,7 @@
 #include <utility>
 #include <vector>
 
-// A field on its way into the tree: where it comes from and the group that it goes into.
+// A field, and the group that its row is added to.
 struct kavoFCEditorWidget::FieldSource
 {
     QtProperty *group;
@@ -27,14 +27,13 @@ struct kavoFCEditorWidget::FieldSource
     QString typeName;
 };
 
-// A container of a list, and its label.
 struct kavoFCEditorWidget::Element
 {
     QString label;
     osg::FieldContainerPtr container;
 };
 
-// A group of containers that have not been added yet.
+// A group and the containers to add to it.
 struct kavoFCEditorWidget::List
 {
     QtProperty *group;
@@ -43,9 +42,9 @@ struct kavoFCEditorWidget::List
 
 namespace {
 
-// Fields that lead back to an owner: their row shows the owner's id.
+// Pointers to owners, which are not followed. Their rows show the owner's id.
 const QSet<QString> backLinks { "parent", "parents", "childs", "associated" };
-// Fields whose target is opened in the tree.
+// Pointers whose target is expanded in the tree.
 const QSet<QString> openedLinks { "core", "material" };
 
 QString titleOf(const osg::FieldContainerPtr &fc, const QString &name)
@@ -53,7 +52,7 @@ QString titleOf(const osg::FieldContainerPtr &fc, const QString &name)
     return name + ' ' + fc->getTypeName() + " (" + QString::number(fc.getFieldContainerId()) + ')';
 }
 
-// The title of a container without rows, which names a node.
+// Includes the name of a node, whose Name attachment is not shown.
 QString shallowTitleOf(const osg::FieldContainerPtr &fc, const QString &name)
 {
     const osg::NodePtr node = osg::NodePtr::dcast(fc);
@@ -61,7 +60,7 @@ QString shallowTitleOf(const osg::FieldContainerPtr &fc, const QString &name)
     return kavoNodeUtils::hasName(node) ? title + " name:" + kavoNodeUtils::getName(node) : title;
 }
 
-}
+} // namespace
 
 void kavoFCEditorWidget::setFC(
     QtProperty *parent, osg::FieldContainerPtr fc, const QString &name, bool expand)
@@ -80,7 +79,7 @@ void kavoFCEditorWidget::setFC(
     finishGroup(group, expand);
 }
 
-// The lists are filled last: core and material must not find all rows of the tree used up.
+// Fills the lists last, so that they cannot use up the rows that core and material need.
 void kavoFCEditorWidget::addFields(QtProperty *group, const osg::FieldContainerPtr &fc)
 {
     Lists lists;
@@ -106,7 +105,7 @@ void kavoFCEditorWidget::setFCnr(
         finishGroup(addGroup(parent, shallowTitleOf(fc, name)), expand);
 }
 
-// The first of these containers says that the tree is not complete.
+// The title of the first unopened container says that the tree is incomplete.
 void kavoFCEditorWidget::addUnopened(
     QtProperty *parent, const osg::FieldContainerPtr &fc, const QString &name, bool expand)
 {
@@ -180,7 +179,7 @@ void kavoFCEditorWidget::addAttachments(const FieldSource &source, Lists &lists)
     lists.push_back(std::move(list));
 }
 
-// Shows the target as a group of its own, or gives the text of the row to show instead.
+// Adds a group for the target, or returns the text of a value row.
 kavoFCEditorWidget::RowText kavoFCEditorWidget::addPointer(const FieldSource &source)
 {
     const osg::FieldContainerPtr target = kavoOpenSG::target(source.field);
@@ -192,7 +191,7 @@ kavoFCEditorWidget::RowText kavoFCEditorWidget::addPointer(const FieldSource &so
     return std::nullopt;
 }
 
-// Shows the elements as groups, or gives the text of the row to show instead.
+// Adds groups for the elements, or returns the text of a value row.
 kavoFCEditorWidget::RowText kavoFCEditorWidget::addPointers(const FieldSource &source, Lists &lists)
 {
     const osg::UInt32 size = source.field->getSize();
@@ -219,14 +218,14 @@ void kavoFCEditorWidget::addNodes(const FieldSource &source, Lists &lists)
     lists.push_back(std::move(list));
 }
 
-// Deliberate: chunks have no name and stand directly below their material, open.
+// Deliberate: chunks have no label and are added directly below their material, expanded.
 void kavoFCEditorWidget::addChunks(const FieldSource &source)
 {
     for (osg::UInt32 i = 0; i < source.field->getSize(); ++i)
         setFC(source.group, kavoOpenSG::target(source.field, i), QString(), true);
 }
 
-// Deliberate: null elements are not counted, the labels have no gaps.
+// Deliberate: null elements are not counted, so the labels have no gaps.
 void kavoFCEditorWidget::addVariants(const FieldSource &source, Lists &lists)
 {
     List list { addGroup(source.group, source.name), {} };

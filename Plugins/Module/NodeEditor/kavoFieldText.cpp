@@ -20,7 +20,7 @@ QString typeNameOf(const osg::Field &field)
     return field.getType().getCName();
 }
 
-// The lists that are shown and edited element by element.
+// Lists of numbers are shown and edited element by element.
 bool isNumberList(const QString &typeName)
 {
     return typeName.startsWith(QLatin1String("MFReal"))
@@ -52,8 +52,7 @@ bool isQuoted(const std::string &text)
     return text.size() >= 2 && text.front() == '"' && text.back() == '"';
 }
 
-// The library puts quotes around the string of a field when it writes it, but does not remove them
-// when it reads one.
+// The library writes strings with quotes but reads them without.
 std::string inputFor(const osg::Field &field, const std::string &text)
 {
     if (typeNameOf(field) != "SFString" || !isQuoted(text))
@@ -61,7 +60,7 @@ std::string inputFor(const osg::Field &field, const std::string &text)
     return isQuoted(textOf(field).toStdString()) ? text.substr(1, text.size() - 2) : text;
 }
 
-// The abstract field interface has no clear(). Types without a creator cannot be cleared.
+// osg::Field has no clear(). A type without a creator cannot be cleared.
 bool clear(osg::Field &field)
 {
     const std::unique_ptr<osg::Field> empty(

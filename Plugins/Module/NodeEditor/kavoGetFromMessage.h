@@ -9,13 +9,13 @@
 #include <string>
 #include <typeinfo>
 
-/// Copies an attribute out of a message if it is there and holds exactly a T.
+/// Copies an attribute of type T out of a message.
 ///
-/// Types are compared by name: type records of one type differ between libraries that hide their
-/// symbols, their names do not.
-/// \param value left as it is unless the result is true
-/// \returns false if the attribute is missing, which is nothing unusual, and false, with a line and
-///     the call stack on standard error, if it holds another type
+/// Compares types by name, because libraries that hide their symbols have type records of their own
+/// for the same type.
+/// \param value unchanged if the result is false
+/// \returns false if the attribute is missing or has another type. In the second case it prints the
+///     types and the call stack on standard error.
 template <class T> bool getFromMessage(const kavoMessage &message, const std::string &key, T &value)
 {
     const boost::any &attribute = message.get(key);

@@ -7,7 +7,7 @@ void kavoIntSpinBox::takeUnsigned()
     m_takesUnsigned = true;
 }
 
-// QSpinBox leaves the group separators in the lowest of all numbers.
+// QSpinBox does not remove the group separators of the lowest int.
 QString kavoIntSpinBox::textFromValue(int value) const
 {
     QLocale ungrouped = locale();

@@ -4,8 +4,8 @@
 
 #include <QSpinBox>
 
-/// Spin box for whole numbers that takes a typed number whole or not at all: digits past the range
-/// are not swallowed, the old value comes back instead.
+/// Spin box for whole numbers. Rejects a typed number as a whole if it is out of range, where
+/// QSpinBox would ignore single digits.
 class kavoIntSpinBox : public kavoRowSpinBox<QSpinBox>
 {
     Q_OBJECT
@@ -13,7 +13,8 @@ class kavoIntSpinBox : public kavoRowSpinBox<QSpinBox>
 public:
     using kavoRowSpinBox::kavoRowSpinBox;
 
-    /// Numbers from 2^31 to 2^32 - 1 can be typed as well, for the negative ones of the same bits.
+    /// Also accepts numbers from 2^31 to 2^32 - 1 and stores them as the negative numbers with the
+    /// same bits.
     void takeUnsigned();
 
     QString textFromValue(int value) const override;

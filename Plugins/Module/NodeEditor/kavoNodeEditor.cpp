@@ -20,8 +20,8 @@
 
 namespace {
 
-// The host also sends sceneLoaded and sceneGraphChanged; deliberate, they reach the module only to
-// clear it while its window is hidden.
+// Deliberate: sceneLoaded and sceneGraphChanged have no effect except that they empty the editor
+// while its window is hidden.
 constexpr unsigned int wantedMessages = kavoMessageIds::sceneCleared | kavoMessageIds::sceneLoaded
     | kavoMessageIds::nodeShown | kavoMessageIds::sceneGraphChanged
     | kavoMessageIds::selectionChanged;
@@ -31,9 +31,9 @@ QString titleOf(const osg::NodePtr &node, const QString &name)
     return QStringLiteral(" - %1 (%2)").arg(name, QString::number(node.getFieldContainerId()));
 }
 
-}
+} // namespace
 
-/// The one entry of the library. The module lives from the first call to process exit.
+/// The library's only exported function. The module lives from the first call to process exit.
 extern "C" __attribute__((visibility("default"))) void initPlugin()
 {
     static kavoNodeEditor module;

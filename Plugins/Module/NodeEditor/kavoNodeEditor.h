@@ -10,7 +10,7 @@ class kavoFCEditorWidget;
 class kavoNodeEditorGUIW;
 
 /// The editor module: docks the window, follows the host's selection and shows materials that the
-/// host hands over. While its window is hidden it shows nothing.
+/// host passes to it. Shows nothing while its window is hidden.
 class kavoNodeEditor : public kavoModuleBase
 {
     Q_OBJECT
@@ -21,17 +21,19 @@ public:
 
     QWidget *getWidget() const override;
     void init() override;
-    /// Follows kavoMessageIds::sceneCleared, nodeShown and selectionChanged; always false.
+    /// Handles kavoMessageIds::sceneCleared, nodeShown and selectionChanged.
+    /// \returns false
     bool receivedMessage(kavoMessage &message) override;
 
-    /// The callback "updateNodeEditorByMaterial": shows the attribute "material", an
-    /// osg::MaterialPtr. Ignored while the window is hidden.
+    /// Callback "updateNodeEditorByMaterial": shows the attribute "material", an osg::MaterialPtr.
+    /// Does nothing while the window is hidden.
     static void updateByMaterial(kavoMessage &message);
 
-    /// Shows a node and names it in the window's title; null empties the editor.
+    /// Shows a node and its name in the window's title; null empties the editor.
     void setNode(osg::NodePtr node);
 
-    /// The last module made. Deliberate: never reset, for the module dies at process exit only.
+    /// The module that was created last. Deliberate: never reset, because the module is destroyed
+    /// at process exit only.
     static kavoNodeEditor *_the;
 
 private slots:

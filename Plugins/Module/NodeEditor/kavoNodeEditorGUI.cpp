@@ -1,6 +1,6 @@
 #include "kavoNodeEditorGUI.h"
 
-// Named first: the form names only a nameless window.
+// Sets the name first: the form names only windows without a name.
 kavoNodeEditorGUIW::kavoNodeEditorGUIW(QWidget *parent)
     : QMainWindow(parent)
 {

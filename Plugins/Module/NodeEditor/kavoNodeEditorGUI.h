@@ -4,7 +4,7 @@
 
 #include <QMainWindow>
 
-/// The editor's window, filled by its form; the module puts the editor into the form's _frame.
+/// The editor's window, filled by its form. The module puts the editor into the form's _frame.
 class kavoNodeEditorGUIW : public QMainWindow, public Ui::kavoNodeEditorGUI
 {
     Q_OBJECT
@@ -13,8 +13,8 @@ public:
     explicit kavoNodeEditorGUIW(QWidget *parent);
 
 signals:
-    /// Emitted each time the window is about to be shown. Deliberate: it hides QWidget::show(), so
-    /// that a call of show() on this class announces the window and does not show it.
+    /// Emitted each time before the window is shown. Deliberate: it hides QWidget::show(), so a
+    /// call of show() through this class emits the signal and does not show the window.
     void show();
 
 protected:

@@ -8,24 +8,23 @@
 
 namespace {
 
-// QDoubleSpinBox rounds to its decimals. With as many as a normal double may need it rounds nothing
-// away.
+// QDoubleSpinBox rounds to its number of decimals. This many are enough for every normal double.
 constexpr int allDecimals
     = std::numeric_limits<double>::max_exponent10 + std::numeric_limits<double>::digits10;
 
-// The digits that survive adding a step, so that 0.1 + 0.2 is shown as 0.3.
+// Drops the last digits, so that 0.1 + 0.2 is shown as 0.3.
 double withoutRoundingNoise(double value)
 {
     return QString::number(value, 'g', std::numeric_limits<double>::digits10).toDouble();
 }
 
-// A tenth of the value's magnitude.
+// Returns a tenth of the value's power of ten.
 double stepFor(double value)
 {
     return value == 0 ? 0.1 : std::pow(10, std::floor(std::log10(std::abs(value))) - 1);
 }
 
-}
+} // namespace
 
 kavoRealSpinBox::kavoRealSpinBox(QWidget *parent)
     : kavoRowSpinBox(parent)
@@ -33,8 +32,8 @@ kavoRealSpinBox::kavoRealSpinBox(QWidget *parent)
     setDecimals(allDecimals);
 }
 
-// Steps from what is typed. A run of steps keeps the size of its first one: down from 1 it goes in
-// tenths to 0 and beyond.
+// Steps from the typed number. Consecutive steps have the size of the first one, so stepping down
+// from 1 passes 0 in tenths.
 void kavoRealSpinBox::stepBy(int steps)
 {
     const double from = hasAcceptableInput() ? locale().toDouble(text()) : value();
@@ -50,14 +49,14 @@ QString kavoRealSpinBox::textFromValue(double value) const
     return kavoRealText(value, locale());
 }
 
-// Text that the user left alone stands for the value that it was made from.
+// Unedited text stands for the exact value, of which it may show fewer digits.
 double kavoRealSpinBox::valueFromText(const QString &text) const
 {
     return text == textFromValue(value()) ? value() : locale().toDouble(text);
 }
 
-// Point and comma both are the decimal point here. Taken for a group separator, one of them would
-// turn 0,5 into 5.
+// Both point and comma are decimal points here. As group separator, one of them would turn 0,5 into
+// 5.
 QValidator::State kavoRealSpinBox::validate(QString &text, int &position) const
 {
     text.replace('.', locale().decimalPoint());

@@ -6,9 +6,8 @@
 
 #include <limits>
 
-/// Spin box for real numbers of any magnitude: holds every normal double to its last bit, shows it
-/// by its shortest text (kavoRealText), takes exponents, takes point and comma for the decimal
-/// point.
+/// Spin box for real numbers of any magnitude. Keeps every normal double exactly and shows its
+/// shortest text (kavoRealText). Accepts exponents, and both point and comma as decimal point.
 class kavoRealSpinBox : public kavoRowSpinBox<QDoubleSpinBox>
 {
     Q_OBJECT

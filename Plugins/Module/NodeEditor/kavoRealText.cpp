@@ -7,7 +7,7 @@
 
 namespace {
 
-// A widened Real32 shows the digits of the Real32: 0.1, not 0.10000000149011612.
+// A Real32 shows its own digits: 0.1, not 0.10000000149011612.
 double shortestDecimal(double value)
 {
     if (std::abs(value) > FLT_MAX)
@@ -21,7 +21,7 @@ double shortestDecimal(double value)
     return value;
 }
 
-}
+} // namespace
 
 QString kavoRealText(double value, const QLocale &locale)
 {

@@ -3,6 +3,6 @@
 #include <QLocale>
 #include <QString>
 
-/// How rows and spin boxes write real numbers: the shortest text that reads back as the same
-/// number, fixed or with an exponent, in the given locale, without group separators.
+/// Returns the shortest text that reads back as the same number in the locale, fixed or with an
+/// exponent, without group separators. Rows and spin boxes show numbers in this form.
 QString kavoRealText(double value, const QLocale &locale);

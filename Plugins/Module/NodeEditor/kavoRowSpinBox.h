@@ -3,8 +3,8 @@
 #include <QKeyEvent>
 #include <QWidget>
 
-/// A spin box as editor of a row: tells of a change when the typing is done, not at every key, and
-/// forgets what was typed when the user presses Escape.
+/// Spin box as in-place editor of a row. Signals a change when typing ends, not at every key, and
+/// discards the typed text when the user presses Escape.
 template <class SpinBox> class kavoRowSpinBox : public SpinBox
 {
 public:
@@ -15,8 +15,8 @@ public:
     }
 
 protected:
-    // The view's delegate filters the keys of its editor and closes it at Escape, and a spin box
-    // that loses the focus takes what was typed. The latest filter is the first to be asked.
+    // At Escape the view's delegate closes the editor, and a spin box that loses the focus takes
+    // the typed text. The event filter that was installed last runs first.
     void showEvent(QShowEvent *event) override
     {
         SpinBox::showEvent(event);

@@ -10,7 +10,7 @@
 
 namespace {
 
-// The property may die before the editor; the manager ignores properties that it does not hold.
+// The property may be destroyed before the editor; the manager ignores unknown properties.
 template <class Number, class SpinBox>
 QWidget *bindToRow(SpinBox *editor, QtVariantPropertyManager *manager, QtProperty *property)
 {
@@ -28,7 +28,7 @@ QWidget *bindToRow(SpinBox *editor, QtVariantPropertyManager *manager, QtPropert
     return editor;
 }
 
-// The row of a 32-bit unsigned number holds its bits as a signed one.
+// The row of an unsigned 32-bit field stores its bits as a signed number.
 QWidget *createIntEditor(QtVariantPropertyManager *manager, QtProperty *property, QWidget *parent)
 {
     auto *editor = new kavoIntSpinBox(parent);
@@ -37,7 +37,7 @@ QWidget *createIntEditor(QtVariantPropertyManager *manager, QtProperty *property
     return bindToRow<int>(editor, manager, property);
 }
 
-}
+} // namespace
 
 QWidget *kavoVariantEditorFactory::createEditor(
     QtVariantPropertyManager *manager, QtProperty *property, QWidget *parent)

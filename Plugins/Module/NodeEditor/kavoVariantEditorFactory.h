@@ -2,8 +2,9 @@
 
 #include <qtvariantproperty.h>
 
-/// The variant factory with editors that take and keep every value of a row: the stock ones round
-/// real numbers, cut whole numbers off at the digit that leaves the range, and cut long texts.
+/// Variant editor factory whose editors accept and keep every value of a row. The component's own
+/// editors round real numbers, reject the digit with which a whole number leaves the range, and cut
+/// long texts.
 class kavoVariantEditorFactory : public QtVariantEditorFactory
 {
     Q_OBJECT

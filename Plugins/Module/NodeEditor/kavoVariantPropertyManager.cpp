@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr int longestText = 32767; // that a line edit shows unless told otherwise
+constexpr int longestText = 32767; // default maximum of QLineEdit
 
 bool isShownAsBlank(QChar c)
 {
@@ -16,7 +16,7 @@ bool isShownAsBlank(QChar c)
         || c == QChar::ParagraphSeparator || c == QChar::ObjectReplacementCharacter;
 }
 
-// As a line edit shows it.
+// Returns the text as a line edit shows it.
 QString lineText(const QVariant &value)
 {
     QString text = value.toString().left(longestText);
@@ -24,7 +24,7 @@ QString lineText(const QVariant &value)
     return text;
 }
 
-}
+} // namespace
 
 QString kavoVariantPropertyManager::valueText(const QtProperty *property) const
 {
@@ -38,8 +38,8 @@ QString kavoVariantPropertyManager::valueText(const QtProperty *property) const
     }
 }
 
-// Texts share one expression, which accepts anything and is compiled once. Versions of the
-// component with QRegExp keep theirs.
+// All text rows share one regular expression, which matches anything. Versions of the component
+// that use QRegExp are left alone.
 void kavoVariantPropertyManager::initializeProperty(QtProperty *property)
 {
     static const QString expression = QStringLiteral("regExp");

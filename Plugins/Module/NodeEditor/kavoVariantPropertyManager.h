@@ -2,10 +2,9 @@
 
 #include <qtvariantproperty.h>
 
-/// The variant manager with real numbers shown to their last digit (the stock one rounds them to at
-/// most 13 decimals, so that 1e-20 would show as 0) and with text rows that cost no more than
-/// others (the stock one makes a line edit to find out what it would show, and a regular expression
-/// for each row).
+/// Variant manager that shows real numbers with all digits; the component's own rounds them to at
+/// most 13 decimals. Its text rows are as cheap as others; the component's own creates a line edit
+/// and a regular expression for each.
 class kavoVariantPropertyManager : public QtVariantPropertyManager
 {
     Q_OBJECT

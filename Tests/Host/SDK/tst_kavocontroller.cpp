@@ -84,7 +84,7 @@ QString lastLogLine()
     return QString::fromStdString(kavoLog::history().back().text);
 }
 
-}
+} // namespace
 
 class tst_kavoController : public QObject
 {

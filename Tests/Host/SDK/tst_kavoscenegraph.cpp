@@ -33,7 +33,7 @@ public:
 
 const QList<int> selectionOfANode { kavoMessageIds::selectionChanged, kavoMessageIds::nodeShown };
 
-}
+} // namespace
 
 class tst_kavoScenegraph : public QObject
 {

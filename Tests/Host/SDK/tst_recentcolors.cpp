@@ -24,7 +24,7 @@ QVector<QColor> recentColors()
     return colors;
 }
 
-}
+} // namespace
 
 // The colours that the picker offers again.
 class TestRecentColors : public QObject, private kavoPickerFixture

@@ -17,7 +17,7 @@ template <class Class, class FieldT> const FieldType &fieldTypeOf(FieldT Class::
     return FieldT::getClassType();
 }
 
-}
+} // namespace
 
 bool FieldSampler::accessThrows = false;
 

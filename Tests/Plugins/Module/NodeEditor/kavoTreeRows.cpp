@@ -14,7 +14,7 @@ void collect(QtProperty *property, QList<QtProperty *> &rows)
         collect(sub, rows);
 }
 
-}
+} // namespace
 
 QString titleOf(const char *name, const osg::FieldContainerPtr &container)
 {
@@ -86,4 +86,4 @@ QWidget *edit(kavoFCEditorWidget &editor, const QString &title)
     return view->itemWidget(item, 1);
 }
 
-}
+} // namespace kavoTreeRows

@@ -30,4 +30,4 @@ void setValue(const kavoFCEditorWidget &editor, const QString &title, const QVar
 /// Opens the editor of a row by keyboard. \returns it, null if none opened
 QWidget *edit(kavoFCEditorWidget &editor, const QString &title);
 
-}
+} // namespace kavoTreeRows

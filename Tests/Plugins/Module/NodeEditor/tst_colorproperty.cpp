@@ -44,7 +44,7 @@ QImage swatchOf(const QtProperty &property)
     return icon.pixmap(icon.availableSizes().value(0)).toImage();
 }
 
-}
+} // namespace
 
 using Fixture = kavoEditorFixture<QtKavoColorPropertyManager, QtKavoColorEditorFactory,
     QKAVOColorManipulator, colorVal>;

@@ -63,7 +63,7 @@ QStringList shownRows(const kavoFCEditorWidget &editor)
     return rows;
 }
 
-}
+} // namespace
 
 // Every bound row whose container is gone logs one line when it is edited.
 int TestFCEditorWidget::boundRows(kavoFCEditorWidget &editor, const QList<QtProperty *> &rows)

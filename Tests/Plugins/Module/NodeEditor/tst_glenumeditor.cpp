@@ -19,7 +19,7 @@ QStringList items(const QComboBox &editor)
     return texts;
 }
 
-}
+} // namespace
 
 using Fixture
     = kavoEditorFixture<QtGLenumPropertyManager, QtGLenumEditorFactory, QComboBox, unsigned int>;

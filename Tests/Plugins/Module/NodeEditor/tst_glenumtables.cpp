@@ -70,7 +70,7 @@ std::map<QString, unsigned int> headerConstants(const QString &path)
     return constants;
 }
 
-}
+} // namespace
 
 class TestGLenumTables : public QObject
 {

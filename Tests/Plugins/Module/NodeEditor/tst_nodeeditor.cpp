@@ -23,7 +23,8 @@ public:
     QString translate(
         const char *context, const char *text, const char *disambiguation, int) const override
     {
-        const QString note = disambiguation ? QStringLiteral(", %1").arg(disambiguation) : QString();
+        const QString note
+            = disambiguation ? QStringLiteral(", %1").arg(disambiguation) : QString();
         return QStringLiteral("[%1: %2%3]").arg(context, text, note);
     }
 };

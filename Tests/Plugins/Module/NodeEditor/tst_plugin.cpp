@@ -59,7 +59,7 @@ QStringList exportedSymbols(const QString &file)
     return names;
 }
 
-}
+} // namespace
 
 void TestPlugin::initPluginIsTheOnlyFunctionExported()
 {

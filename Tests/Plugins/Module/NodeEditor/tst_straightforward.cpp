@@ -111,7 +111,7 @@ struct SignalLog
     QStringList lines;
 };
 
-}
+} // namespace
 
 // The quick ways of filling and of emptying the tree end like the straightforward ones.
 class TestStraightforward : public QObject

@@ -22,7 +22,7 @@ namespace {
 const QByteArray constructorLine = "ValuePairCSVCreator::ValuePairCSVCreator\n";
 const QByteArray destructorLine = "ValuePairCSVCreator::~ValuePairCSVCreator\n";
 
-}
+} // namespace
 
 class tst_ValuePairCsv : public QObject
 {

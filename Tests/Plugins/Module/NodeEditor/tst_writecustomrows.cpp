@@ -31,7 +31,7 @@ struct CommaNumbers : std::numpunct<char>
     std::string do_grouping() const override { return "\3"; }
 };
 
-}
+} // namespace
 
 // Edits of enumeration and colour rows.
 class TestWriteCustomRows : public QObject
