@@ -12,11 +12,11 @@ OSG_BEGIN_NAMESPACE
 class AnimNodeBase;
 typedef FCPtr<AttachmentPtr, AnimNodeBase> AnimNodeBasePtr;
 
-/// Attachment that lists the nodes an animation moves. The nodes belong to the scene; the list
-/// holds no references, or a node that is in a list of its own would never die.
+/// Attachment that lists the nodes of an animation. The list holds no references: a node in a list
+/// of its own attachment would never be destroyed.
 ///
-/// It is an attachment and must not become a node core: a core's "parents" are a list of nodes too,
-/// and who follows those of an animation comes round to it again.
+/// This class must not become a node core. A core's "parents" is a list of nodes too, so following
+/// the nodes of an animation would lead back to the core.
 class KAVO_SDK_EXPORT AnimNodeBase : public Attachment
 {
     typedef Attachment Inherited;

@@ -32,12 +32,11 @@ struct KAVO_SDK_EXPORT FieldDataTraits<TransformVariantPtr>
 typedef SField<TransformVariantPtr> SFTransformVariantPtr;
 typedef MField<TransformVariantPtr> MFTransformVariantPtr;
 
-// Libraries that hide their symbols still share one object for each field type.
+// Makes libraries with hidden symbols share one object for each field type.
 template <> KAVO_SDK_EXPORT FieldType SField<TransformVariantPtr>::_fieldType;
 template <> KAVO_SDK_EXPORT FieldType MField<TransformVariantPtr>::_fieldType;
 
-/// One of the places that an object may take: a label for the user and the matrix that puts the
-/// object there.
+/// One possible place of an object: a label and the matrix.
 class KAVO_SDK_EXPORT TransformVariant : public AttachmentContainer
 {
     typedef AttachmentContainer Inherited;

@@ -55,7 +55,8 @@ void TransformVariantList::changed(BitVector which, UInt32 origin)
     Inherited::changed(which, origin);
 }
 
-// The new references come first: what stays in the list must not be destroyed in between.
+// Adds the new references first, so that variants that stay in the list are not destroyed in
+// between.
 void TransformVariantList::holdVariants()
 {
     for (const TransformVariantPtr &variant : _mfVariants)

@@ -12,8 +12,8 @@ OSG_BEGIN_NAMESPACE
 class TransformVariantList;
 typedef FCPtr<AttachmentPtr, TransformVariantList> TransformVariantListPtr;
 
-/// Attachment that holds the transform variants of a node, null elements included. It keeps a
-/// reference to each: from addVariant on, or from the end of an edit of the field.
+/// Attachment with the transform variants of a node; elements may be null. It holds a reference to
+/// each variant, from addVariant() on or from the end of an edit of the field.
 class KAVO_SDK_EXPORT TransformVariantList : public Attachment
 {
     typedef Attachment Inherited;

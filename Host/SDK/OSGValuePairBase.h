@@ -12,8 +12,8 @@ OSG_BEGIN_NAMESPACE
 class ValuePairBase;
 typedef FCPtr<AttachmentPtr, ValuePairBase> ValuePairBasePtr;
 
-/// Attachment with pairs of a key and a value: keys[i] belongs to values[i]. Nothing keeps the two
-/// lists at one length; readers must expect a value to be missing.
+/// Attachment with pairs of keys and values: keys[i] belongs to values[i]. The lists may differ in
+/// length, so readers must allow for missing values.
 class KAVO_SDK_EXPORT ValuePairBase : public Attachment
 {
     typedef Attachment Inherited;

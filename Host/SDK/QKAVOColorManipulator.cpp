@@ -123,7 +123,8 @@ void QKAVOColorManipulator::paste()
         changeColor(toHsv(fromScreen(color), m_color.hue));
 }
 
-// The popup is our child, so that the delegate of an item view sees the focus stay in its editor.
+// The popup is a child of this widget, so that the delegate of an item view sees the focus stay in
+// its editor.
 void QKAVOColorManipulator::showPopup()
 {
     if (!m_popup) {

@@ -10,35 +10,35 @@
 class QStyleOptionComboBox;
 class kavoColorPopup;
 
-/// The host's colour picker, small enough to serve as the in-place editor of a table row: a swatch
-/// and the colour's hex code, which open the full picker as a popup.
+/// The host's colour picker in the size of a table row: a swatch and the hex code of the colour. It
+/// serves as in-place editor and opens the full picker as a popup.
 ///
-/// A click, Space, F4 or Alt+Down opens the popup. Every change in it takes effect at once. Enter,
-/// F4, Alt+Up or a click outside closes it and keeps the colour; Escape closes it and brings the
-/// old colour back. Copy and Paste exchange the hex code with the clipboard.
-///
-/// Belongs to its parent. GUI thread only.
+/// A click, Space, F4 or Alt+Down opens the popup. Every change in the popup takes effect at once.
+/// Enter, F4, Alt+Up or a click outside closes it and keeps the colour. Escape closes it and
+/// restores the old colour. Copy and Paste exchange the hex code with the clipboard. GUI thread
+/// only.
 class KAVO_SDK_EXPORT QKAVOColorManipulator : public QWidget
 {
     Q_OBJECT
 public:
-    /// \a name becomes the object name; it may be null.
+    /// \param name object name, may be null
     QKAVOColorManipulator(QWidget *parent, const char *name);
 
-    /// Shows a colour without a signal. The components are 0 to 1; others, as of a light that is
-    /// brighter than white, are kept although the swatch cannot show them, and those that are not
-    /// finite count as 0.
+    /// Shows a colour without emitting a signal. Components from 0 to 1 can be displayed. Others,
+    /// such as those of lights brighter than white, are kept. Components that are not finite count
+    /// as 0.
     void setColor(float red, float green, float blue);
 
-    /// Hue in degrees, 0 to 360 (0 for a grey), saturation and value, 0 to 1 for a colour whose
-    /// components are. The fourth has no meaning. No component has been rounded.
+    /// Returns hue, saturation, value and an unused number, none of them rounded. The hue is in
+    /// degrees from 0 to 360 and 0 for a grey. Saturation and value are 0 to 1 if the components of
+    /// the colour are.
     std::array<float, 4> getColor() const;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
-    /// The user has changed the colour. setColor() does not emit it.
+    /// Emitted when the user changes the colour, not by setColor().
     void colorChanged();
 
 protected:

@@ -32,13 +32,13 @@ ads::DockWidgetArea sideOf(Qt::DockWidgetArea area)
     }
 }
 
-// Percent of the main window that a side takes when it opens.
+// Share of the main window that a side gets when it opens, in percent.
 int shareOf(ads::DockWidgetArea side)
 {
     return side == ads::RightDockWidgetArea ? 35 : 25;
 }
 
-// The others share the rest as they shared the whole before; before the first layout all the same.
+// The other widgets keep their proportions. Before the first layout all have the same size.
 void giveShare(ads::CDockAreaWidget *area, int percent)
 {
     auto *splitter = qobject_cast<QSplitter *>(area->parentWidget());
@@ -60,7 +60,7 @@ QString areaName(const QString &group, Qt::DockWidgetArea area)
     return group + '/' + QString::number(sideOf(area));
 }
 
-// The window itself if it takes keys, else the first widget in it that does.
+// Focuses the window if it accepts the Tab focus, else the first such widget in it.
 void focusFirstIn(QWidget *window)
 {
     QWidget *candidate = window;
@@ -105,7 +105,7 @@ void QKAVODockWindowManager::add(const char *key, const QString &group, QWidget 
     dock->setIcon(icon);
     QAction *action = dock->toggleViewAction();
     action->setIcon(icon);
-    action->disconnect(dock); // it would close a window that is behind another
+    action->disconnect(dock); // it would close a window behind another tab
     connect(action, &QAction::triggered, this, [this, name] { toggle(name); });
     connect(widget, &QWidget::windowTitleChanged, dock->tabWidget(), &QWidget::setToolTip);
     connect(widget, &QObject::destroyed, this, [this, name] { remove(name); });
@@ -153,14 +153,14 @@ void QKAVODockWindowManager::show(const QString &key)
 void QKAVODockWindowManager::toggle(const QString &key)
 {
     if (!m_windows.contains(key))
-        return; // deleted by a receiver of the action's other signals
+        return; // deleted by a receiver of the action's signals
     ads::CDockWidget *dock = m_windows[key].dock;
     if (!dock->isClosed() && dock->isCurrentTab())
         dock->toggleView(false);
     else
         show(key);
     if (!m_windows.contains(key))
-        return; // deleted by a receiver of the dock's
+        return; // deleted by a receiver of the dock's signals
     if (!dock->isClosed())
         focusFirstIn(m_windows[key].widget);
     dock->toggleViewAction()->setChecked(!dock->isClosed());
@@ -202,7 +202,7 @@ void QKAVODockWindowManager::hideAll()
     m_docks->hideManagerAndFloatingWidgets();
 }
 
-// The first window of an area keeps its tab in front when others join it.
+// The first window of an area stays the current tab when others are added.
 void QKAVODockWindowManager::place(const Window &window)
 {
     ads::CDockWidget *&first = m_firstOfArea[areaName(window.group, window.area)];
@@ -217,7 +217,7 @@ void QKAVODockWindowManager::place(const Window &window)
     first->setAsCurrentTab();
 }
 
-// Runs inside the widget's destructor: the dock goes later, when the widget is no child of it.
+// Runs in the widget's destructor. Deletes the dock later, when the widget is no longer its child.
 void QKAVODockWindowManager::remove(const QString &key)
 {
     const Window window = m_windows.take(key);

@@ -17,56 +17,56 @@ class CDockWidget;
 
 /// Turns widgets into dockable windows of the host's main window.
 ///
-/// Each window has a key, by which it is found and its place is remembered, and a group. Windows
-/// of one group that share a side of the main window are tabs of one area.
+/// Each window has a unique key and a group. Windows of one group on the same side of the main
+/// window are tabs of one area.
 class KAVO_SDK_EXPORT QKAVODockWindowManager : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Fills the main window's centre. The main window owns both the manager and the area.
+    /// Creates the docking area in the main window's centre. The main window owns the manager and
+    /// the area.
     explicit QKAVODockWindowManager(QMainWindow *mainWindow);
     ~QKAVODockWindowManager() override;
 
-    /// Docks a widget. It stays the caller's to delete, even though its Qt parent changes; its
-    /// dock goes with it.
-    /// \param key unique; a second window of the same key is refused with a line in the log
+    /// Docks a widget. The caller still has to delete it, although its Qt parent changes; the dock
+    /// is deleted with it.
+    /// \param key unique; a second window with the same key is rejected with an error in the log
     /// \param group windows of one group and side are tabs of one area
-    /// \param hintKey names the window's hint card; kept for hintKey()
+    /// \param hintKey name of the window's hint card
     /// \param icon shown on the tab and in menus, may be null
     /// \param title shown on the tab and in menus
-    /// \param area side of the main window; Qt::NoDockWidgetArea leaves it to the manager, which
-    ///     takes the right side
-    /// \param visible whether the window is open until the user decides otherwise
-    /// \param menu receives the window's toggle action, besides the View menu; may be null
+    /// \param area side of the main window; Qt::NoDockWidgetArea stands for the right side
+    /// \param visible whether the window is open by default
+    /// \param menu menu to add the window's toggle action to, may be null
     void add(const char *key, const QString &group, QWidget *widget, const QString &hintKey,
         const QIcon &icon, const QString &title, Qt::DockWidgetArea area, bool visible,
         QMenu *menu);
 
-    /// Keys of all windows in the order of their arrival.
+    /// Returns the keys of all windows in the order in which they were added.
     QStringList keys() const;
-    /// The widget docked under the key, null if there is none.
+    /// Returns null for an unknown key.
     QWidget *window(const QString &key) const;
     QString group(const QString &key) const;
     QString hintKey(const QString &key) const;
-    /// Opens the window, brings it to the front if it is open behind another tab, and closes it if
-    /// it is in front; owned by its dock. Null for an unknown key.
+    /// Returns the action that opens the window, raises it if another tab covers it, and closes it
+    /// if it is in front. The dock owns the action. Returns null for an unknown key.
     QAction *toggleAction(const QString &key) const;
-    /// Opens the window and brings its tab to the front.
+    /// Opens the window and raises its tab.
     void show(const QString &key);
 
-    /// Places and visibility of all windows.
+    /// Returns places and visibility of all windows.
     QByteArray saveState() const;
-    /// Puts windows back to their saved places. Windows that the state does not know keep their
-    /// default place. \returns false, with nothing changed, if the bytes are no such state
+    /// Restores places and visibility. Windows that are not in the state get their default place.
+    /// \returns false, without any change, if the bytes are not a saved state
     bool restoreState(const QByteArray &state);
-    /// Puts every window to its default place.
+    /// Moves every window to its default place.
     void resetLayout();
-    /// Hides everything, windows that float on their own included.
+    /// Hides all windows, including floating ones.
     void hideAll();
 
 signals:
-    /// A window was added (or removed): the list of windows has changed.
+    /// Emitted after a window was added or removed.
     void windowsChanged();
 
 private:

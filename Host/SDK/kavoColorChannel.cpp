@@ -12,7 +12,7 @@ namespace {
 
 constexpr int sliderSteps = 1000;
 constexpr int sliderPage = 50;
-// Six linear stretches reproduce every hue exactly, and any other component anyway.
+// Six linear sections reproduce every hue exactly, and every other component.
 constexpr int gradientStretches = 6;
 
 } // namespace
@@ -90,7 +90,7 @@ void kavoColorChannel::show(const kavoHsvColor &color, bool fromHere)
         m_slider->setValue(qRound(value * sliderSteps / m_part.maximum));
     if (fromHere && m_field->hasFocus())
         return;
-    // A colour beyond what a screen shows is shown by its true number.
+    // Shows components beyond the range of a screen too.
     m_field->setRange(std::min(0.0, value), std::max(m_part.maximum, value));
     m_field->setValue(value);
 }

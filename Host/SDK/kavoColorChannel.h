@@ -10,13 +10,13 @@ class GradientSlider;
 class QDoubleSpinBox;
 class QGridLayout;
 
-/// One component of a colour as a row of a form: its letter, a slider that shows where it leads to,
-/// and a number field.
+/// Form row for one component of a colour: a letter, a slider on a gradient of the colours it leads
+/// to, and a number field.
 class kavoColorChannel : public QObject
 {
     Q_OBJECT
 public:
-    /// Which component, of one colour space or the other, and how the row shows it.
+    /// Selects a component of one of the colour spaces and describes its row.
     struct Part
     {
         const char *name;
@@ -31,11 +31,11 @@ public:
         kavoHsvColor withValue(kavoHsvColor color, double value) const;
     };
 
-    /// The widgets become children of \a parent in the last row of \a grid.
+    /// Adds the widgets, as children of `parent`, to the last row of `grid`.
     kavoColorChannel(const Part &part, QGridLayout *grid, QWidget *parent);
 
-    /// The number field is left alone where the change comes from this row, for the user may be
-    /// typing in it.
+    /// Leaves the number field alone if the change comes from this row, because the user may be
+    /// typing.
     void show(const kavoHsvColor &color, bool fromHere);
 
 Q_SIGNALS:

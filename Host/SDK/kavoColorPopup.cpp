@@ -48,8 +48,7 @@ kavoColorPopup::kavoColorPopup(QWidget *parent)
 {
     setObjectName(QStringLiteral("colorPopup"));
     setFrameStyle(QFrame::StyledPanel | QFrame::Plain);
-    // The click that closes the popup does not also press what lies below, which would open it
-    // again.
+    // The click that closes the popup must not press the widget below, which would open it again.
     setAttribute(Qt::WA_NoMouseReplay);
     setAccessibleName(tr("Color picker"));
 
@@ -62,7 +61,7 @@ kavoColorPopup::kavoColorPopup(QWidget *parent)
     rows->setSizeConstraint(QLayout::SetFixedSize);
 }
 
-// The wheel and, below it, the old and the new colour.
+// Contains the wheel and, below it, the old and the new colour.
 QLayout *kavoColorPopup::createLeftColumn()
 {
     m_wheel = new color_widgets::ColorWheel(this);
@@ -103,7 +102,7 @@ color_widgets::ColorPreview *kavoColorPopup::createPreview(
     return preview;
 }
 
-// The hex entry and a row for each channel, one below the other.
+// Contains the hex entry and a row for each channel.
 QLayout *kavoColorPopup::createForm()
 {
     auto *grid = new QGridLayout;
@@ -216,7 +215,7 @@ void kavoColorPopup::change(const kavoHsvColor &color, const QObject *source)
     emit colorChanged(color);
 }
 
-// The control that the change comes from shows it already.
+// Skips the control that the change comes from.
 void kavoColorPopup::refresh(const QObject *source)
 {
     const QColor shown = toScreen(m_color);

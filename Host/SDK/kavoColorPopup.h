@@ -16,19 +16,19 @@ class QGridLayout;
 class QLabel;
 class QLayout;
 
-/// The full colour picker: wheel, sliders and number fields, hex entry, old and new colour side by
-/// side, eyedropper and recent colours. Signals every change the user makes; Escape takes them
-/// back.
+/// The full colour picker: wheel, sliders, number fields, hex entry, comparison of old and new
+/// colour, eyedropper and recent colours. Signals every change by the user. Escape restores the old
+/// colour.
 class kavoColorPopup : public QFrame
 {
     Q_OBJECT
 public:
     explicit kavoColorPopup(QWidget *parent);
 
-    /// Shows the colour without a signal; it becomes the old colour as well.
+    /// Shows the colour without emitting a signal and makes it the old colour.
     void setColor(const kavoHsvColor &color);
 
-    /// Opens below the rectangle, in global coordinates, or above it where it does not fit.
+    /// Opens below the rectangle (global coordinates), or above it if there is no space below.
     void showAt(const QRect &anchor);
 
 Q_SIGNALS:

@@ -5,7 +5,7 @@
 
 namespace {
 
-// 0 to 6, counted from red over green and blue back to red.
+// Returns 0 to 6, from red over green and blue back to red.
 double hueSector(const kavoRgbColor &color, double largest, double range)
 {
     if (largest == color.red)

@@ -2,7 +2,7 @@
 
 #include <QColor>
 
-/// Red, green and blue; 0 to 1 is what a screen shows, other values are kept.
+/// A screen displays components from 0 to 1; others are kept.
 struct kavoRgbColor
 {
     double red = 0;
@@ -10,7 +10,7 @@ struct kavoRgbColor
     double blue = 0;
 };
 
-/// Hue in degrees, 0 to 360; saturation and value 0 to 1 for colours that a screen shows.
+/// Hue in degrees, 0 to 360. Saturation and value are 0 to 1 for colours that a screen displays.
 struct kavoHsvColor
 {
     double hue = 0;
@@ -18,11 +18,11 @@ struct kavoHsvColor
     double value = 0;
 };
 
-/// A grey has no hue of its own: it takes the one given.
+/// \param hueOfGrey the hue of the result if the colour is a grey
 kavoHsvColor toHsv(const kavoRgbColor &color, double hueOfGrey = 0);
 kavoRgbColor toRgb(const kavoHsvColor &color);
 
-/// The nearest colour that a screen shows.
+/// Returns the nearest colour that a screen displays.
 QColor toScreen(const kavoRgbColor &color);
 QColor toScreen(const kavoHsvColor &color);
 kavoRgbColor fromScreen(const QColor &color);

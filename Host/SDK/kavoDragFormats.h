@@ -5,19 +5,18 @@
 #include <QByteArray>
 #include <QVector>
 
-/// What the host's views put on a drag. Every payload is a sequence of field-container ids, each a
-/// qint32 written by a QDataStream with its default settings.
+/// MIME types of drags from the host's views. Each payload is a sequence of field-container ids,
+/// written as qint32 by a QDataStream with default settings.
 namespace kavoDragFormats {
 
-/// Materials. Two ids an item: the node that carries the material (its core is a material group),
-/// then the material.
+/// Materials, two ids per item: a node whose core is a material group, and the material.
 constexpr char materials[] = "application/kavo-mattree-item";
-/// Lights. Two ids an item: the light's node, then the light, which is its core.
+/// Lights, two ids per item: the light's node and its core.
 constexpr char lights[] = "application/kavo-lighttree-items";
-/// Cameras. One id an item: the camera's node.
+/// Cameras, one id per item: the camera's node.
 constexpr char cameras[] = "application/kavo-camera-item";
 
-/// The bytes to put under one of the formats, ids in the order given.
+/// Returns the payload with these ids.
 KAVO_SDK_EXPORT QByteArray payload(const QVector<qint32> &ids);
 
 } // namespace kavoDragFormats

@@ -5,8 +5,8 @@
 #include <exception>
 #include <string>
 
-/// Runs a function and logs what it throws, after the name of the job, instead of passing it on:
-/// an exception that leaves a slot or an event handler would end the host.
+/// Runs a function and logs its exceptions together with the name of the job. An exception that
+/// left a slot or an event handler would end the host.
 template <class Function> void kavoGuarded(const std::string &job, Function function)
 {
     try {

@@ -6,14 +6,14 @@
 
 #include <string>
 
-/// Icons by key: "ModuleNodeEditor", "Node", "Group", "Transform", "Geometry", "Material", "Light",
-/// "Camera", "Scene", "Log", "Open", "Cancel", "Eyedropper".
+/// Finds icons by key: "ModuleNodeEditor", "Node", "Group", "Transform", "Geometry", "Material",
+/// "Light", "Camera", "Scene", "Log", "Open", "Cancel", "Eyedropper".
 class KAVO_SDK_EXPORT kavoIconManager
 {
 public:
-    /// The icon of the key, or of the key's variant where sub is not empty ("Node", "Hidden" is
-    /// the icon "Node-Hidden"). Our own icons take the text colour of the application's palette
-    /// each time they are painted. Keys that are not ours are looked up in the desktop's icon
-    /// theme; an unknown one gives a null icon.
+    /// Returns the icon of the key, or of its variant if `sub` is not empty: "Node" with "Hidden"
+    /// is the icon "Node-Hidden". The icons of the host follow the text colour of the application's
+    /// palette. Other keys are looked up in the desktop's icon theme. Returns a null icon for an
+    /// unknown key.
     static QIcon getIcon(const std::string &key, const std::string &sub = std::string());
 };

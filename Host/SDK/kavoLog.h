@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-/// The host's log. Every line goes to standard error, is kept, and reaches the observers (the Log
-/// window is one). May be used from any thread.
+/// The host's log. Every line is written to standard error, stored in the history and passed to the
+/// observers, such as the Log window. Thread-safe.
 class KAVO_SDK_EXPORT kavoLog
 {
 public:
@@ -16,26 +16,26 @@ public:
     struct Entry
     {
         Level level;
-        std::string text; ///< UTF-8, without a newline at its end
+        std::string text; ///< UTF-8, without a final newline
     };
     using Observer = std::function<void(const Entry &)>;
 
-    /// One line each, formatted as by printf; a newline at the end of the format is not needed.
+    /// Log a line, formatted as by printf. A newline at the end of the format is optional.
     static void error(const char *format, ...) __attribute__((format(printf, 1, 2)));
     static void warning(const char *format, ...) __attribute__((format(printf, 1, 2)));
     static void info(const char *format, ...) __attribute__((format(printf, 1, 2)));
 
-    /// The newest lines, oldest first, at most historyLimit.
+    /// Returns the newest lines, at most historyLimit, the oldest first.
     static std::vector<Entry> history();
     static constexpr std::size_t historyLimit = 10000;
 
-    /// Registers a function that is called with each new line, on the thread that writes it.
-    /// \returns a number for removeObserver
+    /// Registers a function that is called with each new line on the thread that writes it.
+    /// \returns the number to pass to removeObserver()
     static int addObserver(Observer observer);
-    /// Lines to come do not reach it any more; on another thread it may still be running for one
-    /// that was written before.
+    /// Stops the calls for new lines. A call for an earlier line may still be running on another
+    /// thread.
     static void removeObserver(int number);
 
-    /// "info", "warning" or "error".
+    /// Returns "info", "warning" or "error".
     static const char *levelName(Level level);
 };

@@ -7,7 +7,8 @@
 #include <map>
 #include <string>
 
-/// A message of the host: an identifier (kavoMessageIds) and attributes of any type by name.
+/// A message between host and modules: an identifier (kavoMessageIds) and named attributes of any
+/// type.
 class KAVO_SDK_EXPORT kavoMessage
 {
 public:
@@ -15,10 +16,10 @@ public:
 
     int id() const;
 
-    /// The value stored under the key; an empty one where there is none. The reference lives until
-    /// the attribute is set again or the message ends.
+    /// Returns the value of an attribute, an empty one if it is missing. The reference is valid
+    /// until the attribute is set again or the message is destroyed.
     const boost::any &get(const std::string &key) const;
-    /// Stores a copy of the value; an earlier one of the same key is replaced.
+    /// Stores a copy of the value and replaces an earlier one.
     void set(const std::string &key, const boost::any &value);
 
     /// Prints the current call stack on standard error, innermost call first.

@@ -10,40 +10,41 @@
 
 class QPixmap;
 
-/// Base of every module that a plug-in brings.
+/// Base class of the modules in a plug-in.
 ///
 /// A plug-in library exports `extern "C" void initPlugin()`. The host calls it once on the GUI
-/// thread, after osgInit and with main window and dock-window manager in place; the plug-in makes
-/// its modules there, usually as function-local statics. A module registers itself with its
-/// construction and leaves with its destruction, which may be as late as process exit: application
-/// object, main window, dock-window manager and callback table outlive all static objects, and the
-/// host has hidden its windows by then.
+/// thread, after osgInit and after it has created main window and dock-window manager. The plug-in
+/// creates its modules there, usually as function-local statics. Construction registers a module,
+/// destruction removes it. A module may live until process exit: application object, main window,
+/// dock-window manager and callback table outlive all static objects, and the host hides its
+/// windows before.
 ///
-/// All virtual functions are called on the GUI thread. An exception that leaves one of them is
-/// caught by the host and logged; the module stays registered.
+/// All virtual functions are called on the GUI thread. The host catches and logs their exceptions;
+/// the module stays registered.
 class KAVO_SDK_EXPORT kavoModuleBase : public QObject
 {
     Q_OBJECT
 
 public:
-    /// \param name what users see; unique among the modules
-    /// \param group the kind of module, for lists
-    /// \param messageMask union of the kavoMessageIds that reach receivedMessage
-    /// \param icon may be null; stays the caller's and must outlive the module
+    /// \param name shown to users; unique among the modules
+    /// \param group kind of module, shown in lists
+    /// \param messageMask union of the kavoMessageIds that receivedMessage() gets
+    /// \param icon may be null; not owned, must outlive the module
     kavoModuleBase(
         const char *name, const char *group, unsigned int messageMask, QPixmap *icon = nullptr);
     ~kavoModuleBase() override;
 
-    /// The module's window, or null if it has none.
+    /// Returns the module's window, null if it has none.
     virtual QWidget *getWidget() const;
-    /// Called once, when all plug-ins are loaded.
+    /// Called once after all plug-ins are loaded.
     virtual void init();
     /// Called after containers of the scene have changed, at most once per event-loop round.
     virtual void update();
-    /// Called each time the event loop has no more work and is about to wait.
+    /// Called each time before the event loop waits for events.
     virtual void loop();
-    /// A message of the mask. The result says whether the module used it; every other module
-    /// receives the message all the same.
+    /// Handles a message of the mask. The host sends every message to all modules, whatever they
+    /// return.
+    /// \returns whether the module used the message
     virtual bool receivedMessage(kavoMessage &message);
 
     const std::string &name() const { return m_name; }
@@ -51,7 +52,7 @@ public:
     unsigned int messageMask() const { return m_messageMask; }
     QPixmap *icon() const { return m_icon; }
 
-    /// All living modules in the order of their construction.
+    /// Returns all modules in the order of their construction.
     static const std::vector<kavoModuleBase *> &modules();
 
 private:

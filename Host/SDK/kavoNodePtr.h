@@ -4,10 +4,10 @@
 
 #include <OpenSG/OSGNodePtr.h>
 
-/// Handle of a node that holds a reference to it as long as it lives.
+/// Node handle that holds a reference.
 ///
-/// OpenSG destroys a container when its last reference goes, and a new node has none: wrapping a
-/// node of count 0 and dropping the wrapper destroys the node. Reference roots of your own first.
+/// OpenSG destroys a container with its last reference, and a new node has none. Destroying the
+/// only kavoNodePtr of a new node destroys the node.
 class KAVO_SDK_EXPORT kavoNodePtr
 {
 public:
@@ -23,7 +23,7 @@ public:
     operator osg::NodePtr() const;
     osg::Node *operator->() const;
 
-    /// True for the empty handle.
+    /// Returns true for the empty handle.
     bool operator==(const osg::NullFieldContainerPtr &null) const;
     bool operator!=(const osg::NullFieldContainerPtr &null) const;
     bool operator==(const kavoNodePtr &other) const;

@@ -4,8 +4,8 @@
 #include <OpenSG/OSGFieldContainerFields.h>
 #include <OpenSG/OSGFieldContainerPtr.h>
 
-/// What the OpenSG of this repository offers beyond stock 1.8, and what serves in its place there.
-/// Found out at compile time, from the classes themselves.
+/// Functions that work with this repository's OpenSG and with stock 1.8. They detect at compile
+/// time what the library offers.
 namespace kavoOpenSG {
 
 namespace detail {
@@ -16,8 +16,8 @@ auto target(Field *field, osg::UInt32 index, int) -> decltype(field->getFieldCon
     return field->getFieldContainer(index);
 }
 
-// Stock 1.8 has no virtual for it. All handles have the same layout, so the field of any handle
-// type can be read as one of the base handle: the customary cast, here and nowhere else.
+// Stock 1.8 has no virtual function for it. All handles have the same layout, so the field of any
+// handle type can be read as a field of base handles. This customary cast stands only here.
 template <class Field> osg::FieldContainerPtr target(Field *field, osg::UInt32 index, long)
 {
     if (index >= field->getSize())
@@ -51,24 +51,24 @@ template <class Handle> bool setChangesIgnored(bool, long)
 
 } // namespace detail
 
-/// Target of a pointer field, whatever its handle type.
-/// \param field its content type must be a handle
-/// \param index element of a multi field, 0 for a single one
-/// \returns null if the element is null or there is none of that index
+/// Returns the target of a pointer field with any handle type.
+/// \param field a field whose content type is a handle
+/// \param index element of a multi field, 0 for a single field
+/// \returns null if the element is null or the index is out of range
 inline osg::FieldContainerPtr target(osg::Field *field, osg::UInt32 index = 0)
 {
     return detail::target(field, index, 0);
 }
 
-/// OpenSG's global ignore-change switch: while it is set, the end of an edit does not call the
-/// container's changed(). Never set in stock 1.8.
+/// Returns OpenSG's global ignore-change switch. While it is set, the end of an edit does not call
+/// the container's changed(). Always false in stock 1.8.
 inline bool changesIgnored()
 {
     return detail::changesIgnored<osg::FieldContainerPtr>(0);
 }
 
-/// Sets or clears the ignore-change switch: for hosts that edit many containers at once and refresh
-/// what depends on them afterwards, and for tests of code that asks changesIgnored().
+/// Sets or clears the ignore-change switch. Hosts use it to edit many containers at once and
+/// refresh the data that depends on them afterwards.
 /// \returns false if there is no such switch, as in stock 1.8
 inline bool setChangesIgnored(bool ignored)
 {

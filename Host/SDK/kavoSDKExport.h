@@ -1,4 +1,4 @@
 #pragma once
 
-// Marks what the SDK library exports; everything else of it stays hidden.
+// Exports a symbol from the SDK library, whose other symbols are hidden.
 #define KAVO_SDK_EXPORT __attribute__((visibility("default")))

@@ -17,8 +17,8 @@ struct Scene
     bool announcementPending = false;
 };
 
-// Never destroyed: modules ask for the selection during static destruction, and by then OpenSG is
-// no longer able to take references back.
+// Never destroyed: modules ask for the selection during static destruction, when OpenSG can no
+// longer release references.
 Scene &scene()
 {
     static auto *const instance = new Scene;

@@ -10,7 +10,7 @@
 
 namespace {
 
-// The magnifier shows this many pixels to each side of the pointer, each as a square of this size.
+// Number of pixels on each side of the pointer, and the size of a magnified pixel.
 constexpr int reach = 5;
 constexpr int zoom = 11;
 constexpr int side = (2 * reach + 1) * zoom;
@@ -59,7 +59,7 @@ QColor kavoScreenColorPicker::colorAt(const QPoint &position) const
     return {};
 }
 
-// Right below the pointer, or on its other sides near the right and the lower edge.
+// Places the magnifier right below the pointer, or on other sides near the right and lower edges.
 QRect kavoScreenColorPicker::magnifierRect() const
 {
     QRect rect(m_position + QPoint(distance, distance), QSize(side, side + captionHeight));

@@ -6,19 +6,19 @@
 
 #include <vector>
 
-/// An eyedropper: covers all screens with a still picture of them and a magnifier at the pointer.
-/// A click, Enter or Space takes the pixel's colour, the arrow keys move by one pixel, Escape or
-/// another mouse button gives up. Deletes itself when it closes.
+/// Eyedropper: covers all screens with a picture of them and shows a magnifier at the pointer. A
+/// click, Enter or Space picks the pixel's colour, the arrow keys move the pointer by one pixel,
+/// Escape or another mouse button cancels. Deletes itself when it closes.
 class kavoScreenColorPicker : public QWidget
 {
     Q_OBJECT
 public:
-    /// False where the desktop does not let programs read the screen.
+    /// Returns false if the desktop does not let programs read the screen.
     static bool isAvailable();
 
     explicit kavoScreenColorPicker(QWidget *parent);
 
-    /// Takes the picture and starts.
+    /// Takes the picture and shows the widget.
     void start();
 
 Q_SIGNALS:
@@ -33,7 +33,7 @@ protected:
 private:
     struct Shot
     {
-        QRect rect; // in this widget's coordinates
+        QRect rect; // in widget coordinates
         QImage image;
     };
 
