@@ -5,27 +5,27 @@
 
 #include <vector>
 
-/// One row of a finished editor with the rows below it, so that the very same tree can be built in
-/// another way.
+/// A row of an editor's tree with the rows below it. Another browser can build the same tree from
+/// it.
 struct kavoRecordedRow
 {
     enum Manager { Variant, Enum, Color };
 
     Manager manager = Variant;
-    int type = 0; ///< of the variant manager
+    int type = 0; ///< type in the variant manager
     QString title;
-    QString text; ///< of a variant row
-    unsigned int number = 0; ///< of an enumeration row
-    colorVal color {}; ///< of a colour row
+    QString text; ///< value of a variant row
+    unsigned int number = 0; ///< value of an enumeration row
+    colorVal color {}; ///< value of a colour row
     QString toolTip;
     bool open = false;
     std::vector<kavoRecordedRow> children;
 
-    /// The editor's only top row and all below it.
+    /// Returns the editor's only top row with all rows below it.
     static kavoRecordedRow record(const kavoFCEditorWidget &editor);
 
-    /// A container or a list, as opposed to a value, which may have rows of its own.
+    /// Returns true for containers and lists, false for values, which may have sub-rows too.
     bool isGroup() const;
-    /// Rows in all, this one included.
+    /// Returns the number of rows including this one.
     int count() const;
 };

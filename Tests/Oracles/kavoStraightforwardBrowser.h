@@ -7,12 +7,12 @@
 #include <qttreepropertybrowser.h>
 #include <qtvariantproperty.h>
 
-/// The straightforward use of the property browser: every group enters the tree empty and is
-/// filled row by row below its open top row; to empty the tree the browser is cleared, then the
-/// manager. The tests compare the editor's tree with this one, the benchmarks its speed.
+/// Straightforward use of the property browser. Every group enters the tree empty and is filled row
+/// by row below its open top row. To empty the tree, the browser is cleared, then the manager.
+/// Tests compare the editor's tree with this one, benchmarks compare the speed.
 ///
-/// It is given the texts of the rows, so that it has less to do than the editor. Its managers are
-/// the component's own: a real number is shown with two decimals and has the range of an int.
+/// It gets the texts of the rows and so has less work than the editor. Its managers are the
+/// component's own: a real number is shown with two decimals and has the range of an int.
 class kavoStraightforwardBrowser : public QtTreePropertyBrowser
 {
     Q_OBJECT
@@ -23,8 +23,8 @@ public:
     void build(const kavoRecordedRow &top);
     void empty();
 
-    /// The same with two simple remedies: the top row is closed while it is filled, and the rows
-    /// are deleted, last ones first, before browser and manager are cleared.
+    /// The same with two simple improvements: the top row is closed while it is filled, and rows
+    /// are deleted from last to first before browser and manager are cleared.
     void buildClosed(const kavoRecordedRow &top);
     void emptyRowsFirst();
 

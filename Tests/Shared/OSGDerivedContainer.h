@@ -5,11 +5,11 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// Container class without fields of its own, for tests that need a class derived from another or
-/// a type in the group of another. TraitsT describes it:
-///     typedef ... Base;                    the class that it derives from
-///     typedef ... BasePtr;                 the handle of that class
-///     static constexpr const Char8 *type;  the type's name
+/// Container class without fields of its own, for tests that need a derived class, or a type in the
+/// group of another. TraitsT describes it:
+///     typedef ... Base;                      the base class
+///     typedef ... BasePtr;                   the handle of the base class
+///     static constexpr const Char8 *type;    the type's name
 ///     static constexpr const Char8 *parent;  the name of the parent type
 ///     static constexpr const Char8 *group;   the name of the type's group
 template <class TraitsT> class DerivedContainer : public TraitsT::Base

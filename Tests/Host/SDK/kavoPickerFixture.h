@@ -9,7 +9,8 @@
 
 #include <memory>
 
-/// Base of tests of the colour picker: a picker of #339966 in a window, with settings of its own.
+/// Base class for tests of the colour picker. Shows a picker of #339966 in a window and uses
+/// settings of its own.
 class kavoPickerFixture
 {
 protected:

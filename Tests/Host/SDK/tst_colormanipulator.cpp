@@ -14,7 +14,6 @@ constexpr float infinity = std::numeric_limits<float>::infinity();
 
 }
 
-// The compact picker of a row and its colour.
 class TestColorManipulator : public QObject, private kavoPickerFixture
 {
     Q_OBJECT

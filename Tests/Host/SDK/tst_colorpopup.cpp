@@ -7,7 +7,6 @@
 #include <QSlider>
 #include <QtTest>
 
-// How the full picker shows and changes the colour.
 class TestColorPopup : public QObject, private kavoPickerFixture
 {
     Q_OBJECT

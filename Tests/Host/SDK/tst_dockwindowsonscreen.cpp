@@ -4,7 +4,7 @@
 #include <QLabel>
 #include <QTest>
 
-// The same windows as a user meets them: with a window system, and by mouse.
+// Docked windows with a window system, used by mouse.
 class tst_DockWindowsOnScreen : public QObject
 {
     Q_OBJECT

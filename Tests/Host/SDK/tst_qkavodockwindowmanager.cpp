@@ -81,7 +81,7 @@ QWidget *tst_QKAVODockWindowManager::add(
     return widget;
 }
 
-// Each hides the other when it is shown.
+// Each window hides the other when it is shown.
 bool tst_QKAVODockWindowManager::areTabs(const QString &key, const QString &otherKey) const
 {
     m_docks->show(key);

@@ -26,7 +26,6 @@ QVector<QColor> recentColors()
 
 } // namespace
 
-// The colours that the picker offers again.
 class TestRecentColors : public QObject, private kavoPickerFixture
 {
     Q_OBJECT

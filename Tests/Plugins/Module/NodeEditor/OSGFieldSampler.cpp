@@ -9,7 +9,7 @@ OSG_BEGIN_NAMESPACE
 
 namespace {
 
-// Descriptions are made in the order of the table below, and ids follow that order.
+// Descriptions are created in the order of the table below, which determines their ids.
 UInt32 nextFieldId = Attachment::NextFieldId;
 
 template <class Class, class FieldT> const FieldType &fieldTypeOf(FieldT Class::*)

@@ -29,7 +29,6 @@ public:
 
     OSG_FIELD_CONTAINER_DECL(FieldSamplerPtr)
 
-    /// The mask of a field by its name.
     static BitVector maskOf(const char *name);
 
     void changed(BitVector mask, UInt32 origin) override;
@@ -63,7 +62,7 @@ public:
     MFVec3f vectors;
     MFNodePtr nodes;
 
-    /// While set, reaching any of the fields above throws an int, and so does changed().
+    /// While it is set, access to any of the fields above and changed() throw an int.
     static bool accessThrows;
 
     int changes = 0;

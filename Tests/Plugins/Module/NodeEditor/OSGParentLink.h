@@ -9,8 +9,8 @@ OSG_BEGIN_NAMESPACE
 class ParentLink;
 typedef FCPtr<FieldContainerPtr, ParentLink> ParentLinkPtr;
 
-/// Test container with one pointer called "parents". Attachments could not have it: they have a
-/// list of that name.
+/// Test container with one pointer called "parents". It is no attachment, because attachments have
+/// a list with that name.
 class ParentLink : public FieldContainer
 {
     typedef FieldContainer Inherited;

@@ -7,7 +7,7 @@
 
 Q_DECLARE_METATYPE(colorVal)
 
-/// A copy of a colour that tests can compare and print.
+/// Copies a colour into a form that tests can compare and print.
 inline QVector<float> components(const colorVal &color)
 {
     return { color.r, color.g, color.b, color.a };

@@ -6,8 +6,8 @@
 
 #include <memory>
 
-/// Base of tests of a property manager and its editor factory: both of them, connected, and a
-/// parent for editors.
+/// Base class for tests of a property manager and its editor factory. Provides both, connected, and
+/// a parent for editors.
 template <class Manager, class EditorFactory, class Editor, class Value> class kavoEditorFixture
 {
 protected:

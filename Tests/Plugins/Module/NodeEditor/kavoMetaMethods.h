@@ -3,7 +3,8 @@
 #include <QMetaMethod>
 #include <QStringList>
 
-/// The signals, slots and invokable methods that a class declares itself, in order.
+/// Returns the signals, slots and invokable methods of the class without those of its base, in
+/// order.
 inline QStringList kavoMetaMethods(const QMetaObject &metaObject)
 {
     QStringList methods;

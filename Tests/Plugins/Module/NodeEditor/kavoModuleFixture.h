@@ -11,7 +11,7 @@
 #include <QAction>
 #include <QtTest>
 
-/// A module in the test host that shows the root of a truck in its open window.
+/// A module in the test host. Its window is open and shows the root of a truck.
 class kavoModuleFixture : public QObject
 {
 protected:
@@ -34,7 +34,7 @@ protected:
         return *m_module->getWidget()->findChild<kavoFCEditorWidget *>();
     }
 
-    /// Of the editor's top row; empty without one.
+    /// Returns the title of the editor's top row, empty if there is none.
     QString title() const
     {
         return editor().properties().isEmpty() ? QString()

@@ -6,8 +6,8 @@
 
 #include <memory>
 
-/// An editor that shows a container with a field of every kind. Rows are known by their titles,
-/// which are the fields' names.
+/// An editor that shows a FieldSampler. Rows are named by their titles, which are the names of the
+/// fields.
 class kavoSampledEditor
 {
 public:
@@ -19,21 +19,23 @@ public:
     kavoFCEditorWidget &editor() { return *m_editor; }
     const osg::FieldSamplerPtr &sampler() const { return m_sampler; }
     osg::Field &field(const QString &name);
-    /// The field's value as the library writes it.
+    /// Returns the field's value in the library's text form.
     QByteArray textOf(const QString &name);
 
-    /// Fills the rows with the values that the fields have now.
+    /// Rebuilds the rows from the current values of the fields.
     void refresh();
-    /// Destroys the container and leaves its rows.
+    /// Destroys the container and keeps its rows.
     void destroySampler();
 
-    /// The same, with the rows on the screen.
+    /// Rebuilds the rows and shows them on the screen.
     void show();
-    /// Opens the row's editor by keyboard. \returns it, null if none opened
+    /// Opens the row's editor with the keyboard.
+    /// \returns the editor, null if none opened
     QWidget *open(const QString &name);
-    /// Opens the row's editor and replaces its text, unfinished. \returns the editor
+    /// Opens the row's editor and replaces its text without ending the edit.
+    /// \returns the editor
     QWidget *type(const QString &name, const QString &text);
-    /// Ends an open row editor.
+    /// Presses a key in an open row editor, by default the one that ends the edit.
     static void press(QWidget *rowEditor, Qt::Key key = Qt::Key_Return);
 
 private:

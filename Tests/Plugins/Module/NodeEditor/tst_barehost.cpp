@@ -12,8 +12,8 @@
 
 using namespace BareHost;
 
-// The plug-in in a host whose headers declare only what the plug-in may use. That it compiles is
-// the main part of this test.
+// The plug-in in a host whose headers declare only what the plug-in may use. The main part of this
+// test is that it compiles.
 class tst_BareHost : public QObject
 {
     Q_OBJECT

@@ -8,7 +8,7 @@
 
 using namespace kavoTreeRows;
 
-// The rows of a field that only our OpenSG has.
+// Rows of a field type that only our OpenSG has.
 class tst_BoxVolumeRows : public QObject
 {
     Q_OBJECT
@@ -43,7 +43,7 @@ void tst_BoxVolumeRows::cleanup()
     osg::subRefCP(m_sampler);
 }
 
-// Destroys the container first: an edit of a bound row logs an error then.
+// Destroys the container first, because an edit of a bound row then logs an error.
 int tst_BoxVolumeRows::boundRows(const QList<QtProperty *> &rows)
 {
     osg::subRefCP(m_sampler);

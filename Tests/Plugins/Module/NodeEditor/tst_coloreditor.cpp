@@ -10,7 +10,6 @@
 using Fixture = kavoEditorFixture<QtKavoColorPropertyManager, QtKavoColorEditorFactory,
     QKAVOColorManipulator, colorVal>;
 
-// The pickers of colour rows.
 class TestColorEditor : public QObject, private Fixture
 {
     Q_OBJECT

@@ -49,7 +49,6 @@ QImage swatchOf(const QtProperty &property)
 using Fixture = kavoEditorFixture<QtKavoColorPropertyManager, QtKavoColorEditorFactory,
     QKAVOColorManipulator, colorVal>;
 
-// What colour rows hold and show.
 class TestColorProperty : public QObject, private Fixture
 {
     Q_OBJECT

@@ -123,7 +123,7 @@ void TestDrop::cleanup()
     delete m_editor;
 }
 
-// Past the application, which expects a real drag behind such events.
+// Bypasses the application, which expects a real drag for such events.
 void TestDrop::deliver(QEvent &event)
 {
     static_cast<QObject *>(m_editor)->event(&event);

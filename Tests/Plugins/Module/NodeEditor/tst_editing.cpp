@@ -18,7 +18,7 @@
 
 using namespace kavoTreeRows;
 
-// Drives the docked editor with the mouse and the keyboard of the X server alone.
+// Uses the docked editor with the mouse and keyboard of the X server only.
 class TestEditing : public QObject
 {
     Q_OBJECT
@@ -100,7 +100,7 @@ void TestEditing::show(const osg::FieldContainerPtr &container)
     QTRY_VERIFY(view().topLevelItemCount() == 1);
 }
 
-// Clicks into the value column of a row. \returns the editor that opened
+// Clicks into the value column of a row and returns the editor that opened.
 QWidget *TestEditing::open(const QString &title)
 {
     QTreeWidgetItem *item = view().findItems(title, Qt::MatchExactly | Qt::MatchRecursive).value(0);
@@ -112,7 +112,7 @@ QWidget *TestEditing::open(const QString &title)
     return view().itemWidget(item, 1);
 }
 
-// Replaces the text of a row, unfinished.
+// Replaces the text of a row without ending the edit.
 void TestEditing::type(const QString &title, const QString &text)
 {
     QVERIFY(open(title));

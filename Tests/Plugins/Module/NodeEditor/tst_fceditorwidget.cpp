@@ -65,7 +65,7 @@ QStringList shownRows(const kavoFCEditorWidget &editor)
 
 } // namespace
 
-// Every bound row whose container is gone logs one line when it is edited.
+// Counts the errors in the log: each edit of a bound row whose container is gone writes one.
 int TestFCEditorWidget::boundRows(kavoFCEditorWidget &editor, const QList<QtProperty *> &rows)
 {
     kavoConsoleCapture errors(kavoConsoleCapture::StandardError);
@@ -167,7 +167,7 @@ void TestFCEditorWidget::rowsLeftFromAnEarlierContainerAreBoundNoMore()
     osg::subRefCP(sampler);
 }
 
-// A new row may take the address of a deleted one.
+// A new row may have the address of a deleted row.
 void TestFCEditorWidget::rowsThatTheirManagersDeletedAreBoundNoMore()
 {
     const osg::FieldSamplerPtr sampler = osg::FieldSampler::create();
@@ -281,7 +281,7 @@ void TestFCEditorWidget::manySelectionsLeaveNoVariantRowsBehind()
     QCOMPARE(manager->properties().size(), rows);
 }
 
-// The component keeps what it knows of a browser by the addresses of browser and managers.
+// The component stores data of a browser under the addresses of browser and managers.
 void TestFCEditorWidget::anEditorMayTakeThePlaceOfAnother()
 {
     kavoConsoleCapture errors(kavoConsoleCapture::StandardError);

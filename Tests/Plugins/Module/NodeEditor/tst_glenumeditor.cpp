@@ -24,7 +24,6 @@ QStringList items(const QComboBox &editor)
 using Fixture
     = kavoEditorFixture<QtGLenumPropertyManager, QtGLenumEditorFactory, QComboBox, unsigned int>;
 
-// The combo boxes of enumeration rows.
 class TestGLenumEditor : public QObject, private Fixture
 {
     Q_OBJECT

@@ -10,7 +10,7 @@ namespace {
 
 const auto &tables = QtGLenumPropertyManagerPrivate::enumData;
 
-// The names as a combo box shows them, "-" for a value without one.
+// Returns the names as a combo box shows them, "-" for a value without a name.
 QString shownNames(const char *field)
 {
     QStringList names;
@@ -31,7 +31,7 @@ std::set<unsigned int> range(unsigned int first, unsigned int last)
 
 } // namespace
 
-// The values that the editor offers for the fields that it knows.
+// The values that the editor offers for known fields.
 class tst_GLenumFields : public QObject
 {
     Q_OBJECT

@@ -15,7 +15,6 @@ constexpr unsigned int linear = 0x2601;
 using Fixture
     = kavoEditorFixture<QtGLenumPropertyManager, QtGLenumEditorFactory, QComboBox, unsigned int>;
 
-// What enumeration rows hold and show.
 class TestGLenumProperty : public QObject, private Fixture
 {
     Q_OBJECT

@@ -32,8 +32,8 @@ std::set<QString> allNames()
     return names;
 }
 
-// Every name that an earlier one of the same value beats, with the name kept before value 0 became
-// GL_NONE.
+// Returns the names that were dropped because an earlier name has the same value, and the names
+// kept instead. Value 0 still has its first name here.
 std::map<QString, QString> droppedNames()
 {
     std::map<unsigned int, QString> kept;

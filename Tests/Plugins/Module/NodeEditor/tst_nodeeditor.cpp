@@ -15,7 +15,7 @@ using namespace kavoTreeRows;
 
 namespace {
 
-// Translates every text into its context and the text.
+// Translates every text to its context and the text.
 class MarkingTranslator : public QTranslator
 {
 public:
@@ -31,7 +31,6 @@ public:
 
 } // namespace
 
-// The module, its window and what they show.
 class TestNodeEditor : public kavoModuleFixture
 {
     Q_OBJECT

@@ -10,7 +10,7 @@
 
 using namespace kavoTreeRows;
 
-// What the module does at the host's messages and its call.
+// Reactions of the module to messages and callbacks.
 class TestNodeEditorMessages : public kavoModuleFixture
 {
     Q_OBJECT

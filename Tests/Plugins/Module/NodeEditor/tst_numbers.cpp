@@ -13,7 +13,7 @@
 
 using namespace kavoTreeRows;
 
-// What rows show of numbers and what comes back from them, with a decimal point and with a comma.
+// Number rows and their editors, with a decimal point and with a decimal comma.
 class TestNumbers : public QObject
 {
     Q_OBJECT
@@ -82,7 +82,7 @@ double TestNumbers::valueOf(const QString &name)
     return values.at(name);
 }
 
-// Field, its value as text, and what the row shows where the point is the decimal point.
+// Adds rows of field name, value as text, and the text shown with a decimal point.
 void TestNumbers::addNumbers()
 {
     QTest::addColumn<QString>("name");
@@ -172,8 +172,8 @@ void TestNumbers::whatIsTypedIsReadBack_data()
     add("lowest int", "int32", "-2147483648", -2147483648., "-2147483648");
 }
 
-// The library's text has seven digits: a row made from it shows no more. QCOMPARE takes all tiny
-// numbers for zero.
+// The library's text has seven digits, so a row made from it shows no more. QCOMPARE would treat
+// all tiny numbers as zero.
 void TestNumbers::whatIsTypedIsReadBack()
 {
     QFETCH(QString, name);

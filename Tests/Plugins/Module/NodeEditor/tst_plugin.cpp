@@ -45,8 +45,8 @@ QStringList definedSymbols(const QString &file, const QString &option)
     return QString(nm.readAllStandardOutput()).split('\n');
 }
 
-// The functions and data that a library offers to others, without template and inline code of other
-// libraries, which is weak, and without the linker's own marks.
+// Returns the functions and data that a library exports. Skips weak symbols, which are inline code
+// of other libraries, and the linker's own marks.
 QStringList exportedSymbols(const QString &file)
 {
     QStringList names;
@@ -66,7 +66,7 @@ void TestPlugin::initPluginIsTheOnlyFunctionExported()
     QCOMPARE(exportedSymbols(m_library.fileName()), QStringList("initPlugin"));
 }
 
-// The linker would take one of the two definitions for both.
+// The linker would use one of the two definitions for both.
 void TestPlugin::noTemplateOfTheComponentIsDefinedAgain()
 {
     const QStringList symbols = definedSymbols(m_library.fileName(), "--demangle");
@@ -87,7 +87,7 @@ void TestPlugin::loadingBringsTheValuePairOperationAlong()
     ::dlclose(operation);
 }
 
-// The window was complete when the host threw: it stays, and goes with the main window.
+// The host throws after the window is complete, so the window stays a child of the main window.
 void TestPlugin::anExceptionLeavesInitPluginAndTheNextCallTriesAgain()
 {
     const auto initPlugin = reinterpret_cast<InitPlugin>(m_library.resolve("initPlugin"));
@@ -127,7 +127,7 @@ void TestPlugin::theTypeOfTheStoredModuleIsTheEditor()
     QCOMPARE(module->getWidget(), kavoTestHost::docks().window("Node Editor"));
 }
 
-// Leaves the node shown: the rows go with the module, when the process exits.
+// Keeps the node shown, so that its rows are destroyed with the module at process exit.
 void TestPlugin::aNodeIsShownInTheWindow()
 {
     reinterpret_cast<InitPlugin>(m_library.resolve("initPlugin"))();

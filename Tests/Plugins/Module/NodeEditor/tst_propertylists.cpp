@@ -26,7 +26,7 @@ struct DerivedAnimation
 
 } // namespace
 
-// What the tree shows of fields with many elements.
+// Rows and groups of multi fields.
 class TestPropertyLists : public QObject
 {
     Q_OBJECT
@@ -179,7 +179,7 @@ void TestPropertyLists::chunksAreShownAtAnyNumber()
     osg::subRefCP(material);
 }
 
-// Deliberate: not even the size is shown.
+// Deliberate: the row with the size is missing too.
 void TestPropertyLists::aMaterialWithoutChunksHasNoChunkRow()
 {
     const osg::ChunkMaterialPtr material = osg::ChunkMaterial::create();

@@ -11,7 +11,7 @@
 
 using namespace kavoTreeRows;
 
-// Which groups and rows the tree shows of a container and of those it leads to.
+// Groups and rows of a container and of the containers that it refers to.
 class TestPropertyTree : public QObject
 {
     Q_OBJECT
@@ -86,7 +86,7 @@ void TestPropertyTree::fieldsStandInTheOrderOfTheirDescriptions()
     QCOMPARE(titles(top(*m_editor)), names);
 }
 
-// A node's travMask is described as a bool and is a number.
+// The description of a node's travMask says bool, but the field is a number.
 void TestPropertyTree::theFieldsOwnTypeDecides()
 {
     const kavoNodePtr node(kavoTestScene::makeGroup("Root"));

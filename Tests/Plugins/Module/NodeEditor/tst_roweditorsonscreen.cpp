@@ -15,7 +15,7 @@
 #include <QTreeWidget>
 #include <QtTest>
 
-// Both custom editors in rows of the real property tree.
+// Colour and enumeration editors in rows of a property tree.
 class TestRowEditorsOnScreen : public QObject
 {
     Q_OBJECT
@@ -77,7 +77,7 @@ void TestRowEditorsOnScreen::init()
     QVERIFY(QTest::qWaitForWindowActive(m_browser));
 }
 
-// The component remembers a browser by its address until it is told otherwise.
+// The component keeps pointers to a browser until its factories are unset.
 void TestRowEditorsOnScreen::cleanup()
 {
     m_browser->unsetFactoryForManager(m_enums);

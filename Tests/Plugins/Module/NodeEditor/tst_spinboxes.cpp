@@ -12,7 +12,7 @@
 
 using namespace kavoTreeRows;
 
-// How the spin boxes of number rows are typed into and stepped.
+// Typing and stepping in the spin boxes of number rows.
 class TestSpinBoxes : public QObject
 {
     Q_OBJECT

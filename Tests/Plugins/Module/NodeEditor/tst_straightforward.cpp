@@ -63,7 +63,7 @@ void collectItems(const QTreeWidgetItem &item, const QtBrowserItem &row, RealTex
         collectItems(*item.child(i), *children[i], texts, indent + "  ", states);
 }
 
-// All rows with all that the tree knows of each.
+// Returns all rows with all their data in the tree.
 QStringList itemsOf(const QtTreePropertyBrowser &browser, RealTexts texts = WithRealTexts)
 {
     QStringList states;
@@ -73,7 +73,7 @@ QStringList itemsOf(const QtTreePropertyBrowser &browser, RealTexts texts = With
     return states;
 }
 
-// The titles of the rows that are laid out on the screen, one below the other.
+// Returns the titles of the rows that are laid out on the screen, from top to bottom.
 QStringList shownRows(const QWidget &browser)
 {
     QStringList titles;
@@ -83,7 +83,7 @@ QStringList shownRows(const QWidget &browser)
     return titles;
 }
 
-// What an editor that shows something signals while it shows something else.
+// Returns the signals of an editor while it replaces one container by another.
 struct SignalLog
 {
     explicit SignalLog(kavoFCEditorWidget &editor)
@@ -113,7 +113,7 @@ struct SignalLog
 
 } // namespace
 
-// The quick ways of filling and of emptying the tree end like the straightforward ones.
+// Filling and emptying the tree in the fast way has the same result as in the straightforward way.
 class TestStraightforward : public QObject
 {
     Q_OBJECT
@@ -137,7 +137,7 @@ private:
 
     kavoNodePtr m_node;
     kavoFCEditorWidget *m_editor = nullptr;
-    kavoFCEditorWidget *m_plain = nullptr; ///< is filled without the help of setFC(name, container)
+    kavoFCEditorWidget *m_plain = nullptr; ///< filled without setFC(name, container)
 };
 
 void TestStraightforward::init()
@@ -206,7 +206,7 @@ void TestStraightforward::anEmptiedTreeIsLaidOutEmpty()
     QCOMPARE(tree.verticalScrollBar()->maximum(), 0);
 }
 
-// But for real numbers, which the component rounds to two decimals.
+// Except for real numbers, which the component rounds to two decimals.
 void TestStraightforward::theTreeIsThatOfThePlainComponent()
 {
     kavoStraightforwardBrowser plain;

@@ -17,7 +17,7 @@ using namespace kavoTreeRows;
 
 namespace {
 
-// Each light has the next node as its beacon.
+// Returns nodes whose lights have the next node as beacon.
 std::vector<kavoNodePtr> lightsBehindLights(int count)
 {
     std::vector<kavoNodePtr> nodes;
@@ -30,7 +30,7 @@ std::vector<kavoNodePtr> lightsBehindLights(int count)
     return nodes;
 }
 
-// The row of the node at the end of the chain, null if the chain breaks off before.
+// Returns the row of the last node in the chain, null if a row is missing.
 const QtProperty *lastRow(const kavoFCEditorWidget &editor, const std::vector<kavoNodePtr> &chain)
 {
     const QtProperty *row = top(editor);
@@ -41,8 +41,8 @@ const QtProperty *lastRow(const kavoFCEditorWidget &editor, const std::vector<ka
     return row;
 }
 
-// The first node shows more rows than a tree may have. Each chunk leads to the next node in four
-// ways.
+// Returns nodes that refer to the next one in four ways, by a chunk of their material. The first
+// node has more rows than a tree may have.
 std::vector<kavoNodePtr> manyWaysToTheSameNodes()
 {
     std::vector<kavoNodePtr> nodes { kavoTestScene::makeGroup("Last") };
@@ -68,7 +68,7 @@ void addList(const osg::AttachmentContainerPtr &container, const osg::NodePtr &n
     container->addAttachment(list);
 }
 
-// The groups that say that the tree ends.
+// Returns the groups that say that the tree ends.
 QList<QtProperty *> endings(const kavoFCEditorWidget &editor)
 {
     QList<QtProperty *> rows = all(editor);
@@ -81,7 +81,7 @@ QList<QtProperty *> endings(const kavoFCEditorWidget &editor)
 
 } // namespace
 
-// How far the tree follows containers that lead to one another.
+// Limits of the tree for containers that refer to one another.
 class TestTreeLimits : public QObject
 {
     Q_OBJECT
@@ -106,7 +106,7 @@ private:
     std::unique_ptr<kavoFCEditorWidget> m_editor;
 };
 
-// How many groups of that title directly below the top row have rows.
+// Counts the groups with that title directly below the top row that have rows.
 int TestTreeLimits::filledGroups(const QString &title) const
 {
     const QList<QtProperty *> groups = top(*m_editor)->subProperties();
@@ -124,7 +124,7 @@ void TestTreeLimits::pointersAreFollowedManyContainersDeep()
     QVERIFY(child(last, "travMask"));
 }
 
-// However deep the scene is, the stack is not.
+// A deep scene must not exhaust the stack.
 void TestTreeLimits::whatLiesTooDeepShowsItsTitleAlone()
 {
     const std::vector<kavoNodePtr> chain = lightsBehindLights(kavoFCEditorWidget::maxDepth / 2 + 1);
@@ -134,7 +134,7 @@ void TestTreeLimits::whatLiesTooDeepShowsItsTitleAlone()
     QVERIFY(last->subProperties().isEmpty());
 }
 
-// A light is often its own beacon. Only links to owners are cut off by name.
+// A light is often its own beacon. Only pointers to owners are recognised by their name.
 void TestTreeLimits::aContainerInsideItselfShowsItsTitleAlone()
 {
     const std::vector<kavoNodePtr> lights = lightsBehindLights(1);
@@ -193,7 +193,7 @@ void TestTreeLimits::aContainerInsideItselfDoesNotEndTheTree()
     osg::LightPtr::dcast(node->getCore())->setBeacon(osg::NullFC);
 }
 
-// A list of the node stands above its core, a list of the core above its material.
+// The list of the node stands above its core, the list of the core above its material.
 void TestTreeLimits::listsLeaveRowsToCoreAndMaterial()
 {
     const std::vector<kavoNodePtr> nodes = manyWaysToTheSameNodes();

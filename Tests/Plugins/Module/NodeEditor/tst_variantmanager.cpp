@@ -45,7 +45,7 @@ void TestVariantManager::textsHoldWhatTheyAreGiven()
     QCOMPARE(row->value().toString(), QString("a\nb"));
 }
 
-// A line edit refuses every key once its text does not match the row's expression.
+// A line edit rejects every key if its text does not match the row's expression.
 void TestVariantManager::textsAcceptLineBreaks()
 {
     kavoVariantPropertyManager manager;

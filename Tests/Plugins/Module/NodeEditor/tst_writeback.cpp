@@ -16,7 +16,7 @@
 
 using namespace kavoTreeRows;
 
-// What an edit of a row does to its field, to the container and to the change list.
+// Effects of an edit on field, container and change list.
 class TestWriteBack : public QObject
 {
     Q_OBJECT
@@ -114,7 +114,7 @@ void TestWriteBack::anEditGoesToTheChangeListBeforeChanged()
     QCOMPARE(m_rows->sampler()->listedBeforeChanged, 1u);
 }
 
-// A thread that the library does not know has none.
+// A thread that was not started by the library has no change list.
 void TestWriteBack::anEditNeedsNoChangeList()
 {
     QtProperty *real32 = row(m_rows->editor(), "real32");

@@ -23,7 +23,7 @@ void countMaterialUpdate(kavoMessage &message)
         ++materialUpdates;
 }
 
-// 9.729,5 for 9729.5
+// Writes 9729.5 as 9.729,5.
 struct CommaNumbers : std::numpunct<char>
 {
     char do_decimal_point() const override { return ','; }

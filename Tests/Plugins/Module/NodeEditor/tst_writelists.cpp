@@ -10,7 +10,7 @@
 
 using namespace kavoTreeRows;
 
-// Edits of rows that stand for lists.
+// Edits of list rows.
 class TestWriteLists : public QObject
 {
     Q_OBJECT

@@ -9,7 +9,7 @@
 
 using namespace kavoTreeRows;
 
-// Edits of string rows: the library writes strings in quotes and does not read them.
+// Edits of string rows. The library writes strings with quotes but reads them without.
 class TestWriteStrings : public QObject
 {
     Q_OBJECT
