@@ -40,9 +40,8 @@ osg::ChunkMaterialPtr makeMaterial()
 
 void attach(const osg::NodePtr &node, const osg::AttachmentPtr &attachment, int binding)
 {
-    osg::beginEditCP(node, osg::Node::AttachmentsFieldMask);
+    const osg::CPEditor edit(node, osg::Node::AttachmentsFieldMask);
     node->addAttachment(attachment, osg::UInt16(binding));
-    osg::endEditCP(node, osg::Node::AttachmentsFieldMask);
 }
 
 osg::TransformVariantListPtr makeVariants(int count)

@@ -44,7 +44,7 @@ QKAVOColorManipulator::QKAVOColorManipulator(QWidget *parent, const char *name)
 
 void QKAVOColorManipulator::setColor(float red, float green, float blue)
 {
-    m_color = toHsv({ finite(red), finite(green), finite(blue) });
+    m_color = kavoColorSpace::toHsv({ finite(red), finite(green), finite(blue) });
     if (m_popup)
         m_popup->setColor(m_color);
     update();
@@ -57,7 +57,7 @@ std::array<float, 4> QKAVOColorManipulator::getColor() const
 
 QString QKAVOColorManipulator::hexCode() const
 {
-    return toScreen(m_color).name();
+    return kavoColorSpace::toScreen(m_color).name();
 }
 
 void QKAVOColorManipulator::initStyleOption(QStyleOptionComboBox *option) const
@@ -67,7 +67,7 @@ void QKAVOColorManipulator::initStyleOption(QStyleOptionComboBox *option) const
     option->currentText = hexCode();
     const int height = fontMetrics().ascent();
     option->iconSize = QSize(2 * height, height);
-    option->currentIcon = swatch(toScreen(m_color), option->iconSize, *this);
+    option->currentIcon = swatch(kavoColorSpace::toScreen(m_color), option->iconSize, *this);
     if (m_popup && m_popup->isVisible())
         option->state |= QStyle::State_On;
 }
@@ -120,7 +120,7 @@ void QKAVOColorManipulator::paste()
 {
     const QColor color(QGuiApplication::clipboard()->text().trimmed());
     if (color.isValid())
-        changeColor(toHsv(fromScreen(color), m_color.hue));
+        changeColor(kavoColorSpace::toHsv(kavoColorSpace::fromScreen(color), m_color.hue));
 }
 
 // The popup is a child of this widget, so that the delegate of an item view sees the focus stay in

@@ -19,7 +19,7 @@ constexpr int gradientStretches = 6;
 
 double kavoColorChannel::Part::value(const kavoHsvColor &color) const
 {
-    return ofHsv ? color.*ofHsv : toRgb(color).*ofRgb;
+    return ofHsv ? color.*ofHsv : kavoColorSpace::toRgb(color).*ofRgb;
 }
 
 kavoHsvColor kavoColorChannel::Part::withValue(kavoHsvColor color, double value) const
@@ -28,9 +28,9 @@ kavoHsvColor kavoColorChannel::Part::withValue(kavoHsvColor color, double value)
         color.*ofHsv = value;
         return color;
     }
-    kavoRgbColor rgb = toRgb(color);
+    kavoRgbColor rgb = kavoColorSpace::toRgb(color);
     rgb.*ofRgb = value;
-    return toHsv(rgb, color.hue);
+    return kavoColorSpace::toHsv(rgb, color.hue);
 }
 
 kavoColorChannel::kavoColorChannel(const Part &part, QGridLayout *grid, QWidget *parent)
@@ -99,6 +99,7 @@ void kavoColorChannel::showGradient()
 {
     QVector<QColor> colors;
     for (int i = 0; i <= gradientStretches; ++i)
-        colors.append(toScreen(m_part.withValue(m_color, i * m_part.maximum / gradientStretches)));
+        colors.append(kavoColorSpace::toScreen(
+            m_part.withValue(m_color, i * m_part.maximum / gradientStretches)));
     m_slider->setColors(colors);
 }

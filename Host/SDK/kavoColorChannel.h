@@ -6,7 +6,7 @@
 
 namespace color_widgets {
 class GradientSlider;
-}
+} // namespace color_widgets
 class QDoubleSpinBox;
 class QGridLayout;
 

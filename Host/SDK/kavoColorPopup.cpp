@@ -127,8 +127,9 @@ void kavoColorPopup::createHexEntry()
     m_hex->setObjectName(QStringLiteral("hex"));
     m_hex->setShowAlpha(false);
     m_hex->setToolTip(tr("Hexadecimal code or name"));
-    connect(m_hex, &color_widgets::ColorLineEdit::colorEdited, this,
-        [this](const QColor &color) { change(toHsv(fromScreen(color), m_color.hue), m_hex); });
+    connect(m_hex, &color_widgets::ColorLineEdit::colorEdited, this, [this](const QColor &color) {
+        change(kavoColorSpace::toHsv(kavoColorSpace::fromScreen(color), m_color.hue), m_hex);
+    });
     connect(m_hex, &QLineEdit::editingFinished, this, [this] { refresh(nullptr); });
 }
 
@@ -164,8 +165,9 @@ QLayout *kavoColorPopup::createRecentColors()
     m_recent->setColorSizePolicy(color_widgets::Swatch::Fixed);
     m_recent->setToolTip(tr("Recent colors"));
     m_recent->setAccessibleName(tr("Recent colors"));
-    connect(m_recent, &color_widgets::Swatch::colorSelected, this,
-        [this](const QColor &color) { change(toHsv(fromScreen(color), m_color.hue), m_recent); });
+    connect(m_recent, &color_widgets::Swatch::colorSelected, this, [this](const QColor &color) {
+        change(kavoColorSpace::toHsv(kavoColorSpace::fromScreen(color), m_color.hue), m_recent);
+    });
     auto *row = new QHBoxLayout;
     row->addWidget(m_recentLabel);
     row->addWidget(m_recent);
@@ -187,7 +189,7 @@ void kavoColorPopup::setColor(const kavoHsvColor &color)
 {
     m_color = color;
     m_oldColor = color;
-    m_old->setColor(toScreen(color));
+    m_old->setColor(kavoColorSpace::toScreen(color));
     refresh(nullptr);
 }
 
@@ -218,7 +220,7 @@ void kavoColorPopup::change(const kavoHsvColor &color, const QObject *source)
 // Skips the control that the change comes from.
 void kavoColorPopup::refresh(const QObject *source)
 {
-    const QColor shown = toScreen(m_color);
+    const QColor shown = kavoColorSpace::toScreen(m_color);
     m_new->setColor(shown);
     if (source != m_hex) {
         const QSignalBlocker blocker(m_hex);
@@ -237,7 +239,7 @@ void kavoColorPopup::pickFromScreen()
 {
     auto *picker = new kavoScreenColorPicker(this);
     connect(picker, &kavoScreenColorPicker::picked, this, [this, picker](const QColor &color) {
-        change(toHsv(fromScreen(color), m_color.hue), picker);
+        change(kavoColorSpace::toHsv(kavoColorSpace::fromScreen(color), m_color.hue), picker);
     });
     picker->start();
 }
@@ -265,6 +267,6 @@ void kavoColorPopup::hideEvent(QHideEvent *event)
 {
     QFrame::hideEvent(event);
     if (m_color != m_oldColor)
-        kavoRecentColors::add(toScreen(m_color));
+        kavoRecentColors::add(kavoColorSpace::toScreen(m_color));
     emit closed();
 }

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+namespace kavoColorSpace {
+
 namespace {
 
 // Returns 0 to 6, from red over green and blue back to red.
@@ -50,3 +52,5 @@ kavoRgbColor fromScreen(const QColor &color)
 {
     return { color.redF(), color.greenF(), color.blueF() };
 }
+
+} // namespace kavoColorSpace

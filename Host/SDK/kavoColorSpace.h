@@ -18,6 +18,9 @@ struct kavoHsvColor
     double value = 0;
 };
 
+/// Conversions between the components of a colour.
+namespace kavoColorSpace {
+
 /// \param hueOfGrey the hue of the result if the colour is a grey
 kavoHsvColor toHsv(const kavoRgbColor &color, double hueOfGrey = 0);
 kavoRgbColor toRgb(const kavoHsvColor &color);
@@ -26,3 +29,5 @@ kavoRgbColor toRgb(const kavoHsvColor &color);
 QColor toScreen(const kavoRgbColor &color);
 QColor toScreen(const kavoHsvColor &color);
 kavoRgbColor fromScreen(const QColor &color);
+
+} // namespace kavoColorSpace

@@ -4,13 +4,15 @@
 
 #include <algorithm>
 
+namespace kavoRecentColors {
+
 namespace {
 
 const QString settingsKey = QStringLiteral("ColorPicker/recent");
 
-}
+} // namespace
 
-QVector<QColor> kavoRecentColors::load()
+QVector<QColor> load()
 {
     QVector<QColor> colors;
     for (const QVariant &color : QSettings().value(settingsKey).toList())
@@ -21,7 +23,7 @@ QVector<QColor> kavoRecentColors::load()
     return colors.mid(0, maxColors);
 }
 
-void kavoRecentColors::add(const QColor &color)
+void add(const QColor &color)
 {
     QVector<QColor> colors = load();
     colors.removeAll(color);
@@ -31,3 +33,5 @@ void kavoRecentColors::add(const QColor &color)
         list.append(recent);
     QSettings().setValue(settingsKey, list);
 }
+
+} // namespace kavoRecentColors

@@ -3,14 +3,15 @@
 #include <QColor>
 #include <QVector>
 
-/// The colours that the user chose last, newest first, kept in the application's settings.
-class kavoRecentColors
-{
-public:
-    static constexpr int maxColors = 14;
+/// The colours that the user chose last, stored in the application's settings.
+namespace kavoRecentColors {
 
-    static QVector<QColor> load();
+constexpr int maxColors = 14;
 
-    /// Puts the colour in front, where it had been elsewhere too.
-    static void add(const QColor &color);
-};
+/// Returns the newest colour first.
+QVector<QColor> load();
+
+/// Adds the colour as the newest one and removes an earlier occurrence.
+void add(const QColor &color);
+
+} // namespace kavoRecentColors

@@ -3,8 +3,8 @@
 #include <QByteArray>
 #include <QTemporaryFile>
 
-/// Redirects a standard stream to a file for as long as it lives. It works on the file descriptor,
-/// so it sees what printf, std::cout, child libraries and QTextStream write alike.
+/// Redirects a standard stream to a file while it exists. It redirects the file descriptor, so it
+/// captures output of printf, std::cout, QTextStream and other libraries.
 class kavoConsoleCapture
 {
 public:
@@ -15,7 +15,7 @@ public:
     kavoConsoleCapture(const kavoConsoleCapture &) = delete;
     kavoConsoleCapture &operator=(const kavoConsoleCapture &) = delete;
 
-    /// Everything written since construction.
+    /// Returns everything that was written since construction.
     QByteArray text();
 
 private:

@@ -3,37 +3,42 @@
 #include <QProcess>
 #include <QtTest>
 
-/// Mouse and keyboard of the X server itself, so that a test goes through everything that a user's
-/// input goes through: the server's grabs, the focus and the event loop.
-class kavoRealInput
+/// Mouse and keyboard input through the X server, so that a test includes everything that a user's
+/// input passes: the server's grabs, the focus and the event loop.
+namespace kavoRealInput {
+
+inline void run(const QStringList &arguments)
 {
-public:
-    static void moveTo(const QPoint &global)
-    {
-        run({ "mousemove", QString::number(global.x()), QString::number(global.y()) });
-    }
+    if (QProcess::execute("xdotool", arguments) != 0)
+        QFAIL("xdotool failed");
+    QTest::qWait(100);
+}
 
-    static void click(const QPoint &global)
-    {
-        moveTo(global);
-        run({ "click", "1" });
-    }
+inline void moveTo(const QPoint &global)
+{
+    run({ "mousemove", QString::number(global.x()), QString::number(global.y()) });
+}
 
-    static void click(const QWidget *widget)
-    {
-        click(widget->mapToGlobal(widget->rect().center()));
-    }
+inline void click(const QPoint &global)
+{
+    moveTo(global);
+    run({ "click", "1" });
+}
 
-    /// Keys as xdotool names them: "Return", "alt+Down".
-    static void press(const QStringList &keys) { run(QStringList("key") + keys); }
+inline void click(const QWidget *widget)
+{
+    click(widget->mapToGlobal(widget->rect().center()));
+}
 
-    static void type(const QString &text) { run({ "type", "--", text }); }
+/// Presses keys by their names in xdotool, such as "Return" and "alt+Down".
+inline void press(const QStringList &keys)
+{
+    run(QStringList("key") + keys);
+}
 
-private:
-    static void run(const QStringList &arguments)
-    {
-        if (QProcess::execute("xdotool", arguments) != 0)
-            QFAIL("xdotool failed");
-        QTest::qWait(100);
-    }
-};
+inline void type(const QString &text)
+{
+    run({ "type", "--", text });
+}
+
+} // namespace kavoRealInput

@@ -14,13 +14,13 @@
 
 namespace {
 
-// Reached from here for ever and never deleted: static objects of plug-ins die later.
+// Never deleted, because static objects of plug-ins are destroyed later and use them.
 int argumentCount = 0;
 QApplication *application = nullptr;
 QMainWindow *window = nullptr;
 QKAVODockWindowManager *docks = nullptr;
 
-}
+} // namespace
 
 QMainWindow &kavoTestHost::mainWindow()
 {
@@ -53,7 +53,7 @@ void kavoTestHost::start(int argc, char **argv)
     kavoController::setDockWindowManager(::docks);
 }
 
-// The application object has taken its own options out of the arguments.
+// The application object has removed its own options from the arguments.
 int kavoTestHost::execute(QObject &test, char **argv)
 {
     return QTest::qExec(&test, argumentCount, argv);

@@ -40,4 +40,4 @@ std::vector<Pair> of(const osg::NodePtr &node)
     return pairs;
 }
 
-}
+} // namespace kavoTestPairs

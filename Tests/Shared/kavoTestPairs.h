@@ -17,15 +17,15 @@ struct Pair
     bool operator==(const Pair &other) const;
 };
 
-/// A Group node with these pairs, or without an attachment if there are none, as last child of the
-/// parent. Unnamed if the name is null.
+/// Adds a Group node with these pairs as last child of the parent. The node has no attachment if
+/// there are no pairs, and no name if `name` is null.
 osg::NodePtr addNode(
     const osg::NodePtr &parent, const char *name, const std::vector<Pair> &pairs = {});
 
-/// The node's attachment, null if it has none.
+/// Returns the node's attachment, null if it has none.
 osg::ValuePairBasePtr attachment(const osg::NodePtr &node);
 
-/// The node's pairs; missing values are empty.
+/// Returns the node's pairs. Missing values are empty.
 std::vector<Pair> of(const osg::NodePtr &node);
 
-}
+} // namespace kavoTestPairs

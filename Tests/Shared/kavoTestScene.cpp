@@ -50,4 +50,4 @@ kavoNodePtr makeTruck()
     return root;
 }
 
-}
+} // namespace kavoTestScene

@@ -6,23 +6,23 @@
 #include <OpenSG/OSGNode.h>
 #include <OpenSG/OSGNodeCore.h>
 
-/// Small scenes for tests. What is returned has no references of its own: keep it in a kavoNodePtr
-/// or hang it below something that is kept.
+/// Small scenes for tests. The results have no references unless stated otherwise: keep them in a
+/// kavoNodePtr or add them to a node that is kept.
 namespace kavoTestScene {
 
-/// A node with a core (null for none), unnamed if the name is null, as last child of the parent.
+/// Creates a node as last child of the parent. Core and name may be null.
 osg::NodePtr makeNode(
     const char *name, const osg::NodeCorePtr &core, const osg::NodePtr &parent = osg::NodePtr());
-/// The same with a Group core.
+/// Creates a node with a Group core.
 osg::NodePtr makeGroup(const char *name, const osg::NodePtr &parent = osg::NodePtr());
-/// A geometry without vertices that wears the material.
+/// Creates a node with a geometry that has the material and no vertices.
 osg::NodePtr makeGeometry(const char *name, const osg::MaterialPtr &material,
     const osg::NodePtr &parent = osg::NodePtr());
-/// A material of two chunks, a MaterialChunk and a BlendChunk.
+/// Creates a material with a MaterialChunk and a BlendChunk.
 osg::ChunkMaterialPtr makeMaterial();
 
-/// Group "Root" with children: Transform "Wheel" (child: geometry "Tyre" with a material), and a
-/// nameless group. Referenced by the result.
+/// Creates a group "Root" with two children: a Transform "Wheel", whose child is a geometry "Tyre"
+/// with a material, and a group without a name. The result holds a reference.
 kavoNodePtr makeTruck();
 
-}
+} // namespace kavoTestScene

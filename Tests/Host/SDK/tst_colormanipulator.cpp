@@ -12,9 +12,9 @@ namespace {
 
 constexpr float infinity = std::numeric_limits<float>::infinity();
 
-}
+} // namespace
 
-class TestColorManipulator : public QObject, private kavoPickerFixture
+class tst_ColorManipulator : public QObject, private kavoPickerFixture
 {
     Q_OBJECT
 
@@ -40,24 +40,24 @@ private slots:
     void thePickerDiesWithItsPopupOpen();
 };
 
-void TestColorManipulator::init()
+void tst_ColorManipulator::init()
 {
     setUp();
 }
 
-void TestColorManipulator::cleanup()
+void tst_ColorManipulator::cleanup()
 {
     tearDown();
 }
 
-void TestColorManipulator::theNameIsTheObjectName()
+void tst_ColorManipulator::theNameIsTheObjectName()
 {
     QCOMPARE(m_picker->objectName(), QStringLiteral("picker"));
     QCOMPARE(m_picker->parentWidget(), m_window.get());
     QCOMPARE(QKAVOColorManipulator(nullptr, nullptr).objectName(), QString());
 }
 
-void TestColorManipulator::theOnlySignalIsColorChanged()
+void tst_ColorManipulator::theOnlySignalIsColorChanged()
 {
     const QMetaObject &metaObject = QKAVOColorManipulator::staticMetaObject;
     QCOMPARE(metaObject.methodCount() - metaObject.methodOffset(), 1);
@@ -65,7 +65,7 @@ void TestColorManipulator::theOnlySignalIsColorChanged()
         QByteArray("colorChanged()"));
 }
 
-void TestColorManipulator::rgbComesBackAsHsv_data()
+void tst_ColorManipulator::rgbComesBackAsHsv_data()
 {
     QTest::addColumn<Components>("rgb");
     QTest::addColumn<Components>("hsv");
@@ -82,14 +82,14 @@ void TestColorManipulator::rgbComesBackAsHsv_data()
     QTest::newRow("rose") << Components { 1, 0, 0.5f } << Components { 330, 1, 1 };
 }
 
-void TestColorManipulator::rgbComesBackAsHsv()
+void tst_ColorManipulator::rgbComesBackAsHsv()
 {
     QFETCH(Components, rgb);
     m_picker->setColor(rgb[0], rgb[1], rgb[2]);
     QTEST(hsv(*m_picker), "hsv");
 }
 
-void TestColorManipulator::componentsAreNotRounded()
+void tst_ColorManipulator::componentsAreNotRounded()
 {
     m_picker->setColor(0.12345678f, 0.1f, 0.07654321f);
     const auto [hue, saturation, value, unused] = m_picker->getColor();
@@ -99,19 +99,19 @@ void TestColorManipulator::componentsAreNotRounded()
     QCOMPARE(hue, 60 * (0.1f - 0.07654321f) / (0.12345678f - 0.07654321f));
 }
 
-void TestColorManipulator::brighterThanWhiteIsKept()
+void tst_ColorManipulator::brighterThanWhiteIsKept()
 {
     m_picker->setColor(3, 1.5f, 0);
     QCOMPARE(hsv(*m_picker), Components({ 30, 1, 3 }));
 }
 
-void TestColorManipulator::notFiniteComponentsCountAsZero()
+void tst_ColorManipulator::notFiniteComponentsCountAsZero()
 {
     m_picker->setColor(infinity, std::numeric_limits<float>::quiet_NaN(), 0.5f);
     QCOMPARE(hsv(*m_picker), Components({ 240, 1, 0.5f }));
 }
 
-void TestColorManipulator::settingTheColorDoesNotSignal()
+void tst_ColorManipulator::settingTheColorDoesNotSignal()
 {
     open();
     QSignalSpy changed(m_picker, &QKAVOColorManipulator::colorChanged);
@@ -120,7 +120,7 @@ void TestColorManipulator::settingTheColorDoesNotSignal()
     QCOMPARE(child<QLineEdit>("hex")->text(), QStringLiteral("#ff0000"));
 }
 
-void TestColorManipulator::fitsIntoARow()
+void tst_ColorManipulator::fitsIntoARow()
 {
     QVERIFY(m_picker->minimumSizeHint().height() <= m_picker->fontMetrics().height());
     QVERIFY(m_picker->sizeHint().width()
@@ -128,7 +128,7 @@ void TestColorManipulator::fitsIntoARow()
     QCOMPARE(m_picker->focusPolicy(), Qt::WheelFocus);
 }
 
-void TestColorManipulator::keysOpenThePopup_data()
+void tst_ColorManipulator::keysOpenThePopup_data()
 {
     QTest::addColumn<int>("key");
     QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
@@ -137,7 +137,7 @@ void TestColorManipulator::keysOpenThePopup_data()
     QTest::newRow("Alt+Down") << int(Qt::Key_Down) << Qt::KeyboardModifiers(Qt::AltModifier);
 }
 
-void TestColorManipulator::keysOpenThePopup()
+void tst_ColorManipulator::keysOpenThePopup()
 {
     QFETCH(int, key);
     QFETCH(Qt::KeyboardModifiers, modifiers);
@@ -147,7 +147,7 @@ void TestColorManipulator::keysOpenThePopup()
     QCOMPARE(popup()->focusWidget(), child<QLineEdit>("hex"));
 }
 
-void TestColorManipulator::otherKeysStayWithTheParent_data()
+void tst_ColorManipulator::otherKeysStayWithTheParent_data()
 {
     QTest::addColumn<int>("key");
     QTest::newRow("Enter") << int(Qt::Key_Return);
@@ -155,7 +155,7 @@ void TestColorManipulator::otherKeysStayWithTheParent_data()
     QTest::newRow("Down") << int(Qt::Key_Down);
 }
 
-void TestColorManipulator::otherKeysStayWithTheParent()
+void tst_ColorManipulator::otherKeysStayWithTheParent()
 {
     QFETCH(int, key);
     QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
@@ -164,7 +164,7 @@ void TestColorManipulator::otherKeysStayWithTheParent()
     QVERIFY(!popup());
 }
 
-void TestColorManipulator::aLeftClickOpensThePopup()
+void tst_ColorManipulator::aLeftClickOpensThePopup()
 {
     QTest::mouseClick(m_picker, Qt::RightButton);
     QVERIFY(!popup());
@@ -172,7 +172,7 @@ void TestColorManipulator::aLeftClickOpensThePopup()
     QVERIFY(popup() && popup()->isVisible());
 }
 
-void TestColorManipulator::hexCodesAreCopiedAndPasted()
+void tst_ColorManipulator::hexCodesAreCopiedAndPasted()
 {
     QTest::keySequence(m_picker, QKeySequence::Copy);
     QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("#339966"));
@@ -183,7 +183,7 @@ void TestColorManipulator::hexCodesAreCopiedAndPasted()
     QCOMPARE(hsv(*m_picker), Components({ 0, 1, 1 }));
 }
 
-void TestColorManipulator::otherTextIsNotPasted()
+void tst_ColorManipulator::otherTextIsNotPasted()
 {
     QSignalSpy changed(m_picker, &QKAVOColorManipulator::colorChanged);
     QGuiApplication::clipboard()->setText("a text");
@@ -191,7 +191,7 @@ void TestColorManipulator::otherTextIsNotPasted()
     QCOMPARE(changed.count(), 0);
 }
 
-void TestColorManipulator::thePickerDiesWithItsPopupOpen()
+void tst_ColorManipulator::thePickerDiesWithItsPopupOpen()
 {
     open();
     const QPointer<QWidget> open = popup();
@@ -200,5 +200,5 @@ void TestColorManipulator::thePickerDiesWithItsPopupOpen()
     QVERIFY(!QApplication::activePopupWidget());
 }
 
-QTEST_MAIN(TestColorManipulator)
+QTEST_MAIN(tst_ColorManipulator)
 #include "tst_colormanipulator.moc"

@@ -10,7 +10,7 @@
 #include <QVBoxLayout>
 #include <QtTest>
 
-class TestColorManipulatorOnScreen : public QObject
+class tst_ColorManipulatorOnScreen : public QObject
 {
     Q_OBJECT
 private slots:
@@ -36,7 +36,7 @@ private:
     QKAVOColorManipulator *m_picker = nullptr;
 };
 
-void TestColorManipulatorOnScreen::initTestCase()
+void tst_ColorManipulatorOnScreen::initTestCase()
 {
     QCoreApplication::setOrganizationName("kavotest");
     QCoreApplication::setApplicationName("colormanipulatoronscreen");
@@ -44,7 +44,7 @@ void TestColorManipulatorOnScreen::initTestCase()
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_settings.path());
 }
 
-void TestColorManipulatorOnScreen::init()
+void tst_ColorManipulatorOnScreen::init()
 {
     m_window = new QWidget;
     m_target = new QWidget(m_window);
@@ -61,18 +61,18 @@ void TestColorManipulatorOnScreen::init()
     QVERIFY(QTest::qWaitForWindowActive(m_window));
 }
 
-void TestColorManipulatorOnScreen::cleanup()
+void tst_ColorManipulatorOnScreen::cleanup()
 {
     delete m_window;
 }
 
-void TestColorManipulatorOnScreen::open()
+void tst_ColorManipulatorOnScreen::open()
 {
     kavoRealInput::press({ "alt+Down" });
     QTRY_VERIFY(child("colorPopup") && child("colorPopup")->isVisible());
 }
 
-void TestColorManipulatorOnScreen::aSecondClickClosesThePopup()
+void tst_ColorManipulatorOnScreen::aSecondClickClosesThePopup()
 {
     kavoRealInput::click(m_picker);
     QTRY_VERIFY(child("colorPopup") && child("colorPopup")->isVisible());
@@ -80,7 +80,7 @@ void TestColorManipulatorOnScreen::aSecondClickClosesThePopup()
     QTRY_VERIFY(!child("colorPopup")->isVisible());
 }
 
-void TestColorManipulatorOnScreen::aClickOutsideKeepsTheColor()
+void tst_ColorManipulatorOnScreen::aClickOutsideKeepsTheColor()
 {
     open();
     kavoRealInput::type("#00ff00");
@@ -89,7 +89,7 @@ void TestColorManipulatorOnScreen::aClickOutsideKeepsTheColor()
     QCOMPARE(m_picker->getColor()[0], 120.0f);
 }
 
-void TestColorManipulatorOnScreen::focusReturnsWhenThePopupCloses()
+void tst_ColorManipulatorOnScreen::focusReturnsWhenThePopupCloses()
 {
     open();
     QVERIFY(!m_picker->hasFocus());
@@ -98,7 +98,7 @@ void TestColorManipulatorOnScreen::focusReturnsWhenThePopupCloses()
     open();
 }
 
-void TestColorManipulatorOnScreen::tabGoesThroughTheFields()
+void tst_ColorManipulatorOnScreen::tabGoesThroughTheFields()
 {
     QSettings().setValue("ColorPicker/recent", QVariantList { QColor(Qt::red) });
     open();
@@ -116,7 +116,7 @@ void TestColorManipulatorOnScreen::tabGoesThroughTheFields()
     QCOMPARE(QApplication::focusWidget(), child("hex"));
 }
 
-void TestColorManipulatorOnScreen::thePopupStaysOnTheScreen()
+void tst_ColorManipulatorOnScreen::thePopupStaysOnTheScreen()
 {
     const QRect available = m_window->screen()->availableGeometry();
     m_window->move(available.bottomRight() - QPoint(220, 60));
@@ -126,7 +126,7 @@ void TestColorManipulatorOnScreen::thePopupStaysOnTheScreen()
     QVERIFY(child("colorPopup")->geometry().bottom() < m_picker->mapToGlobal(QPoint()).y());
 }
 
-void TestColorManipulatorOnScreen::theEyedropperTakesTheClickedPixel()
+void tst_ColorManipulatorOnScreen::theEyedropperTakesTheClickedPixel()
 {
     open();
     kavoRealInput::click(child("eyedropper"));
@@ -140,7 +140,7 @@ void TestColorManipulatorOnScreen::theEyedropperTakesTheClickedPixel()
     QVERIFY(child("colorPopup")->isVisible());
 }
 
-void TestColorManipulatorOnScreen::theEyedropperIsMovedAndUsedByKeys()
+void tst_ColorManipulatorOnScreen::theEyedropperIsMovedAndUsedByKeys()
 {
     open();
     kavoRealInput::press({ "Tab", "space" });
@@ -153,7 +153,7 @@ void TestColorManipulatorOnScreen::theEyedropperIsMovedAndUsedByKeys()
     QCOMPARE(qRound(m_picker->getColor()[0]), 210);
 }
 
-void TestColorManipulatorOnScreen::escapeGivesTheEyedropperUpAlone()
+void tst_ColorManipulatorOnScreen::escapeGivesTheEyedropperUpAlone()
 {
     open();
     kavoRealInput::click(child("eyedropper"));
@@ -164,5 +164,5 @@ void TestColorManipulatorOnScreen::escapeGivesTheEyedropperUpAlone()
     QCOMPARE(m_picker->getColor()[0], 0.0f);
 }
 
-QTEST_MAIN(TestColorManipulatorOnScreen)
+QTEST_MAIN(tst_ColorManipulatorOnScreen)
 #include "tst_colormanipulatoronscreen.moc"

@@ -7,7 +7,7 @@
 #include <QSlider>
 #include <QtTest>
 
-class TestColorPopup : public QObject, private kavoPickerFixture
+class tst_ColorPopup : public QObject, private kavoPickerFixture
 {
     Q_OBJECT
 
@@ -33,17 +33,17 @@ private slots:
     void aClickOnTheOldColorTakesItBack();
 };
 
-void TestColorPopup::init()
+void tst_ColorPopup::init()
 {
     setUp();
 }
 
-void TestColorPopup::cleanup()
+void tst_ColorPopup::cleanup()
 {
     tearDown();
 }
 
-void TestColorPopup::fieldsShowTheColor()
+void tst_ColorPopup::fieldsShowTheColor()
 {
     open();
     QCOMPARE(child<QDoubleSpinBox>("HueField")->value(), 150.0);
@@ -55,7 +55,7 @@ void TestColorPopup::fieldsShowTheColor()
     QCOMPARE(child<QLineEdit>("hex")->text(), QStringLiteral("#339966"));
 }
 
-void TestColorPopup::aFieldShowsTheTrueNumberBeyondItsRange()
+void tst_ColorPopup::aFieldShowsTheTrueNumberBeyondItsRange()
 {
     m_picker->setColor(3, 1, -0.5f);
     open();
@@ -65,7 +65,7 @@ void TestColorPopup::aFieldShowsTheTrueNumberBeyondItsRange()
     QCOMPARE(child<QDoubleSpinBox>("RedField")->maximum(), 1.0);
 }
 
-void TestColorPopup::fieldsSetTheirComponent_data()
+void tst_ColorPopup::fieldsSetTheirComponent_data()
 {
     QTest::addColumn<double>("value");
     QTest::addColumn<Components>("hsv");
@@ -77,7 +77,7 @@ void TestColorPopup::fieldsSetTheirComponent_data()
     QTest::newRow("Blue") << 0.25 << Components { 150, 1, 0.5f };
 }
 
-void TestColorPopup::fieldsSetTheirComponent()
+void tst_ColorPopup::fieldsSetTheirComponent()
 {
     m_picker->setColor(0, 0.5f, 0);
     open();
@@ -88,7 +88,7 @@ void TestColorPopup::fieldsSetTheirComponent()
     QTEST(hsv(*m_picker), "hsv");
 }
 
-void TestColorPopup::slidersSetTheirComponent_data()
+void tst_ColorPopup::slidersSetTheirComponent_data()
 {
     QTest::addColumn<Components>("hsv");
     QTest::newRow("Hue") << Components { 180, 1, 0.5f };
@@ -99,7 +99,7 @@ void TestColorPopup::slidersSetTheirComponent_data()
     QTest::newRow("Blue") << Components { 180, 1, 0.5f };
 }
 
-void TestColorPopup::slidersSetTheirComponent()
+void tst_ColorPopup::slidersSetTheirComponent()
 {
     m_picker->setColor(0, 0.5f, 0);
     open();
@@ -109,7 +109,7 @@ void TestColorPopup::slidersSetTheirComponent()
     QTEST(hsv(*m_picker), "hsv");
 }
 
-void TestColorPopup::theWheelSetsTheHue()
+void tst_ColorPopup::theWheelSetsTheHue()
 {
     m_picker->setColor(1, 0, 0);
     open();
@@ -122,14 +122,14 @@ void TestColorPopup::theWheelSetsTheHue()
     QCOMPARE(m_picker->getColor()[1], 1.0f);
 }
 
-void TestColorPopup::hueOutlivesGreyAndBlack_data()
+void tst_ColorPopup::hueOutlivesGreyAndBlack_data()
 {
     QTest::addColumn<QByteArrayList>("fields");
     QTest::newRow("grey") << QByteArrayList { "SaturationField" };
     QTest::newRow("black") << QByteArrayList { "ValueField" };
 }
 
-void TestColorPopup::hueOutlivesGreyAndBlack()
+void tst_ColorPopup::hueOutlivesGreyAndBlack()
 {
     m_picker->setColor(0, 0.5f, 0);
     open();
@@ -140,7 +140,7 @@ void TestColorPopup::hueOutlivesGreyAndBlack()
     QCOMPARE(m_picker->getColor()[0], 120.0f);
 }
 
-void TestColorPopup::typingAHexCodeSetsTheColor()
+void tst_ColorPopup::typingAHexCodeSetsTheColor()
 {
     open();
     QTest::keyClicks(child<QLineEdit>("hex"), "#ff8000");
@@ -149,7 +149,7 @@ void TestColorPopup::typingAHexCodeSetsTheColor()
     QCOMPARE(child<QDoubleSpinBox>("GreenField")->value(), 0.502);
 }
 
-void TestColorPopup::typingIsNotInterrupted()
+void tst_ColorPopup::typingIsNotInterrupted()
 {
     open();
     auto *hex = child<QLineEdit>("hex");
@@ -160,7 +160,7 @@ void TestColorPopup::typingIsNotInterrupted()
     QCOMPARE(child<QDoubleSpinBox>("BlueField")->value(), 0.259);
 }
 
-void TestColorPopup::anIncompleteHexCodeIsPutRight()
+void tst_ColorPopup::anIncompleteHexCodeIsPutRight()
 {
     open();
     auto *hex = child<QLineEdit>("hex");
@@ -171,7 +171,7 @@ void TestColorPopup::anIncompleteHexCodeIsPutRight()
     QCOMPARE(changed.count(), 0);
 }
 
-void TestColorPopup::enterAndOthersKeepTheColor_data()
+void tst_ColorPopup::enterAndOthersKeepTheColor_data()
 {
     QTest::addColumn<int>("key");
     QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
@@ -181,7 +181,7 @@ void TestColorPopup::enterAndOthersKeepTheColor_data()
     QTest::newRow("Alt+Up") << int(Qt::Key_Up) << Qt::KeyboardModifiers(Qt::AltModifier);
 }
 
-void TestColorPopup::enterAndOthersKeepTheColor()
+void tst_ColorPopup::enterAndOthersKeepTheColor()
 {
     open();
     child<QDoubleSpinBox>("HueField")->setValue(30);
@@ -192,7 +192,7 @@ void TestColorPopup::enterAndOthersKeepTheColor()
     QCOMPARE(m_picker->getColor()[0], 30.0f);
 }
 
-void TestColorPopup::escapeBringsTheOldColorBackUnrounded()
+void tst_ColorPopup::escapeBringsTheOldColorBackUnrounded()
 {
     const Components before = hsv(*m_picker);
     open();
@@ -204,7 +204,7 @@ void TestColorPopup::escapeBringsTheOldColorBackUnrounded()
     QCOMPARE(hsv(*m_picker), before);
 }
 
-void TestColorPopup::escapeWithoutAChangeDoesNotSignal()
+void tst_ColorPopup::escapeWithoutAChangeDoesNotSignal()
 {
     open();
     QSignalSpy changed(m_picker, &QKAVOColorManipulator::colorChanged);
@@ -213,7 +213,7 @@ void TestColorPopup::escapeWithoutAChangeDoesNotSignal()
     QVERIFY(!popup()->isVisible());
 }
 
-void TestColorPopup::aClickOnTheOldColorTakesItBack()
+void tst_ColorPopup::aClickOnTheOldColorTakesItBack()
 {
     const Components before = hsv(*m_picker);
     open();
@@ -223,5 +223,5 @@ void TestColorPopup::aClickOnTheOldColorTakesItBack()
     QVERIFY(popup()->isVisible());
 }
 
-QTEST_MAIN(TestColorPopup)
+QTEST_MAIN(tst_ColorPopup)
 #include "tst_colorpopup.moc"

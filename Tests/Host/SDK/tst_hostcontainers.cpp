@@ -139,9 +139,10 @@ void tst_HostContainers::anEditOfValuePairsGoesToTheChangeList()
     const osg::ValuePairBasePtr pairs = osg::ValuePairBase::create();
     osg::ChangeList *changes = osg::Thread::getCurrentChangeList();
     changes->clearAll();
-    osg::beginEditCP(pairs, osg::ValuePairBase::KeysFieldMask);
-    pairs->getKeys().push_back("mass");
-    osg::endEditCP(pairs, osg::ValuePairBase::KeysFieldMask);
+    {
+        const osg::CPEditor edit(pairs, osg::ValuePairBase::KeysFieldMask);
+        pairs->getKeys().push_back("mass");
+    }
     QCOMPARE(changes->sizeChanged(), decltype(changes->sizeChanged())(1));
     QCOMPARE(changes->beginChanged()->first, pairs.getFieldContainerId());
     QCOMPARE(changes->beginChanged()->second, osg::ValuePairBase::KeysFieldMask);
@@ -196,8 +197,10 @@ void tst_HostContainers::anEditOfAVariantListTakesReferencesToo()
     const osg::TransformVariantListPtr list = osg::TransformVariantList::create();
     osg::addRefCP(list);
     list->addVariant(variant);
-    list->getMFVariants()->push_back(variant);
-    osg::endEditCP(list, osg::TransformVariantList::VariantsFieldMask);
+    {
+        const osg::CPEditor edit(list, osg::TransformVariantList::VariantsFieldMask);
+        list->getMFVariants()->push_back(variant);
+    }
     QCOMPARE(variant.getRefCount(), 2);
     const osg::UInt32 id = variant.getFieldContainerId();
     osg::subRefCP(list);

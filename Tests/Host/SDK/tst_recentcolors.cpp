@@ -26,7 +26,7 @@ QVector<QColor> recentColors()
 
 } // namespace
 
-class TestRecentColors : public QObject, private kavoPickerFixture
+class tst_RecentColors : public QObject, private kavoPickerFixture
 {
     Q_OBJECT
 
@@ -40,17 +40,17 @@ private slots:
     void damagedSettingsGiveNoRecentColors();
 };
 
-void TestRecentColors::init()
+void tst_RecentColors::init()
 {
     setUp();
 }
 
-void TestRecentColors::cleanup()
+void tst_RecentColors::cleanup()
 {
     tearDown();
 }
 
-void TestRecentColors::theChosenColorBecomesRecent()
+void tst_RecentColors::theChosenColorBecomesRecent()
 {
     open();
     QVERIFY(!child<QWidget>("recentColors")->isVisible());
@@ -61,7 +61,7 @@ void TestRecentColors::theChosenColorBecomesRecent()
     QVERIFY(child<QWidget>("recentColors")->isVisible());
 }
 
-void TestRecentColors::aColorTakenBackDoesNotBecomeRecent()
+void tst_RecentColors::aColorTakenBackDoesNotBecomeRecent()
 {
     open();
     QTest::keyClicks(child<QLineEdit>("hex"), "#ff8000");
@@ -69,7 +69,7 @@ void TestRecentColors::aColorTakenBackDoesNotBecomeRecent()
     QCOMPARE(recentColors(), QVector<QColor>());
 }
 
-void TestRecentColors::recentColorsAreDistinctAndLimited()
+void tst_RecentColors::recentColorsAreDistinctAndLimited()
 {
     for (int i : { 10, 20, 30, 40, 50, 60, 70, 80, 90, 11, 21, 31, 41, 51, 61, 60 }) {
         open();
@@ -83,7 +83,7 @@ void TestRecentColors::recentColorsAreDistinctAndLimited()
     QCOMPARE(recent.last(), QColor("#000020"));
 }
 
-void TestRecentColors::aRecentColorIsChosenWithTheKeyboard()
+void tst_RecentColors::aRecentColorIsChosenWithTheKeyboard()
 {
     setRecentColors({ Qt::red, Qt::green });
     open();
@@ -96,12 +96,12 @@ void TestRecentColors::aRecentColorIsChosenWithTheKeyboard()
     QVERIFY(!popup()->isVisible());
 }
 
-void TestRecentColors::damagedSettingsGiveNoRecentColors()
+void tst_RecentColors::damagedSettingsGiveNoRecentColors()
 {
     QSettings().setValue("ColorPicker/recent", QVariantList { "nonsense", 7 });
     open();
     QVERIFY(!child<QWidget>("recentColors")->isVisible());
 }
 
-QTEST_MAIN(TestRecentColors)
+QTEST_MAIN(tst_RecentColors)
 #include "tst_recentcolors.moc"

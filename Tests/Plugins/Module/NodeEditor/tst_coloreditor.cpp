@@ -10,7 +10,7 @@
 using Fixture = kavoEditorFixture<QtKavoColorPropertyManager, QtKavoColorEditorFactory,
     QKAVOColorManipulator, colorVal>;
 
-class TestColorEditor : public QObject, private Fixture
+class tst_ColorEditor : public QObject, private Fixture
 {
     Q_OBJECT
 
@@ -32,18 +32,18 @@ private slots:
     void anEditorOutlivesItsManager();
 };
 
-void TestColorEditor::init()
+void tst_ColorEditor::init()
 {
     setUp();
     qRegisterMetaType<colorVal>("colorVal");
 }
 
-void TestColorEditor::cleanup()
+void tst_ColorEditor::cleanup()
 {
     tearDown();
 }
 
-void TestColorEditor::thePickerStartsWithTheColorOfTheProperty()
+void tst_ColorEditor::thePickerStartsWithTheColorOfTheProperty()
 {
     const QKAVOColorManipulator *editor = edit(add("diffuse", { 0, 0.5f, 0, 0.25f }));
     QCOMPARE(editor->parentWidget(), m_parent.get());
@@ -52,7 +52,7 @@ void TestColorEditor::thePickerStartsWithTheColorOfTheProperty()
     QCOMPARE(QVector<float>({ hsv[0], hsv[1], hsv[2] }), QVector<float>({ 120, 1, 0.5f }));
 }
 
-void TestColorEditor::thePickerOfAForeignPropertyIsBlack()
+void tst_ColorEditor::thePickerOfAForeignPropertyIsBlack()
 {
     QtKavoColorPropertyManager other;
     QtProperty *foreign = other.addProperty("diffuse");
@@ -61,7 +61,7 @@ void TestColorEditor::thePickerOfAForeignPropertyIsBlack()
     QCOMPARE(editor->getColor()[2], 0.0f);
 }
 
-void TestColorEditor::pickedHsvBecomesRgb_data()
+void tst_ColorEditor::pickedHsvBecomesRgb_data()
 {
     QTest::addColumn<double>("hue");
     QTest::addColumn<colorVal>("rgb");
@@ -78,7 +78,7 @@ void TestColorEditor::pickedHsvBecomesRgb_data()
     QTest::newRow("negative is 0") << -30.0 << colorVal { 1, 0, 0, 1 };
 }
 
-void TestColorEditor::pickedHsvBecomesRgb()
+void tst_ColorEditor::pickedHsvBecomesRgb()
 {
     QFETCH(double, hue);
     QFETCH(colorVal, rgb);
@@ -86,13 +86,13 @@ void TestColorEditor::pickedHsvBecomesRgb()
         components(QtKavoColorEditorFactoryPrivate::fromHsv(float(hue), 1, 1)), components(rgb));
 }
 
-void TestColorEditor::aGreyHasEqualComponents()
+void tst_ColorEditor::aGreyHasEqualComponents()
 {
     QCOMPARE(components(QtKavoColorEditorFactoryPrivate::fromHsv(0, 0, 0.5f)),
         QVector<float>({ 0.5f, 0.5f, 0.5f, 1 }));
 }
 
-void TestColorEditor::pickingSetsTheColorAndAlphaToOne()
+void tst_ColorEditor::pickingSetsTheColorAndAlphaToOne()
 {
     QtProperty *property = add("diffuse", { 0, 0.5f, 0, 0.25f });
     QKAVOColorManipulator *editor = edit(property);
@@ -102,7 +102,7 @@ void TestColorEditor::pickingSetsTheColorAndAlphaToOne()
         QVector<float>({ 0.5f, 0, 0.5f * (6 - 5.999833f), 1 }));
 }
 
-void TestColorEditor::theColorSurvivesThePickerUnrounded()
+void tst_ColorEditor::theColorSurvivesThePickerUnrounded()
 {
     QtProperty *property = add("diffuse", { 0.123456f, 0.654321f, 0.333333f, 1 });
     emit edit(property)->colorChanged();
@@ -112,7 +112,7 @@ void TestColorEditor::theColorSurvivesThePickerUnrounded()
     QVERIFY(std::abs(value.b - 0.333333f) < 1e-6f);
 }
 
-void TestColorEditor::aChangeFromElsewhereLeavesTheOpenPicker()
+void tst_ColorEditor::aChangeFromElsewhereLeavesTheOpenPicker()
 {
     QtProperty *property = add("diffuse", { 0, 1, 0, 1 });
     const QKAVOColorManipulator *editor = edit(property);
@@ -120,7 +120,7 @@ void TestColorEditor::aChangeFromElsewhereLeavesTheOpenPicker()
     QCOMPARE(editor->getColor()[0], 120.0f);
 }
 
-void TestColorEditor::theSlotIgnoresForeignSenders()
+void tst_ColorEditor::theSlotIgnoresForeignSenders()
 {
     edit(add("diffuse", { 0, 1, 0, 1 }));
     QKAVOColorManipulator stranger(nullptr, nullptr);
@@ -131,7 +131,7 @@ void TestColorEditor::theSlotIgnoresForeignSenders()
     QCOMPARE(valueChanged.count(), 0);
 }
 
-void TestColorEditor::removingTheManagerLeavesItsConnection()
+void tst_ColorEditor::removingTheManagerLeavesItsConnection()
 {
     QtProperty *property = add("diffuse", { 0, 1, 0, 1 });
     QKAVOColorManipulator *editor = edit(property);
@@ -145,7 +145,7 @@ void TestColorEditor::removingTheManagerLeavesItsConnection()
     QCOMPARE(components(m_manager->value(property)), QVector<float>({ 0, 1, 0, 1 }));
 }
 
-void TestColorEditor::aDestroyedEditorIsForgotten()
+void tst_ColorEditor::aDestroyedEditorIsForgotten()
 {
     QtProperty *property = add("diffuse", { 0, 1, 0, 1 });
     delete edit(property);
@@ -154,14 +154,14 @@ void TestColorEditor::aDestroyedEditorIsForgotten()
     QCOMPARE(components(m_manager->value(property)), QVector<float>({ 0, 1, 0, 1 }));
 }
 
-void TestColorEditor::theFactoryDeletesItsOpenEditors()
+void tst_ColorEditor::theFactoryDeletesItsOpenEditors()
 {
     const QPointer<QKAVOColorManipulator> editor = edit(add("diffuse", { 0, 1, 0, 1 }));
     m_factory.reset();
     QVERIFY(!editor);
 }
 
-void TestColorEditor::anEditorOutlivesItsManager()
+void tst_ColorEditor::anEditorOutlivesItsManager()
 {
     QKAVOColorManipulator *editor = edit(add("diffuse", { 0, 1, 0, 1 }));
     m_manager.reset();
@@ -169,5 +169,5 @@ void TestColorEditor::anEditorOutlivesItsManager()
     QCOMPARE(editor->getColor()[0], 120.0f);
 }
 
-QTEST_MAIN(TestColorEditor)
+QTEST_MAIN(tst_ColorEditor)
 #include "tst_coloreditor.moc"

@@ -49,7 +49,7 @@ QImage swatchOf(const QtProperty &property)
 using Fixture = kavoEditorFixture<QtKavoColorPropertyManager, QtKavoColorEditorFactory,
     QKAVOColorManipulator, colorVal>;
 
-class TestColorProperty : public QObject, private Fixture
+class tst_ColorProperty : public QObject, private Fixture
 {
     Q_OBJECT
 
@@ -71,19 +71,19 @@ private slots:
     void aWideIndicatorCutsTheSwatchOffAtTheBottom();
 };
 
-void TestColorProperty::init()
+void tst_ColorProperty::init()
 {
     setUp();
     qRegisterMetaType<colorVal>("colorVal");
 }
 
-void TestColorProperty::cleanup()
+void tst_ColorProperty::cleanup()
 {
     tearDown();
     QApplication::setStyle("fusion");
 }
 
-void TestColorProperty::metaObjectsHoldExactlyTheKnownSignalsAndSlots()
+void tst_ColorProperty::metaObjectsHoldExactlyTheKnownSignalsAndSlots()
 {
     QCOMPARE(kavoMetaMethods(QtKavoColorPropertyManager::staticMetaObject),
         QStringList({ "valueChanged(QtProperty*,colorVal)", "setValue(QtProperty*,colorVal)" }));
@@ -92,14 +92,14 @@ void TestColorProperty::metaObjectsHoldExactlyTheKnownSignalsAndSlots()
             "slotEditorDestroyed(QObject*)" }));
 }
 
-void TestColorProperty::aNewPropertyIsOpaqueBlack()
+void tst_ColorProperty::aNewPropertyIsOpaqueBlack()
 {
     QtProperty *property = m_manager->addProperty("diffuse");
     QCOMPARE(components(m_manager->value(property)), QVector<float>({ 0, 0, 0, 1 }));
     QCOMPARE(property->valueText(), QStringLiteral("0.00 0.00 0.00 1.00"));
 }
 
-void TestColorProperty::foreignPropertiesAreZeroAndIgnored()
+void tst_ColorProperty::foreignPropertiesAreZeroAndIgnored()
 {
     struct Manager : QtKavoColorPropertyManager
     {
@@ -115,7 +115,7 @@ void TestColorProperty::foreignPropertiesAreZeroAndIgnored()
     QVERIFY(manager.valueIcon(foreign).isNull());
 }
 
-void TestColorProperty::textHasTwoDecimals_data()
+void tst_ColorProperty::textHasTwoDecimals_data()
 {
     QTest::addColumn<colorVal>("value");
     QTest::addColumn<QString>("text");
@@ -124,7 +124,7 @@ void TestColorProperty::textHasTwoDecimals_data()
     QTest::newRow("rounded") << colorVal { 0.126f, 0.999f, 0.001f, 0.5f } << "0.13 1.00 0.00 0.50";
 }
 
-void TestColorProperty::textHasTwoDecimals()
+void tst_ColorProperty::textHasTwoDecimals()
 {
     QFETCH(colorVal, value);
     QtProperty *property = add("diffuse", value);
@@ -132,7 +132,7 @@ void TestColorProperty::textHasTwoDecimals()
     QCOMPARE(components(m_manager->value(property)), components(value));
 }
 
-void TestColorProperty::settingTheSameValueSignalsTwice()
+void tst_ColorProperty::settingTheSameValueSignalsTwice()
 {
     QtProperty *property = m_manager->addProperty("diffuse");
     QSignalSpy propertyChanged(m_manager.get(), &QtAbstractPropertyManager::propertyChanged);
@@ -143,7 +143,7 @@ void TestColorProperty::settingTheSameValueSignalsTwice()
     QCOMPARE(valueChanged.count(), 2);
 }
 
-void TestColorProperty::propertyChangedComesBeforeValueChanged()
+void tst_ColorProperty::propertyChangedComesBeforeValueChanged()
 {
     QtProperty *property = m_manager->addProperty("diffuse");
     QStringList order;
@@ -155,13 +155,13 @@ void TestColorProperty::propertyChangedComesBeforeValueChanged()
     QCOMPARE(order, QStringList({ "property 1.00 0.00 0.00 1.00", "value 1.00 0.00 0.00 1.00" }));
 }
 
-void TestColorProperty::swatchTruncatesComponentsAndIgnoresAlpha()
+void tst_ColorProperty::swatchTruncatesComponentsAndIgnoresAlpha()
 {
     const QImage swatch = swatchOf(*add("diffuse", { 0.999f, 0.5f, 0.1f, 0 }));
     QCOMPARE(swatch.pixelColor(swatch.rect().center()), QColor(254, 127, 25));
 }
 
-void TestColorProperty::swatchShowsTheNearestColor_data()
+void tst_ColorProperty::swatchShowsTheNearestColor_data()
 {
     QTest::addColumn<colorVal>("value");
     QTest::addColumn<QColor>("color");
@@ -171,14 +171,14 @@ void TestColorProperty::swatchShowsTheNearestColor_data()
                                << QColor(0, 255, 0);
 }
 
-void TestColorProperty::swatchShowsTheNearestColor()
+void tst_ColorProperty::swatchShowsTheNearestColor()
 {
     QFETCH(colorVal, value);
     const QImage swatch = swatchOf(*add("diffuse", value));
     QTEST(swatch.pixelColor(swatch.rect().center()), "color");
 }
 
-void TestColorProperty::swatchIsAtLeastAsHighAsWideWithALineLeftAndOnTop_data()
+void tst_ColorProperty::swatchIsAtLeastAsHighAsWideWithALineLeftAndOnTop_data()
 {
     QTest::addColumn<QSize>("indicator");
     QTest::addColumn<QSize>("swatch");
@@ -187,7 +187,7 @@ void TestColorProperty::swatchIsAtLeastAsHighAsWideWithALineLeftAndOnTop_data()
     QTest::newRow("wide") << QSize(16, 10) << QSize(16, 16);
 }
 
-void TestColorProperty::swatchIsAtLeastAsHighAsWideWithALineLeftAndOnTop()
+void tst_ColorProperty::swatchIsAtLeastAsHighAsWideWithALineLeftAndOnTop()
 {
     QFETCH(QSize, indicator);
     QApplication::setStyle(new IndicatorStyle(indicator));
@@ -197,7 +197,7 @@ void TestColorProperty::swatchIsAtLeastAsHighAsWideWithALineLeftAndOnTop()
     QCOMPARE(swatch.pixelColor(swatch.width() - 1, swatch.height() / 2), QColor(Qt::red));
 }
 
-void TestColorProperty::aWideIndicatorCutsTheSwatchOffAtTheBottom()
+void tst_ColorProperty::aWideIndicatorCutsTheSwatchOffAtTheBottom()
 {
     QApplication::setStyle(new IndicatorStyle(QSize(20, 13)));
     const QImage swatch = swatchOf(*add("diffuse", { 1, 0, 0, 1 }));
@@ -207,5 +207,5 @@ void TestColorProperty::aWideIndicatorCutsTheSwatchOffAtTheBottom()
     QCOMPARE(swatch.pixelColor(10, 19), QColor(Qt::red));
 }
 
-QTEST_MAIN(TestColorProperty)
+QTEST_MAIN(tst_ColorProperty)
 #include "tst_colorproperty.moc"

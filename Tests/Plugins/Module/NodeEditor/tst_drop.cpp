@@ -33,7 +33,7 @@ struct DerivedMaterialGroup
 
 } // namespace
 
-class TestDrop : public QObject
+class tst_Drop : public QObject
 {
     Q_OBJECT
 
@@ -84,18 +84,18 @@ private:
     osg::MaterialPtr m_material;
 };
 
-qint32 TestDrop::id(const osg::FieldContainerPtr &container)
+qint32 tst_Drop::id(const osg::FieldContainerPtr &container)
 {
     return qint32(container.getFieldContainerId());
 }
 
-qint32 TestDrop::idOfADestroyedNode()
+qint32 tst_Drop::idOfADestroyedNode()
 {
     const kavoNodePtr node(kavoTestScene::makeGroup("Dead"));
     return id(osg::NodePtr(node));
 }
 
-void TestDrop::initTestCase()
+void tst_Drop::initTestCase()
 {
     m_material = kavoTestScene::makeMaterial();
     const osg::MaterialGroupPtr group = osg::MaterialGroup::create();
@@ -106,48 +106,48 @@ void TestDrop::initTestCase()
     m_shown = kavoTestScene::makeGroup("Shown");
 }
 
-void TestDrop::cleanupTestCase()
+void tst_Drop::cleanupTestCase()
 {
     for (kavoNodePtr *node : { &m_materialNode, &m_light, &m_bare, &m_shown })
         *node = kavoNodePtr();
 }
 
-void TestDrop::init()
+void tst_Drop::init()
 {
     m_editor = new kavoFCEditorWidget(nullptr, nullptr);
     m_editor->setFC("Shown", osg::NodePtr(m_shown));
 }
 
-void TestDrop::cleanup()
+void tst_Drop::cleanup()
 {
     delete m_editor;
 }
 
 // Bypasses the application, which expects a real drag for such events.
-void TestDrop::deliver(QEvent &event)
+void tst_Drop::deliver(QEvent &event)
 {
     static_cast<QObject *>(m_editor)->event(&event);
 }
 
-void TestDrop::drop(const QMimeData &data)
+void tst_Drop::drop(const QMimeData &data)
 {
     QDropEvent event(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     deliver(event);
 }
 
-void TestDrop::drop(const QString &format, const QByteArray &bytes)
+void tst_Drop::drop(const QString &format, const QByteArray &bytes)
 {
     QMimeData data;
     data.setData(format, bytes);
     drop(data);
 }
 
-QString TestDrop::title() const
+QString tst_Drop::title() const
 {
     return m_editor->properties().isEmpty() ? QString() : top(*m_editor)->propertyName();
 }
 
-void TestDrop::entryOfAKnownFormatIsAccepted_data()
+void tst_Drop::entryOfAKnownFormatIsAccepted_data()
 {
     QTest::addColumn<QString>("format");
     QTest::newRow("material") << "application/kavo-mattree-item";
@@ -155,7 +155,7 @@ void TestDrop::entryOfAKnownFormatIsAccepted_data()
     QTest::newRow("camera") << "application/kavo-camera-item";
 }
 
-void TestDrop::entryOfAKnownFormatIsAccepted()
+void tst_Drop::entryOfAKnownFormatIsAccepted()
 {
     QFETCH(QString, format);
     QMimeData data;
@@ -168,7 +168,7 @@ void TestDrop::entryOfAKnownFormatIsAccepted()
     QCOMPARE(event.dropAction(), event.proposedAction());
 }
 
-void TestDrop::entryOfUnknownFormatsIsNotAccepted()
+void tst_Drop::entryOfUnknownFormatsIsNotAccepted()
 {
     QMimeData data;
     data.setText("text");
@@ -179,7 +179,7 @@ void TestDrop::entryOfUnknownFormatsIsNotAccepted()
     QVERIFY(!event.isAccepted());
 }
 
-void TestDrop::aDropIsNotAnswered()
+void tst_Drop::aDropIsNotAnswered()
 {
     QMimeData data;
     data.setData(cameras, payload({ id(osg::NodePtr(m_light)) }));
@@ -189,14 +189,14 @@ void TestDrop::aDropIsNotAnswered()
     QVERIFY(!event.isAccepted());
 }
 
-void TestDrop::aMaterialIsShownWithoutAName()
+void tst_Drop::aMaterialIsShownWithoutAName()
 {
     drop(materials, payload({ id(osg::NodePtr(m_materialNode)), id(m_material) }));
     QCOMPARE(title(), titleOf("", m_material));
     QVERIFY(isOpen(*m_editor, top(*m_editor)));
 }
 
-void TestDrop::aGroupDerivedFromMaterialGroupsShowsItsMaterial()
+void tst_Drop::aGroupDerivedFromMaterialGroupsShowsItsMaterial()
 {
     const auto group = osg::DerivedContainer<DerivedMaterialGroup>::create();
     group->setMaterial(m_material);
@@ -205,26 +205,26 @@ void TestDrop::aGroupDerivedFromMaterialGroupsShowsItsMaterial()
     QCOMPARE(title(), titleOf("", m_material));
 }
 
-void TestDrop::aLightIsShownWithItsName()
+void tst_Drop::aLightIsShownWithItsName()
 {
     drop(lights, payload({ id(osg::NodePtr(m_light)), 0 }));
     QCOMPARE(title(), titleOf("Lamp", osg::NodePtr(m_light)));
 }
 
-void TestDrop::anUnnamedLightBearsTheTypeOfItsCore()
+void tst_Drop::anUnnamedLightBearsTheTypeOfItsCore()
 {
     const kavoNodePtr light(kavoTestScene::makeNode(nullptr, osg::PointLight::create()));
     drop(lights, payload({ id(osg::NodePtr(light)), 0 }));
     QCOMPARE(title(), titleOf("PointLight", osg::NodePtr(light)));
 }
 
-void TestDrop::aCameraIsShownWithItsName()
+void tst_Drop::aCameraIsShownWithItsName()
 {
     drop(cameras, payload({ id(osg::NodePtr(m_light)) }));
     QCOMPARE(title(), titleOf("Lamp", osg::NodePtr(m_light)));
 }
 
-void TestDrop::theFirstIdThatIsANodeIsTheCamera()
+void tst_Drop::theFirstIdThatIsANodeIsTheCamera()
 {
     const qint32 stale = idOfADestroyedNode();
     QVERIFY(osg::FieldContainerFactory::the()->getContainer(osg::UInt32(stale)) == osg::NullFC);
@@ -234,52 +234,52 @@ void TestDrop::theFirstIdThatIsANodeIsTheCamera()
     QCOMPARE(title(), titleOf("Lamp", osg::NodePtr(m_light)));
 }
 
-void TestDrop::aCameraNeedsNoCore()
+void tst_Drop::aCameraNeedsNoCore()
 {
     drop(cameras, payload({ id(osg::NodePtr(m_bare)) }));
     QCOMPARE(title(), titleOf("Bare", osg::NodePtr(m_bare)));
 }
 
-void TestDrop::twoMaterialsShowNothing()
+void tst_Drop::twoMaterialsShowNothing()
 {
     const qint32 node = id(osg::NodePtr(m_materialNode));
     drop(materials, payload({ node, id(m_material), node, id(m_material) }));
     QCOMPARE(title(), titleOf("Shown", osg::NodePtr(m_shown)));
 }
 
-void TestDrop::twoLightsShowNothing()
+void tst_Drop::twoLightsShowNothing()
 {
     const qint32 node = id(osg::NodePtr(m_light));
     drop(lights, payload({ node, 0, node, 0 }));
     QCOMPARE(title(), titleOf("Shown", osg::NodePtr(m_shown)));
 }
 
-void TestDrop::aMaterialNodeNeedsAMaterialGroup()
+void tst_Drop::aMaterialNodeNeedsAMaterialGroup()
 {
     drop(materials, payload({ id(osg::NodePtr(m_light)), id(m_material) }));
     QCOMPARE(title(), titleOf("Shown", osg::NodePtr(m_shown)));
 }
 
-void TestDrop::aMaterialNodeNeedsACore()
+void tst_Drop::aMaterialNodeNeedsACore()
 {
     drop(materials, payload({ id(osg::NodePtr(m_bare)), id(m_material) }));
     QCOMPARE(title(), titleOf("Shown", osg::NodePtr(m_shown)));
 }
 
-void TestDrop::aLightNeedsACore()
+void tst_Drop::aLightNeedsACore()
 {
     drop(lights, payload({ id(osg::NodePtr(m_bare)), 0 }));
     QCOMPARE(title(), titleOf("Shown", osg::NodePtr(m_shown)));
 }
 
-void TestDrop::aGroupWithoutMaterialEmptiesTheEditor()
+void tst_Drop::aGroupWithoutMaterialEmptiesTheEditor()
 {
     const kavoNodePtr node(kavoTestScene::makeNode("Bare", osg::MaterialGroup::create()));
     drop(materials, payload({ id(osg::NodePtr(node)), 0 }));
     QCOMPARE(title(), QString());
 }
 
-void TestDrop::theCameraWinsOverTheMaterial()
+void tst_Drop::theCameraWinsOverTheMaterial()
 {
     QMimeData data;
     data.setData(cameras, payload({ id(osg::NodePtr(m_bare)) }));
@@ -288,7 +288,7 @@ void TestDrop::theCameraWinsOverTheMaterial()
     QCOMPARE(title(), titleOf("Bare", osg::NodePtr(m_bare)));
 }
 
-void TestDrop::theLightWinsOverTheMaterial()
+void tst_Drop::theLightWinsOverTheMaterial()
 {
     QMimeData data;
     data.setData(lights, payload({ id(osg::NodePtr(m_light)), 0 }));
@@ -297,7 +297,7 @@ void TestDrop::theLightWinsOverTheMaterial()
     QCOMPARE(title(), titleOf("Lamp", osg::NodePtr(m_light)));
 }
 
-void TestDrop::malformedPayloadsChangeNothing_data()
+void tst_Drop::malformedPayloadsChangeNothing_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     for (const int size : { 0, 1, 3, 7 })
@@ -310,7 +310,7 @@ void TestDrop::malformedPayloadsChangeNothing_data()
     QTest::newRow("100,000 ids") << payload(QVector<qint32>(100000, deadId));
 }
 
-void TestDrop::malformedPayloadsChangeNothing()
+void tst_Drop::malformedPayloadsChangeNothing()
 {
     QFETCH(QByteArray, bytes);
     for (const char *format : { materials, lights, cameras }) {
@@ -319,7 +319,7 @@ void TestDrop::malformedPayloadsChangeNothing()
     }
 }
 
-void TestDrop::anIncompleteItemIsNoItem_data()
+void tst_Drop::anIncompleteItemIsNoItem_data()
 {
     const qint32 node = id(osg::NodePtr(m_light));
     QTest::addColumn<QByteArray>("bytes");
@@ -330,7 +330,7 @@ void TestDrop::anIncompleteItemIsNoItem_data()
     QTest::newRow("two ids and a byte") << payload({ node, 0 }) + "x" << true;
 }
 
-void TestDrop::anIncompleteItemIsNoItem()
+void tst_Drop::anIncompleteItemIsNoItem()
 {
     QFETCH(QByteArray, bytes);
     QFETCH(bool, shows);
@@ -339,14 +339,14 @@ void TestDrop::anIncompleteItemIsNoItem()
         shows ? titleOf("Lamp", osg::NodePtr(m_light)) : titleOf("Shown", osg::NodePtr(m_shown)));
 }
 
-void TestDrop::bindingsFollowTheDrop()
+void tst_Drop::bindingsFollowTheDrop()
 {
     drop(materials, payload({ id(osg::NodePtr(m_materialNode)), id(m_material) }));
     setValue(*m_editor, "sortKey", 7);
     QCOMPARE(m_material->getSortKey(), 7);
 }
 
-void TestDrop::anExceptionInADropIsLogged()
+void tst_Drop::anExceptionInADropIsLogged()
 {
     const kavoNodePtr node(kavoTestScene::makeGroup("Root"));
     osg::NodePtr(node)->addAttachment(osg::FieldSampler::create());
@@ -357,5 +357,5 @@ void TestDrop::anExceptionInADropIsLogged()
     QVERIFY(errors.text().contains("Showing what was dropped failed with an unknown exception"));
 }
 
-KAVO_TEST_MAIN(TestDrop)
+KAVO_TEST_MAIN(tst_Drop)
 #include "tst_drop.moc"

@@ -19,7 +19,7 @@
 using namespace kavoTreeRows;
 
 // Uses the docked editor with the mouse and keyboard of the X server only.
-class TestEditing : public QObject
+class tst_Editing : public QObject
 {
     Q_OBJECT
 
@@ -56,7 +56,7 @@ private:
     osg::FieldSamplerPtr m_sampler;
 };
 
-void TestEditing::initTestCase()
+void tst_Editing::initTestCase()
 {
     QCoreApplication::setOrganizationName("kavotest");
     QCoreApplication::setApplicationName("editing");
@@ -69,7 +69,7 @@ void TestEditing::initTestCase()
     QVERIFY(QTest::qWaitForWindowActive(&kavoTestHost::mainWindow()));
 }
 
-void TestEditing::init()
+void tst_Editing::init()
 {
     m_sampler = osg::FieldSampler::create();
     osg::addRefCP(m_sampler);
@@ -78,30 +78,30 @@ void TestEditing::init()
     show(m_sampler);
 }
 
-void TestEditing::cleanup()
+void tst_Editing::cleanup()
 {
     m_module->setNode(osg::NullFC);
     osg::subRefCP(m_sampler);
 }
 
-kavoFCEditorWidget &TestEditing::editor() const
+kavoFCEditorWidget &tst_Editing::editor() const
 {
     return *m_module->getWidget()->findChild<kavoFCEditorWidget *>();
 }
 
-QTreeWidget &TestEditing::view() const
+QTreeWidget &tst_Editing::view() const
 {
     return *editor().findChild<QTreeWidget *>();
 }
 
-void TestEditing::show(const osg::FieldContainerPtr &container)
+void tst_Editing::show(const osg::FieldContainerPtr &container)
 {
     editor().setFC("it", container);
     QTRY_VERIFY(view().topLevelItemCount() == 1);
 }
 
 // Clicks into the value column of a row and returns the editor that opened.
-QWidget *TestEditing::open(const QString &title)
+QWidget *tst_Editing::open(const QString &title)
 {
     QTreeWidgetItem *item = view().findItems(title, Qt::MatchExactly | Qt::MatchRecursive).value(0);
     view().scrollToItem(item);
@@ -113,20 +113,20 @@ QWidget *TestEditing::open(const QString &title)
 }
 
 // Replaces the text of a row without ending the edit.
-void TestEditing::type(const QString &title, const QString &text)
+void tst_Editing::type(const QString &title, const QString &text)
 {
     QVERIFY(open(title));
     kavoRealInput::press({ "ctrl+a" });
     kavoRealInput::type(text);
 }
 
-void TestEditing::replace(const QString &title, const QString &text)
+void tst_Editing::replace(const QString &title, const QString &text)
 {
     type(title, text);
     kavoRealInput::press({ "Return" });
 }
 
-void TestEditing::aCheckBoxIsClicked()
+void tst_Editing::aCheckBoxIsClicked()
 {
     QWidget *box = open("flag");
     QVERIFY(box);
@@ -138,14 +138,14 @@ void TestEditing::aCheckBoxIsClicked()
     QTRY_VERIFY(!m_sampler->flag.getValue());
 }
 
-void TestEditing::aWholeNumberIsTyped()
+void tst_Editing::aWholeNumberIsTyped()
 {
     replace("int16", "-1234");
     QTRY_COMPARE(int(m_sampler->int16.getValue()), -1234);
     QCOMPARE(m_sampler->changes, 1);
 }
 
-void TestEditing::anArrowKeySteps()
+void tst_Editing::anArrowKeySteps()
 {
     QVERIFY(open("uint8"));
     kavoRealInput::press({ "Up", "Up", "Down" });
@@ -153,33 +153,33 @@ void TestEditing::anArrowKeySteps()
     QCOMPARE(int(m_sampler->uint8.getValue()), 1);
 }
 
-void TestEditing::aRealNumberIsTyped()
+void tst_Editing::aRealNumberIsTyped()
 {
     replace("real32", "1.25e-7");
     QTRY_VERIFY(m_sampler->real32.getValue() == 1.25e-7f);
     QCOMPARE(m_sampler->changes, 1);
 }
 
-void TestEditing::aVectorIsTyped()
+void tst_Editing::aVectorIsTyped()
 {
     replace("vector", "1, -2.5, 3e2");
     QTRY_VERIFY(m_sampler->vector.getValue() == osg::Vec3f(1, -2.5f, 300));
 }
 
-void TestEditing::aStringIsTyped()
+void tst_Editing::aStringIsTyped()
 {
     replace("text", "a \"b\" c");
     QTRY_COMPARE(m_sampler->text.getValue(), std::string("a \"b\" c"));
 }
 
-void TestEditing::aNumberListIsTyped()
+void tst_Editing::aNumberListIsTyped()
 {
     replace("reals", "0.5, 1 2e3");
     QTRY_COMPARE(int(m_sampler->reals.size()), 3);
     QTRY_COMPARE(m_sampler->reals[2], 2000.f);
 }
 
-void TestEditing::anEnumIsChosenWithTheMouse()
+void tst_Editing::anEnumIsChosenWithTheMouse()
 {
     const osg::TextureChunkPtr chunk = osg::TextureChunk::create();
     osg::addRefCP(chunk);
@@ -197,7 +197,7 @@ void TestEditing::anEnumIsChosenWithTheMouse()
     osg::subRefCP(chunk);
 }
 
-void TestEditing::anEnumIsChosenWithTheKeyboard()
+void tst_Editing::anEnumIsChosenWithTheKeyboard()
 {
     m_sampler->minFilter.setValue(9728);
     show(m_sampler);
@@ -207,7 +207,7 @@ void TestEditing::anEnumIsChosenWithTheKeyboard()
     QCOMPARE(text(editor(), "minFilter"), QString("GL_LINEAR"));
 }
 
-void TestEditing::aColorIsChosenWithTheMouse()
+void tst_Editing::aColorIsChosenWithTheMouse()
 {
     QWidget *picker = open("color4");
     QVERIFY(picker);
@@ -223,7 +223,7 @@ void TestEditing::aColorIsChosenWithTheMouse()
     QTRY_VERIFY(!wheel->isVisible());
 }
 
-void TestEditing::aColorIsTypedIntoThePopup()
+void tst_Editing::aColorIsTypedIntoThePopup()
 {
     QVERIFY(open("color3"));
     kavoRealInput::press({ "alt+Down" });
@@ -234,7 +234,7 @@ void TestEditing::aColorIsTypedIntoThePopup()
     QTRY_VERIFY(!QApplication::activePopupWidget());
 }
 
-void TestEditing::aColorIsPasted()
+void tst_Editing::aColorIsPasted()
 {
     QGuiApplication::clipboard()->setText("#00ff00");
     QVERIFY(open("color4"));
@@ -243,7 +243,7 @@ void TestEditing::aColorIsPasted()
     QCOMPARE(text(editor(), "color4"), QString("0.00 1.00 0.00 1.00"));
 }
 
-void TestEditing::leavingTheRowKeepsWhatWasTyped()
+void tst_Editing::leavingTheRowKeepsWhatWasTyped()
 {
     type("real64", "12.5");
     QCOMPARE(m_sampler->real64.getValue(), 0.);
@@ -251,7 +251,7 @@ void TestEditing::leavingTheRowKeepsWhatWasTyped()
     QTRY_COMPARE(m_sampler->real64.getValue(), 12.5);
 }
 
-void TestEditing::escapeTakesBackWhatWasTyped()
+void tst_Editing::escapeTakesBackWhatWasTyped()
 {
     type("real64", "12.5");
     kavoRealInput::press({ "Escape" });
@@ -260,7 +260,7 @@ void TestEditing::escapeTakesBackWhatWasTyped()
     QCOMPARE(text(editor(), "real64"), QString("0"));
 }
 
-void TestEditing::aNewSelectionDropsWhatWasNotFinished()
+void tst_Editing::aNewSelectionDropsWhatWasNotFinished()
 {
     type("real64", "12.5");
     m_module->setNode(osg::NullFC);
@@ -269,5 +269,5 @@ void TestEditing::aNewSelectionDropsWhatWasNotFinished()
     QCOMPARE(m_sampler->changes, 0);
 }
 
-KAVO_TEST_MAIN(TestEditing)
+KAVO_TEST_MAIN(tst_Editing)
 #include "tst_editing.moc"

@@ -19,7 +19,7 @@
 
 using namespace kavoTreeRows;
 
-class TestFCEditorWidget : public QObject
+class tst_FCEditorWidget : public QObject
 {
     Q_OBJECT
 
@@ -66,7 +66,7 @@ QStringList shownRows(const kavoFCEditorWidget &editor)
 } // namespace
 
 // Counts the errors in the log: each edit of a bound row whose container is gone writes one.
-int TestFCEditorWidget::boundRows(kavoFCEditorWidget &editor, const QList<QtProperty *> &rows)
+int tst_FCEditorWidget::boundRows(kavoFCEditorWidget &editor, const QList<QtProperty *> &rows)
 {
     kavoConsoleCapture errors(kavoConsoleCapture::StandardError);
     for (QtProperty *row : rows)
@@ -74,7 +74,7 @@ int TestFCEditorWidget::boundRows(kavoFCEditorWidget &editor, const QList<QtProp
     return errors.text().count("kavoFCEditorWidget::valueChanged: invalid pointer!");
 }
 
-void TestFCEditorWidget::theTreeTakesDropsAndMarksGroups()
+void tst_FCEditorWidget::theTreeTakesDropsAndMarksGroups()
 {
     const kavoFCEditorWidget editor(nullptr, nullptr);
     QVERIFY(editor.acceptDrops());
@@ -82,7 +82,7 @@ void TestFCEditorWidget::theTreeTakesDropsAndMarksGroups()
     QVERIFY(editor.rootIsDecorated());
 }
 
-void TestFCEditorWidget::itIsATreePropertyBrowserOfItsOwnMetaObject()
+void tst_FCEditorWidget::itIsATreePropertyBrowserOfItsOwnMetaObject()
 {
     const kavoFCEditorWidget editor(nullptr, "ignored");
     QCOMPARE(editor.metaObject()->className(), "kavoFCEditorWidget");
@@ -93,14 +93,14 @@ void TestFCEditorWidget::itIsATreePropertyBrowserOfItsOwnMetaObject()
             "valueChanged(QtProperty*,colorVal)" }));
 }
 
-void TestFCEditorWidget::aNullContainerShowsNothing()
+void tst_FCEditorWidget::aNullContainerShowsNothing()
 {
     kavoFCEditorWidget editor(nullptr, nullptr);
     editor.setFC("nothing", osg::NullFC);
     QVERIFY(editor.properties().isEmpty());
 }
 
-void TestFCEditorWidget::aNullContainerEmptiesAFilledTree()
+void tst_FCEditorWidget::aNullContainerEmptiesAFilledTree()
 {
     const kavoNodePtr truck = kavoTestScene::makeTruck();
     kavoFCEditorWidget editor(nullptr, nullptr);
@@ -110,7 +110,7 @@ void TestFCEditorWidget::aNullContainerEmptiesAFilledTree()
     QVERIFY(editor.properties().isEmpty());
 }
 
-void TestFCEditorWidget::theCurrentRowGoesWithItsTree()
+void tst_FCEditorWidget::theCurrentRowGoesWithItsTree()
 {
     const kavoNodePtr truck = kavoTestScene::makeTruck();
     kavoFCEditorWidget editor(nullptr, nullptr);
@@ -122,7 +122,7 @@ void TestFCEditorWidget::theCurrentRowGoesWithItsTree()
     QCOMPARE(editor.currentItem(), nullptr);
 }
 
-void TestFCEditorWidget::anOpenRowEditorGoesWithItsTree()
+void tst_FCEditorWidget::anOpenRowEditorGoesWithItsTree()
 {
     const osg::FieldSamplerPtr sampler = osg::FieldSampler::create();
     osg::addRefCP(sampler);
@@ -137,7 +137,7 @@ void TestFCEditorWidget::anOpenRowEditorGoesWithItsTree()
     osg::subRefCP(sampler);
 }
 
-void TestFCEditorWidget::anEditorTakesUnfinishedTypingWithIt()
+void tst_FCEditorWidget::anEditorTakesUnfinishedTypingWithIt()
 {
     const osg::FieldSamplerPtr sampler = osg::FieldSampler::create();
     osg::addRefCP(sampler);
@@ -151,7 +151,7 @@ void TestFCEditorWidget::anEditorTakesUnfinishedTypingWithIt()
     osg::subRefCP(sampler);
 }
 
-void TestFCEditorWidget::rowsLeftFromAnEarlierContainerAreBoundNoMore()
+void tst_FCEditorWidget::rowsLeftFromAnEarlierContainerAreBoundNoMore()
 {
     const osg::FieldSamplerPtr sampler = osg::FieldSampler::create();
     osg::addRefCP(sampler);
@@ -168,7 +168,7 @@ void TestFCEditorWidget::rowsLeftFromAnEarlierContainerAreBoundNoMore()
 }
 
 // A new row may have the address of a deleted row.
-void TestFCEditorWidget::rowsThatTheirManagersDeletedAreBoundNoMore()
+void tst_FCEditorWidget::rowsThatTheirManagersDeletedAreBoundNoMore()
 {
     const osg::FieldSamplerPtr sampler = osg::FieldSampler::create();
     osg::addRefCP(sampler);
@@ -181,7 +181,7 @@ void TestFCEditorWidget::rowsThatTheirManagersDeletedAreBoundNoMore()
     QCOMPARE(boundRows(editor, values), 0);
 }
 
-void TestFCEditorWidget::showingTheSameContainerAgainMakesNewRows()
+void tst_FCEditorWidget::showingTheSameContainerAgainMakesNewRows()
 {
     const kavoNodePtr truck = kavoTestScene::makeTruck();
     kavoFCEditorWidget editor(nullptr, nullptr);
@@ -195,7 +195,7 @@ void TestFCEditorWidget::showingTheSameContainerAgainMakesNewRows()
     QCOMPARE(destroyed.size(), before.size());
 }
 
-void TestFCEditorWidget::showingAnotherContainerReplacesTheRows()
+void tst_FCEditorWidget::showingAnotherContainerReplacesTheRows()
 {
     const kavoNodePtr truck = kavoTestScene::makeTruck();
     kavoFCEditorWidget editor(nullptr, nullptr);
@@ -205,7 +205,7 @@ void TestFCEditorWidget::showingAnotherContainerReplacesTheRows()
     QVERIFY(top(editor)->propertyName().startsWith("wheel Node ("));
 }
 
-void TestFCEditorWidget::theRowsOfAnotherContainerAreBoundToIt()
+void tst_FCEditorWidget::theRowsOfAnotherContainerAreBoundToIt()
 {
     const osg::FieldSamplerPtr first = osg::FieldSampler::create();
     const osg::FieldSamplerPtr second = osg::FieldSampler::create();
@@ -221,7 +221,7 @@ void TestFCEditorWidget::theRowsOfAnotherContainerAreBoundToIt()
     osg::subRefCP(first);
 }
 
-void TestFCEditorWidget::buildingTheTreeChangesNothingInTheScene()
+void tst_FCEditorWidget::buildingTheTreeChangesNothingInTheScene()
 {
     const osg::FieldSamplerPtr sampler = osg::FieldSampler::create();
     osg::addRefCP(sampler);
@@ -244,7 +244,7 @@ void TestFCEditorWidget::buildingTheTreeChangesNothingInTheScene()
     osg::subRefCP(sampler);
 }
 
-void TestFCEditorWidget::everyValueRowIsBound()
+void tst_FCEditorWidget::everyValueRowIsBound()
 {
     osg::FieldSamplerPtr sampler = osg::FieldSampler::create();
     osg::addRefCP(sampler);
@@ -256,7 +256,7 @@ void TestFCEditorWidget::everyValueRowIsBound()
     QCOMPARE(boundRows(editor, values), values.size());
 }
 
-void TestFCEditorWidget::groupsAndSubRowsAreNotBound()
+void tst_FCEditorWidget::groupsAndSubRowsAreNotBound()
 {
     osg::FieldContainerPtr transform = osg::ComponentTransform::create();
     osg::addRefCP(transform);
@@ -269,7 +269,7 @@ void TestFCEditorWidget::groupsAndSubRowsAreNotBound()
     QCOMPARE(boundRows(editor, { top(editor) }), 0);
 }
 
-void TestFCEditorWidget::manySelectionsLeaveNoVariantRowsBehind()
+void tst_FCEditorWidget::manySelectionsLeaveNoVariantRowsBehind()
 {
     const kavoNodePtr truck = kavoTestScene::makeTruck();
     kavoFCEditorWidget editor(nullptr, nullptr);
@@ -282,7 +282,7 @@ void TestFCEditorWidget::manySelectionsLeaveNoVariantRowsBehind()
 }
 
 // The component stores data of a browser under the addresses of browser and managers.
-void TestFCEditorWidget::anEditorMayTakeThePlaceOfAnother()
+void tst_FCEditorWidget::anEditorMayTakeThePlaceOfAnother()
 {
     kavoConsoleCapture errors(kavoConsoleCapture::StandardError);
     std::vector<std::unique_ptr<char[]>> others;
@@ -293,5 +293,5 @@ void TestFCEditorWidget::anEditorMayTakeThePlaceOfAnother()
     QCOMPARE(errors.text(), QByteArray());
 }
 
-KAVO_TEST_MAIN(TestFCEditorWidget)
+KAVO_TEST_MAIN(tst_FCEditorWidget)
 #include "tst_fceditorwidget.moc"

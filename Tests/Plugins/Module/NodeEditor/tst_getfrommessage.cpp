@@ -8,7 +8,7 @@
 
 #include <QtTest>
 
-class TestGetFromMessage : public QObject
+class tst_GetFromMessage : public QObject
 {
     Q_OBJECT
 
@@ -22,7 +22,7 @@ private slots:
     void aValueOfAnotherTypeLeavesTheResultUntouched();
 };
 
-void TestGetFromMessage::aMissingAttributeIsSilentlyFalse()
+void tst_GetFromMessage::aMissingAttributeIsSilentlyFalse()
 {
     const kavoNodePtr kept(osg::Node::create());
     osg::NodePtr node = kept;
@@ -32,7 +32,7 @@ void TestGetFromMessage::aMissingAttributeIsSilentlyFalse()
     QVERIFY(node == osg::NodePtr(kept));
 }
 
-void TestGetFromMessage::aNullNodeOfTheRightTypeIsFound()
+void tst_GetFromMessage::aNullNodeOfTheRightTypeIsFound()
 {
     const kavoNodePtr kept(osg::Node::create());
     osg::NodePtr node = kept;
@@ -42,7 +42,7 @@ void TestGetFromMessage::aNullNodeOfTheRightTypeIsFound()
     QVERIFY(node == osg::NullFC);
 }
 
-void TestGetFromMessage::theStoredNodeIsCopiedOut()
+void tst_GetFromMessage::theStoredNodeIsCopiedOut()
 {
     const kavoNodePtr kept(osg::Node::create());
     osg::NodePtr node;
@@ -52,7 +52,7 @@ void TestGetFromMessage::theStoredNodeIsCopiedOut()
     QVERIFY(node == osg::NodePtr(kept));
 }
 
-void TestGetFromMessage::aNodeIsNoMaterial()
+void tst_GetFromMessage::aNodeIsNoMaterial()
 {
     osg::MaterialPtr material;
     kavoMessage message;
@@ -62,7 +62,7 @@ void TestGetFromMessage::aNodeIsNoMaterial()
     QVERIFY(!message.get("material").empty());
 }
 
-void TestGetFromMessage::theErrorNamesKeyAndTypesAndShowsTheCallStack()
+void tst_GetFromMessage::theErrorNamesKeyAndTypesAndShowsTheCallStack()
 {
     osg::NodePtr node;
     kavoMessage message;
@@ -76,7 +76,7 @@ void TestGetFromMessage::theErrorNamesKeyAndTypesAndShowsTheCallStack()
     QVERIFY(errors.text().size() > line.size());
 }
 
-void TestGetFromMessage::aDerivedHandleIsAnotherType()
+void tst_GetFromMessage::aDerivedHandleIsAnotherType()
 {
     osg::MaterialPtr material;
     kavoMessage message;
@@ -85,7 +85,7 @@ void TestGetFromMessage::aDerivedHandleIsAnotherType()
     QVERIFY(!getFromMessage(message, "material", material));
 }
 
-void TestGetFromMessage::aValueOfAnotherTypeLeavesTheResultUntouched()
+void tst_GetFromMessage::aValueOfAnotherTypeLeavesTheResultUntouched()
 {
     const kavoNodePtr kept(osg::Node::create());
     osg::NodePtr node = kept;
@@ -96,5 +96,5 @@ void TestGetFromMessage::aValueOfAnotherTypeLeavesTheResultUntouched()
     QVERIFY(node == osg::NodePtr(kept));
 }
 
-KAVO_TEST_MAIN(TestGetFromMessage)
+KAVO_TEST_MAIN(tst_GetFromMessage)
 #include "tst_getfrommessage.moc"

@@ -24,7 +24,7 @@ QStringList items(const QComboBox &editor)
 using Fixture
     = kavoEditorFixture<QtGLenumPropertyManager, QtGLenumEditorFactory, QComboBox, unsigned int>;
 
-class TestGLenumEditor : public QObject, private Fixture
+class tst_GLenumEditor : public QObject, private Fixture
 {
     Q_OBJECT
 
@@ -54,17 +54,17 @@ private slots:
     void anEditorOutlivesItsPropertyAndTheFactory();
 };
 
-void TestGLenumEditor::init()
+void tst_GLenumEditor::init()
 {
     setUp();
 }
 
-void TestGLenumEditor::cleanup()
+void tst_GLenumEditor::cleanup()
 {
     tearDown();
 }
 
-void TestGLenumEditor::comboBoxIsSetUpForANarrowColumn()
+void tst_GLenumEditor::comboBoxIsSetUpForANarrowColumn()
 {
     QComboBox *editor = edit(add("minFilter", linear));
     QCOMPARE(editor->parentWidget(), m_parent.get());
@@ -73,7 +73,7 @@ void TestGLenumEditor::comboBoxIsSetUpForANarrowColumn()
     QCOMPARE(editor->view()->textElideMode(), Qt::ElideRight);
 }
 
-void TestGLenumEditor::wrapOffersItsNamesAndUnknowns()
+void tst_GLenumEditor::wrapOffersItsNamesAndUnknowns()
 {
     QComboBox *editor = edit(add("wrapS", 0x2901));
     QCOMPARE(
@@ -81,7 +81,7 @@ void TestGLenumEditor::wrapOffersItsNamesAndUnknowns()
     QCOMPARE(editor->currentText(), QStringLiteral("GL_REPEAT"));
 }
 
-void TestGLenumEditor::itemDataIsTheUnsignedValueAndIconsAreEmpty()
+void tst_GLenumEditor::itemDataIsTheUnsignedValueAndIconsAreEmpty()
 {
     QComboBox *editor = edit(add("magFilter", linear));
     QCOMPARE(editor->itemData(0), QVariant(nearest));
@@ -90,7 +90,7 @@ void TestGLenumEditor::itemDataIsTheUnsignedValueAndIconsAreEmpty()
     QVERIFY(editor->itemIcon(0).isNull());
 }
 
-void TestGLenumEditor::otherFieldsOfferTheFirstGroupWithTheirValue_data()
+void tst_GLenumEditor::otherFieldsOfferTheFirstGroupWithTheirValue_data()
 {
     QTest::addColumn<unsigned int>("value");
     QTest::addColumn<QString>("names");
@@ -107,7 +107,7 @@ void TestGLenumEditor::otherFieldsOfferTheFirstGroupWithTheirValue_data()
         << "GL_BACK";
 }
 
-void TestGLenumEditor::otherFieldsOfferTheFirstGroupWithTheirValue()
+void tst_GLenumEditor::otherFieldsOfferTheFirstGroupWithTheirValue()
 {
     QFETCH(unsigned int, value);
     QComboBox *editor = edit(add("MinFilter", value));
@@ -115,14 +115,14 @@ void TestGLenumEditor::otherFieldsOfferTheFirstGroupWithTheirValue()
     QTEST(editor->currentText(), "selected");
 }
 
-void TestGLenumEditor::aValueInNoGroupLeavesTheComboBoxEmpty()
+void tst_GLenumEditor::aValueInNoGroupLeavesTheComboBoxEmpty()
 {
     QComboBox *editor = edit(add("cullFace", 1));
     QCOMPARE(editor->count(), 0);
     QCOMPARE(editor->currentIndex(), -1);
 }
 
-void TestGLenumEditor::anEditorOfAForeignPropertyOffersTheGroupOfZero()
+void tst_GLenumEditor::anEditorOfAForeignPropertyOffersTheGroupOfZero()
 {
     QtGLenumPropertyManager other;
     QScopedPointer<QComboBox> editor(edit(other.addProperty("cullFace")));
@@ -130,7 +130,7 @@ void TestGLenumEditor::anEditorOfAForeignPropertyOffersTheGroupOfZero()
     QCOMPARE(editor->currentIndex(), 0);
 }
 
-void TestGLenumEditor::aValueWithoutNameIsSelectedAsUnknown()
+void tst_GLenumEditor::aValueWithoutNameIsSelectedAsUnknown()
 {
     QtProperty *property = add("wrapS", 0x812F);
     QComboBox *editor = edit(property);
@@ -139,7 +139,7 @@ void TestGLenumEditor::aValueWithoutNameIsSelectedAsUnknown()
     QCOMPARE(editor->currentIndex(), 3);
 }
 
-void TestGLenumEditor::aValueOutsideTheAllowedSetSelectsNothing()
+void tst_GLenumEditor::aValueOutsideTheAllowedSetSelectsNothing()
 {
     QtProperty *property = add("magFilter", 0x2703);
     QComboBox *editor = edit(property);
@@ -149,7 +149,7 @@ void TestGLenumEditor::aValueOutsideTheAllowedSetSelectsNothing()
     QCOMPARE(m_manager->value(property), nearest);
 }
 
-void TestGLenumEditor::choosingAnItemSetsTheValue()
+void tst_GLenumEditor::choosingAnItemSetsTheValue()
 {
     QtProperty *property = add("minFilter", nearest);
     QSignalSpy valueChanged(m_manager.get(), &QtGLenumPropertyManager::valueChanged);
@@ -159,14 +159,14 @@ void TestGLenumEditor::choosingAnItemSetsTheValue()
     QCOMPARE(valueChanged.first().first().value<QtProperty *>(), property);
 }
 
-void TestGLenumEditor::choosingAnUnknownItemSetsItsValue()
+void tst_GLenumEditor::choosingAnUnknownItemSetsItsValue()
 {
     QtProperty *property = add("wrapS", 0x2901);
     edit(property)->setCurrentIndex(4);
     QCOMPARE(m_manager->value(property), 0x8370u);
 }
 
-void TestGLenumEditor::clearingTheComboBoxChangesNothing()
+void tst_GLenumEditor::clearingTheComboBoxChangesNothing()
 {
     QtProperty *property = add("minFilter", linear);
     QSignalSpy valueChanged(m_manager.get(), &QtGLenumPropertyManager::valueChanged);
@@ -175,7 +175,7 @@ void TestGLenumEditor::clearingTheComboBoxChangesNothing()
     QCOMPARE(m_manager->value(property), linear);
 }
 
-void TestGLenumEditor::theSlotIgnoresForeignSenders()
+void tst_GLenumEditor::theSlotIgnoresForeignSenders()
 {
     edit(add("minFilter", linear));
     QSignalSpy valueChanged(m_manager.get(), &QtGLenumPropertyManager::valueChanged);
@@ -183,7 +183,7 @@ void TestGLenumEditor::theSlotIgnoresForeignSenders()
     QCOMPARE(valueChanged.count(), 0);
 }
 
-void TestGLenumEditor::anItemWithoutNumberGivesZero()
+void tst_GLenumEditor::anItemWithoutNumberGivesZero()
 {
     QtProperty *property = add("minFilter", linear);
     QComboBox *editor = edit(property);
@@ -192,7 +192,7 @@ void TestGLenumEditor::anItemWithoutNumberGivesZero()
     QCOMPARE(m_manager->value(property), 0u);
 }
 
-void TestGLenumEditor::openEditorsFollowTheManagerWithoutSettingItAgain()
+void tst_GLenumEditor::openEditorsFollowTheManagerWithoutSettingItAgain()
 {
     QtProperty *property = add("minFilter", nearest);
     const QComboBox *first = edit(property);
@@ -205,7 +205,7 @@ void TestGLenumEditor::openEditorsFollowTheManagerWithoutSettingItAgain()
     QVERIFY(!first->signalsBlocked());
 }
 
-void TestGLenumEditor::openEditorsShowNothingForAValueTheyDoNotOffer()
+void tst_GLenumEditor::openEditorsShowNothingForAValueTheyDoNotOffer()
 {
     QtProperty *property = add("magFilter", nearest);
     const QComboBox *editor = edit(property);
@@ -214,7 +214,7 @@ void TestGLenumEditor::openEditorsShowNothingForAValueTheyDoNotOffer()
     QCOMPARE(m_manager->value(property), 0x2703u);
 }
 
-void TestGLenumEditor::aRemovedManagerIsNoLongerFollowedNorSet()
+void tst_GLenumEditor::aRemovedManagerIsNoLongerFollowedNorSet()
 {
     QtProperty *property = add("minFilter", nearest);
     QComboBox *editor = edit(property);
@@ -225,7 +225,7 @@ void TestGLenumEditor::aRemovedManagerIsNoLongerFollowedNorSet()
     QCOMPARE(m_manager->value(property), linear);
 }
 
-void TestGLenumEditor::aDestroyedEditorIsForgotten()
+void tst_GLenumEditor::aDestroyedEditorIsForgotten()
 {
     QtProperty *property = add("minFilter", nearest);
     delete edit(property);
@@ -234,14 +234,14 @@ void TestGLenumEditor::aDestroyedEditorIsForgotten()
     QCOMPARE(editor->currentText(), QStringLiteral("GL_LINEAR"));
 }
 
-void TestGLenumEditor::theFactoryDeletesItsOpenEditors()
+void tst_GLenumEditor::theFactoryDeletesItsOpenEditors()
 {
     const QPointer<QComboBox> editor = edit(add("minFilter", nearest));
     m_factory.reset();
     QVERIFY(!editor);
 }
 
-void TestGLenumEditor::anEditorOutlivesItsManager()
+void tst_GLenumEditor::anEditorOutlivesItsManager()
 {
     QComboBox *editor = edit(add("minFilter", nearest));
     m_manager.reset();
@@ -249,7 +249,7 @@ void TestGLenumEditor::anEditorOutlivesItsManager()
     QCOMPARE(editor->currentText(), QStringLiteral("GL_LINEAR"));
 }
 
-void TestGLenumEditor::anEditorOutlivesItsPropertyAndTheFactory()
+void tst_GLenumEditor::anEditorOutlivesItsPropertyAndTheFactory()
 {
     QtProperty *property = add("minFilter", nearest);
     QComboBox *editor = edit(property);
@@ -260,5 +260,5 @@ void TestGLenumEditor::anEditorOutlivesItsPropertyAndTheFactory()
     QCOMPARE(editor->currentIndex(), 1);
 }
 
-QTEST_MAIN(TestGLenumEditor)
+QTEST_MAIN(tst_GLenumEditor)
 #include "tst_glenumeditor.moc"

@@ -10,12 +10,12 @@ namespace {
 
 constexpr unsigned int linear = 0x2601;
 
-}
+} // namespace
 
 using Fixture
     = kavoEditorFixture<QtGLenumPropertyManager, QtGLenumEditorFactory, QComboBox, unsigned int>;
 
-class TestGLenumProperty : public QObject, private Fixture
+class tst_GLenumProperty : public QObject, private Fixture
 {
     Q_OBJECT
 
@@ -33,17 +33,17 @@ private slots:
     void aDeletedPropertyIsForgotten();
 };
 
-void TestGLenumProperty::init()
+void tst_GLenumProperty::init()
 {
     setUp();
 }
 
-void TestGLenumProperty::cleanup()
+void tst_GLenumProperty::cleanup()
 {
     tearDown();
 }
 
-void TestGLenumProperty::metaObjectsHoldExactlyTheKnownSignalsAndSlots()
+void tst_GLenumProperty::metaObjectsHoldExactlyTheKnownSignalsAndSlots()
 {
     QCOMPARE(kavoMetaMethods(QtGLenumPropertyManager::staticMetaObject),
         QStringList({ "valueChanged(QtProperty*,uint)", "setValue(QtProperty*,uint)" }));
@@ -52,14 +52,14 @@ void TestGLenumProperty::metaObjectsHoldExactlyTheKnownSignalsAndSlots()
             "slotEditorDestroyed(QObject*)" }));
 }
 
-void TestGLenumProperty::aNewPropertyHasAllBitsSetAndNoText()
+void tst_GLenumProperty::aNewPropertyHasAllBitsSetAndNoText()
 {
     QtProperty *property = m_manager->addProperty("minFilter");
     QCOMPARE(m_manager->value(property), 0xFFFFFFFFu);
     QCOMPARE(property->valueText(), QString());
 }
 
-void TestGLenumProperty::textIsTheNameOrEmpty_data()
+void tst_GLenumProperty::textIsTheNameOrEmpty_data()
 {
     QTest::addColumn<unsigned int>("value");
     QTest::addColumn<QString>("text");
@@ -70,18 +70,18 @@ void TestGLenumProperty::textIsTheNameOrEmpty_data()
     QTest::newRow("largest") << 0x80ECu << "GL_FOG_SPECULAR_TEXTURE_WIN";
 }
 
-void TestGLenumProperty::textIsTheNameOrEmpty()
+void tst_GLenumProperty::textIsTheNameOrEmpty()
 {
     QFETCH(unsigned int, value);
     QTEST(add("any", value)->valueText(), "text");
 }
 
-void TestGLenumProperty::propertiesShowNoIcon()
+void tst_GLenumProperty::propertiesShowNoIcon()
 {
     QVERIFY(add("minFilter", linear)->valueIcon().isNull());
 }
 
-void TestGLenumProperty::settingTheSameValueSignalsTwice()
+void tst_GLenumProperty::settingTheSameValueSignalsTwice()
 {
     QtProperty *property = m_manager->addProperty("minFilter");
     QSignalSpy propertyChanged(m_manager.get(), &QtAbstractPropertyManager::propertyChanged);
@@ -93,7 +93,7 @@ void TestGLenumProperty::settingTheSameValueSignalsTwice()
     QCOMPARE(valueChanged.last().at(1).toUInt(), linear);
 }
 
-void TestGLenumProperty::propertyChangedComesBeforeValueChanged()
+void tst_GLenumProperty::propertyChangedComesBeforeValueChanged()
 {
     QtProperty *property = m_manager->addProperty("minFilter");
     QStringList order;
@@ -105,7 +105,7 @@ void TestGLenumProperty::propertyChangedComesBeforeValueChanged()
     QCOMPARE(order, QStringList({ "property GL_LINEAR", "value GL_LINEAR" }));
 }
 
-void TestGLenumProperty::foreignPropertiesAreIgnored()
+void tst_GLenumProperty::foreignPropertiesAreIgnored()
 {
     QtGLenumPropertyManager other;
     QtProperty *foreign = other.addProperty("minFilter");
@@ -117,12 +117,12 @@ void TestGLenumProperty::foreignPropertiesAreIgnored()
     QCOMPARE(other.value(foreign), 0xFFFFFFFFu);
 }
 
-void TestGLenumProperty::aDeletedPropertyIsForgotten()
+void tst_GLenumProperty::aDeletedPropertyIsForgotten()
 {
     QtProperty *property = add("minFilter", linear);
     delete property;
     QCOMPARE(m_manager->value(property), 0u);
 }
 
-QTEST_MAIN(TestGLenumProperty)
+QTEST_MAIN(tst_GLenumProperty)
 #include "tst_glenumproperty.moc"

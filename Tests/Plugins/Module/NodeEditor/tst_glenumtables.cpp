@@ -72,7 +72,7 @@ std::map<QString, unsigned int> headerConstants(const QString &path)
 
 } // namespace
 
-class TestGLenumTables : public QObject
+class tst_GLenumTables : public QObject
 {
     Q_OBJECT
 private slots:
@@ -96,7 +96,7 @@ private slots:
     void valuesAgreeWithTheSystemsHeaders();
 };
 
-void TestGLenumTables::theRowsHaveTheKnownCounts()
+void tst_GLenumTables::theRowsHaveTheKnownCounts()
 {
     QCOMPARE(allRows().size(), std::size_t(693));
     QCOMPARE(allNames().size(), std::size_t(545));
@@ -104,7 +104,7 @@ void TestGLenumTables::theRowsHaveTheKnownCounts()
     QCOMPARE(droppedNames().size(), std::size_t(31));
 }
 
-void TestGLenumTables::suffixesOfTheExtensionsAreCounted()
+void tst_GLenumTables::suffixesOfTheExtensionsAreCounted()
 {
     const std::set<QString> names = allNames();
     const auto endsIn = [](const char *suffix) {
@@ -117,13 +117,13 @@ void TestGLenumTables::suffixesOfTheExtensionsAreCounted()
         22);
 }
 
-void TestGLenumTables::theValueTableHas514Values()
+void tst_GLenumTables::theValueTableHas514Values()
 {
     QCOMPARE(data.enumToName.size(), std::size_t(514));
     QCOMPARE(data.enumToName.rbegin()->first, 0x80ECu);
 }
 
-void TestGLenumTables::firstNamesOfAValueStay_data()
+void tst_GLenumTables::firstNamesOfAValueStay_data()
 {
     QTest::addColumn<unsigned int>("value");
     QTest::addColumn<QString>("name");
@@ -136,13 +136,13 @@ void TestGLenumTables::firstNamesOfAValueStay_data()
     QTest::newRow("largest") << 0x80ECu << "GL_FOG_SPECULAR_TEXTURE_WIN";
 }
 
-void TestGLenumTables::firstNamesOfAValueStay()
+void tst_GLenumTables::firstNamesOfAValueStay()
 {
     QFETCH(unsigned int, value);
     QTEST(data.enumToName.at(value), "name");
 }
 
-void TestGLenumTables::namesUnknownToTheSystemsHeadersHaveTheirValues_data()
+void tst_GLenumTables::namesUnknownToTheSystemsHeadersHaveTheirValues_data()
 {
     QTest::addColumn<unsigned int>("value");
     QTest::newRow("GL_COLOR_TABLE_FORMAT_EXT") << 0x80D8u;
@@ -160,18 +160,18 @@ void TestGLenumTables::namesUnknownToTheSystemsHeadersHaveTheirValues_data()
     QTest::newRow("GL_FOG_SPECULAR_TEXTURE_WIN") << 0x80ECu;
 }
 
-void TestGLenumTables::namesUnknownToTheSystemsHeadersHaveTheirValues()
+void tst_GLenumTables::namesUnknownToTheSystemsHeadersHaveTheirValues()
 {
     QFETCH(unsigned int, value);
     QCOMPARE(data.enumToName.at(value), QString(QTest::currentDataTag()));
 }
 
-void TestGLenumTables::valueOneHasNoName()
+void tst_GLenumTables::valueOneHasNoName()
 {
     QCOMPARE(data.enumToName.count(1), std::size_t(0));
 }
 
-void TestGLenumTables::allAttribBitsHidesZeroUntilItBecomesNone()
+void tst_GLenumTables::allAttribBitsHidesZeroUntilItBecomesNone()
 {
     std::map<unsigned int, QString> names;
     std::vector<std::set<unsigned int>> groups;
@@ -180,7 +180,7 @@ void TestGLenumTables::allAttribBitsHidesZeroUntilItBecomesNone()
     QCOMPARE(groups.at(2), std::set<unsigned int> { 0 });
 }
 
-void TestGLenumTables::droppedNamesLoseToTheKeptOnes_data()
+void tst_GLenumTables::droppedNamesLoseToTheKeptOnes_data()
 {
     QTest::addColumn<QString>("dropped");
     QTest::addColumn<QString>("kept");
@@ -196,13 +196,13 @@ void TestGLenumTables::droppedNamesLoseToTheKeptOnes_data()
                            << "GL_COLOR_BUFFER_BIT";
 }
 
-void TestGLenumTables::droppedNamesLoseToTheKeptOnes()
+void tst_GLenumTables::droppedNamesLoseToTheKeptOnes()
 {
     QFETCH(QString, dropped);
     QTEST(droppedNames().at(dropped), "kept");
 }
 
-void TestGLenumTables::vertexArrayExtensionNamesLoseToTheCoreNames()
+void tst_GLenumTables::vertexArrayExtensionNamesLoseToTheCoreNames()
 {
     std::map<QString, QString> expected;
     for (const QString &name : namesOf(kavoGLenumRows::groups.begin()[45])) {
@@ -214,7 +214,7 @@ void TestGLenumTables::vertexArrayExtensionNamesLoseToTheCoreNames()
     QVERIFY(std::includes(dropped.begin(), dropped.end(), expected.begin(), expected.end()));
 }
 
-void TestGLenumTables::groupsHaveTheseMembers_data()
+void tst_GLenumTables::groupsHaveTheseMembers_data()
 {
     QTest::addColumn<QStringList>("names");
     QFile file(QFINDTESTDATA("data/enumgroups.txt"));
@@ -225,7 +225,7 @@ void TestGLenumTables::groupsHaveTheseMembers_data()
         QTest::addRow("group %d", i) << groups[i].simplified().split(' ');
 }
 
-void TestGLenumTables::groupsHaveTheseMembers()
+void tst_GLenumTables::groupsHaveTheseMembers()
 {
     const int index = QByteArray(QTest::currentDataTag()).mid(6).toInt();
     const QStringList names = namesOf(kavoGLenumRows::groups.begin()[index]);
@@ -233,7 +233,7 @@ void TestGLenumTables::groupsHaveTheseMembers()
     QCOMPARE(int(data.groups.at(index).size()), names.size());
 }
 
-void TestGLenumTables::groupSetsAreTheRowsInAscendingOrder()
+void tst_GLenumTables::groupSetsAreTheRowsInAscendingOrder()
 {
     auto rows = kavoGLenumRows::groups.begin();
     for (const std::set<unsigned int> &group : data.groups) {
@@ -245,7 +245,7 @@ void TestGLenumTables::groupSetsAreTheRowsInAscendingOrder()
     QCOMPARE(data.groups.at(37), (std::set<unsigned int> { 0x2600, 0x2601 }));
 }
 
-void TestGLenumTables::setupKeepsWhatTheTablesHold()
+void tst_GLenumTables::setupKeepsWhatTheTablesHold()
 {
     std::map<unsigned int, QString> names { { 0x0100, "mine" } };
     std::vector<std::set<unsigned int>> groups(1);
@@ -254,14 +254,14 @@ void TestGLenumTables::setupKeepsWhatTheTablesHold()
     QCOMPARE(groups.size(), std::size_t(52));
 }
 
-void TestGLenumTables::membersStandInOrder()
+void tst_GLenumTables::membersStandInOrder()
 {
     QVERIFY(static_cast<const void *>(&data) == &data.nameToEnums);
     QVERIFY(static_cast<const void *>(&data.nameToEnums) < &data.enumToName);
     QVERIFY(static_cast<const void *>(&data.enumToName) < &data.groups);
 }
 
-void TestGLenumTables::valuesAgreeWithTheSystemsHeaders()
+void tst_GLenumTables::valuesAgreeWithTheSystemsHeaders()
 {
     std::map<QString, unsigned int> header = headerConstants(GL_HEADER_DIR "/gl.h");
     header.merge(headerConstants(GL_HEADER_DIR "/glext.h"));
@@ -276,5 +276,5 @@ void TestGLenumTables::valuesAgreeWithTheSystemsHeaders()
     QVERIFY2(compared > 650, qPrintable(QString::number(compared)));
 }
 
-QTEST_APPLESS_MAIN(TestGLenumTables)
+QTEST_APPLESS_MAIN(tst_GLenumTables)
 #include "tst_glenumtables.moc"

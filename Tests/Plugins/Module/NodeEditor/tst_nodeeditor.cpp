@@ -31,7 +31,7 @@ public:
 
 } // namespace
 
-class TestNodeEditor : public kavoModuleFixture
+class tst_NodeEditor : public kavoModuleFixture
 {
     Q_OBJECT
 
@@ -58,28 +58,28 @@ private slots:
     void destructionPrintsItsNameAndLeavesTheHost();
 };
 
-void TestNodeEditor::initTestCase()
+void tst_NodeEditor::initTestCase()
 {
     QVERIFY(kavoTestHost::show());
     m_node = kavoTestScene::makeTruck();
 }
 
-void TestNodeEditor::cleanupTestCase()
+void tst_NodeEditor::cleanupTestCase()
 {
     m_node = kavoNodePtr();
 }
 
-void TestNodeEditor::init()
+void tst_NodeEditor::init()
 {
     start();
 }
 
-void TestNodeEditor::cleanup()
+void tst_NodeEditor::cleanup()
 {
     stop();
 }
 
-void TestNodeEditor::itRegistersWithTheHost()
+void tst_NodeEditor::itRegistersWithTheHost()
 {
     QVERIFY(kavoModuleBase::modules().back() == m_module);
     QCOMPARE(m_module->name(), std::string("Node Editor"));
@@ -89,7 +89,7 @@ void TestNodeEditor::itRegistersWithTheHost()
     QVERIFY(kavoNodeEditor::_the == m_module);
 }
 
-void TestNodeEditor::itDocksItsWindowInTheSceneGroup()
+void tst_NodeEditor::itDocksItsWindowInTheSceneGroup()
 {
     const QKAVODockWindowManager &docks = kavoTestHost::docks();
     QCOMPARE(docks.window("Node Editor"), m_module->getWidget());
@@ -101,7 +101,7 @@ void TestNodeEditor::itDocksItsWindowInTheSceneGroup()
         kavoIconManager::getIcon("ModuleNodeEditor", "").pixmap(16).toImage());
 }
 
-void TestNodeEditor::theFormIsAsDesigned()
+void tst_NodeEditor::theFormIsAsDesigned()
 {
     QMainWindow fresh;
     Ui::kavoNodeEditorGUI form;
@@ -118,7 +118,7 @@ void TestNodeEditor::theFormIsAsDesigned()
     QCOMPARE(form.statusbar->objectName(), QString("statusbar"));
 }
 
-void TestNodeEditor::textsAreTranslated()
+void tst_NodeEditor::textsAreTranslated()
 {
     MarkingTranslator translator;
     QCoreApplication::installTranslator(&translator);
@@ -132,7 +132,7 @@ void TestNodeEditor::textsAreTranslated()
     QCOMPARE(fresh.windowTitle(), QString("[kavoNodeEditorGUI: Node Editor]"));
 }
 
-void TestNodeEditor::theEditorFillsTheFrame()
+void tst_NodeEditor::theEditorFillsTheFrame()
 {
     QCOMPARE(m_module->getWidget()->objectName(), QString("Module"));
     auto *layout = qobject_cast<QBoxLayout *>(editor().parentWidget()->layout());
@@ -143,7 +143,7 @@ void TestNodeEditor::theEditorFillsTheFrame()
     QCOMPARE(layout->itemAt(0)->alignment(), Qt::Alignment());
 }
 
-void TestNodeEditor::metaObjectsHoldTheDocumentedMembers()
+void tst_NodeEditor::metaObjectsHoldTheDocumentedMembers()
 {
     const QMetaObject &module = kavoNodeEditor::staticMetaObject;
     QCOMPARE(module.className(), "kavoNodeEditor");
@@ -158,13 +158,13 @@ void TestNodeEditor::metaObjectsHoldTheDocumentedMembers()
     QCOMPARE(window.method(window.methodOffset()).methodType(), QMetaMethod::Signal);
 }
 
-void TestNodeEditor::theWindowIsCastToItsFormByName()
+void tst_NodeEditor::theWindowIsCastToItsFormByName()
 {
     auto *gui = qobject_cast<kavoNodeEditorGUIW *>(m_module->getWidget());
     QVERIFY(gui->qt_metacast("Ui::kavoNodeEditorGUI") == static_cast<Ui::kavoNodeEditorGUI *>(gui));
 }
 
-void TestNodeEditor::showOfTheWindowIsASignal()
+void tst_NodeEditor::showOfTheWindowIsASignal()
 {
     auto *gui = qobject_cast<kavoNodeEditorGUIW *>(m_module->getWidget());
     setVisible(false);
@@ -174,7 +174,7 @@ void TestNodeEditor::showOfTheWindowIsASignal()
     QVERIFY(!gui->isVisible());
 }
 
-void TestNodeEditor::showingTheWindowRaisesIt()
+void tst_NodeEditor::showingTheWindowRaisesIt()
 {
     QWidget *window = m_module->getWidget();
     QWidget above(window->parentWidget());
@@ -183,7 +183,7 @@ void TestNodeEditor::showingTheWindowRaisesIt()
     QVERIFY(window->parentWidget()->children().last() == window);
 }
 
-void TestNodeEditor::showingTheWindowLoadsTheSelection()
+void tst_NodeEditor::showingTheWindowLoadsTheSelection()
 {
     setVisible(false);
     const osg::NodePtr wheel = osg::NodePtr(m_node)->getChild(0);
@@ -193,7 +193,7 @@ void TestNodeEditor::showingTheWindowLoadsTheSelection()
     QCOMPARE(title(), titleOf(wheel, "Wheel"));
 }
 
-void TestNodeEditor::showingTheWindowWithoutASelectionEmptiesTheEditor()
+void tst_NodeEditor::showingTheWindowWithoutASelectionEmptiesTheEditor()
 {
     setVisible(false);
     setVisible(true);
@@ -201,14 +201,14 @@ void TestNodeEditor::showingTheWindowWithoutASelectionEmptiesTheEditor()
     QCOMPARE(m_module->getWidget()->windowTitle(), QString("Node Editor"));
 }
 
-void TestNodeEditor::aNodeIsNamedInTheTitle()
+void tst_NodeEditor::aNodeIsNamedInTheTitle()
 {
     const QString id = QString::number(osg::NodePtr(m_node).getFieldContainerId());
     QCOMPARE(m_module->getWidget()->windowTitle(), "Node Editor - Root (" + id + ")");
     QCOMPARE(title(), titleOf(m_node));
 }
 
-void TestNodeEditor::aNamelessNodeHasNothingBetweenTheBlanks()
+void tst_NodeEditor::aNamelessNodeHasNothingBetweenTheBlanks()
 {
     const kavoNodePtr bare(kavoTestScene::makeNode(nullptr, osg::NullFC));
     m_module->setNode(bare);
@@ -218,14 +218,14 @@ void TestNodeEditor::aNamelessNodeHasNothingBetweenTheBlanks()
     m_module->setNode(osg::NullFC);
 }
 
-void TestNodeEditor::aNullNodeLeavesTheBareTitle()
+void tst_NodeEditor::aNullNodeLeavesTheBareTitle()
 {
     m_module->setNode(osg::NullFC);
     QCOMPARE(m_module->getWidget()->windowTitle(), QString("Node Editor"));
     QCOMPARE(title(), QString());
 }
 
-void TestNodeEditor::anExceptionOnShowingTheWindowIsLoggedAndOver()
+void tst_NodeEditor::anExceptionOnShowingTheWindowIsLoggedAndOver()
 {
     setVisible(false);
     const kavoNodePtr node(kavoTestScene::makeGroup("Root"));
@@ -239,7 +239,7 @@ void TestNodeEditor::anExceptionOnShowingTheWindowIsLoggedAndOver()
     kavoScenegraph::setSelectedNode(osg::NullFC);
 }
 
-void TestNodeEditor::destructionPrintsItsNameAndLeavesTheHost()
+void tst_NodeEditor::destructionPrintsItsNameAndLeavesTheHost()
 {
     const QPointer<QWidget> window = m_module->getWidget();
     kavoConsoleCapture output(kavoConsoleCapture::StandardOutput);
@@ -251,5 +251,5 @@ void TestNodeEditor::destructionPrintsItsNameAndLeavesTheHost()
     QCOMPARE(kavoController::call("updateNodeEditorByMaterial", message, 0), 0);
 }
 
-KAVO_TEST_MAIN(TestNodeEditor)
+KAVO_TEST_MAIN(tst_NodeEditor)
 #include "tst_nodeeditor.moc"

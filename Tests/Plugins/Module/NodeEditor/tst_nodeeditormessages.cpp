@@ -11,7 +11,7 @@
 using namespace kavoTreeRows;
 
 // Reactions of the module to messages and callbacks.
-class TestNodeEditorMessages : public kavoModuleFixture
+class tst_NodeEditorMessages : public kavoModuleFixture
 {
     Q_OBJECT
 
@@ -44,28 +44,28 @@ private:
     void updateByMaterial(const boost::any &material);
 };
 
-void TestNodeEditorMessages::initTestCase()
+void tst_NodeEditorMessages::initTestCase()
 {
     QVERIFY(kavoTestHost::show());
     m_node = kavoTestScene::makeTruck();
 }
 
-void TestNodeEditorMessages::cleanupTestCase()
+void tst_NodeEditorMessages::cleanupTestCase()
 {
     m_node = kavoNodePtr();
 }
 
-void TestNodeEditorMessages::init()
+void tst_NodeEditorMessages::init()
 {
     start();
 }
 
-void TestNodeEditorMessages::cleanup()
+void tst_NodeEditorMessages::cleanup()
 {
     stop();
 }
 
-bool TestNodeEditorMessages::send(int id, const boost::any &node)
+bool tst_NodeEditorMessages::send(int id, const boost::any &node)
 {
     kavoMessage message(id);
     if (!node.empty())
@@ -73,7 +73,7 @@ bool TestNodeEditorMessages::send(int id, const boost::any &node)
     return m_module->receivedMessage(message);
 }
 
-void TestNodeEditorMessages::updateByMaterial(const boost::any &material)
+void tst_NodeEditorMessages::updateByMaterial(const boost::any &material)
 {
     kavoMessage message;
     if (!material.empty())
@@ -81,20 +81,20 @@ void TestNodeEditorMessages::updateByMaterial(const boost::any &material)
     QCOMPARE(kavoController::call("updateNodeEditorByMaterial", message, 0), 1);
 }
 
-void TestNodeEditorMessages::sceneClearedEmptiesTheEditor()
+void tst_NodeEditorMessages::sceneClearedEmptiesTheEditor()
 {
     QVERIFY(!send(0x10));
     QCOMPARE(title(), QString());
 }
 
-void TestNodeEditorMessages::nodeShownShowsTheNode()
+void tst_NodeEditorMessages::nodeShownShowsTheNode()
 {
     const osg::NodePtr wheel = osg::NodePtr(m_node)->getChild(0);
     QVERIFY(!send(0x100, wheel));
     QCOMPARE(title(), titleOf(wheel, "Wheel"));
 }
 
-void TestNodeEditorMessages::nodeShownWithoutNodeEmptiesTheEditorSilently()
+void tst_NodeEditorMessages::nodeShownWithoutNodeEmptiesTheEditorSilently()
 {
     kavoConsoleCapture errors(kavoConsoleCapture::StandardError);
     QVERIFY(!send(0x100));
@@ -102,7 +102,7 @@ void TestNodeEditorMessages::nodeShownWithoutNodeEmptiesTheEditorSilently()
     QCOMPARE(title(), QString());
 }
 
-void TestNodeEditorMessages::nodeShownWithAnotherTypePrintsAndEmptiesTheEditor()
+void tst_NodeEditorMessages::nodeShownWithAnotherTypePrintsAndEmptiesTheEditor()
 {
     kavoConsoleCapture errors(kavoConsoleCapture::StandardError);
     QVERIFY(!send(0x100, osg::MaterialPtr()));
@@ -110,13 +110,13 @@ void TestNodeEditorMessages::nodeShownWithAnotherTypePrintsAndEmptiesTheEditor()
     QCOMPARE(title(), QString());
 }
 
-void TestNodeEditorMessages::selectionChangedToNothingEmptiesTheEditor()
+void tst_NodeEditorMessages::selectionChangedToNothingEmptiesTheEditor()
 {
     QVERIFY(!send(0x80000));
     QCOMPARE(title(), QString());
 }
 
-void TestNodeEditorMessages::selectionChangedToANodeLeavesTheEditor()
+void tst_NodeEditorMessages::selectionChangedToANodeLeavesTheEditor()
 {
     const QtProperty *before = top(editor());
     kavoScenegraph::setSelectedNode(osg::NodePtr(m_node)->getChild(0));
@@ -124,7 +124,7 @@ void TestNodeEditorMessages::selectionChangedToANodeLeavesTheEditor()
     QCOMPARE(top(editor()), before);
 }
 
-void TestNodeEditorMessages::severalSelectionsInOneRoundFillTheEditorOnce()
+void tst_NodeEditorMessages::severalSelectionsInOneRoundFillTheEditorOnce()
 {
     int fillings = 0;
     connect(top(editor())->propertyManager(), &QtAbstractPropertyManager::propertyInserted, this,
@@ -137,28 +137,28 @@ void TestNodeEditorMessages::severalSelectionsInOneRoundFillTheEditorOnce()
     QCOMPARE(fillings, 1);
 }
 
-void TestNodeEditorMessages::otherMessagesLeaveTheEditor_data()
+void tst_NodeEditorMessages::otherMessagesLeaveTheEditor_data()
 {
     QTest::addColumn<int>("id");
     for (const int id : { 0, 0x20, 0x1000, 0x11, 0x80100 })
         QTest::addRow("0x%x", id) << id;
 }
 
-void TestNodeEditorMessages::otherMessagesLeaveTheEditor()
+void tst_NodeEditorMessages::otherMessagesLeaveTheEditor()
 {
     QFETCH(int, id);
     QVERIFY(!send(id, osg::NodePtr()));
     QCOMPARE(title(), titleOf(m_node));
 }
 
-void TestNodeEditorMessages::everyMessageEmptiesAHiddenEditor_data()
+void tst_NodeEditorMessages::everyMessageEmptiesAHiddenEditor_data()
 {
     QTest::addColumn<int>("id");
     for (const int id : { 0, 0x10, 0x20, 0x100, 0x1000, 0x80000 })
         QTest::addRow("0x%x", id) << id;
 }
 
-void TestNodeEditorMessages::everyMessageEmptiesAHiddenEditor()
+void tst_NodeEditorMessages::everyMessageEmptiesAHiddenEditor()
 {
     QFETCH(int, id);
     setVisible(false);
@@ -167,7 +167,7 @@ void TestNodeEditorMessages::everyMessageEmptiesAHiddenEditor()
     QCOMPARE(m_module->getWidget()->windowTitle(), QString("Node Editor"));
 }
 
-void TestNodeEditorMessages::anExceptionInAHiddenWindowReachesTheCaller()
+void tst_NodeEditorMessages::anExceptionInAHiddenWindowReachesTheCaller()
 {
     setVisible(false);
     const auto throwing
@@ -176,7 +176,7 @@ void TestNodeEditorMessages::anExceptionInAHiddenWindowReachesTheCaller()
     disconnect(throwing);
 }
 
-void TestNodeEditorMessages::aMaterialIsShownAndTheTitleStays()
+void tst_NodeEditorMessages::aMaterialIsShownAndTheTitleStays()
 {
     const osg::MaterialPtr material = kavoTestScene::makeMaterial();
     osg::addRefCP(material);
@@ -187,19 +187,19 @@ void TestNodeEditorMessages::aMaterialIsShownAndTheTitleStays()
     osg::subRefCP(material);
 }
 
-void TestNodeEditorMessages::aNullMaterialChangesNothing()
+void tst_NodeEditorMessages::aNullMaterialChangesNothing()
 {
     updateByMaterial(osg::MaterialPtr());
     QCOMPARE(title(), titleOf(m_node));
 }
 
-void TestNodeEditorMessages::aMissingMaterialChangesNothing()
+void tst_NodeEditorMessages::aMissingMaterialChangesNothing()
 {
     updateByMaterial(boost::any());
     QCOMPARE(title(), titleOf(m_node));
 }
 
-void TestNodeEditorMessages::aMaterialOfAnotherTypeChangesNothing()
+void tst_NodeEditorMessages::aMaterialOfAnotherTypeChangesNothing()
 {
     kavoConsoleCapture errors(kavoConsoleCapture::StandardError);
     updateByMaterial(osg::NodePtr(m_node));
@@ -207,7 +207,7 @@ void TestNodeEditorMessages::aMaterialOfAnotherTypeChangesNothing()
     QCOMPARE(title(), titleOf(m_node));
 }
 
-void TestNodeEditorMessages::aMaterialChangesNothingWhileHidden()
+void tst_NodeEditorMessages::aMaterialChangesNothingWhileHidden()
 {
     const osg::MaterialPtr material = kavoTestScene::makeMaterial();
     osg::addRefCP(material);
@@ -217,7 +217,7 @@ void TestNodeEditorMessages::aMaterialChangesNothingWhileHidden()
     osg::subRefCP(material);
 }
 
-void TestNodeEditorMessages::anExceptionInTheDispatchIsLoggedAndOver()
+void tst_NodeEditorMessages::anExceptionInTheDispatchIsLoggedAndOver()
 {
     const kavoNodePtr node(kavoTestScene::makeGroup("Root"));
     osg::NodePtr(node)->addAttachment(osg::FieldSampler::create());
@@ -233,5 +233,5 @@ void TestNodeEditorMessages::anExceptionInTheDispatchIsLoggedAndOver()
     send(0x10);
 }
 
-KAVO_TEST_MAIN(TestNodeEditorMessages)
+KAVO_TEST_MAIN(tst_NodeEditorMessages)
 #include "tst_nodeeditormessages.moc"

@@ -14,7 +14,7 @@
 using namespace kavoTreeRows;
 
 // Number rows and their editors, with a decimal point and with a decimal comma.
-class TestNumbers : public QObject
+class tst_Numbers : public QObject
 {
     Q_OBJECT
 
@@ -44,32 +44,32 @@ private:
     std::unique_ptr<kavoSampledEditor> m_rows;
 };
 
-void TestNumbers::initTestCase_data()
+void tst_Numbers::initTestCase_data()
 {
     QTest::addColumn<QLocale>("locale");
     QTest::newRow("decimal point") << QLocale::c();
     QTest::newRow("decimal comma") << QLocale(QLocale::German, QLocale::Germany);
 }
 
-void TestNumbers::init()
+void tst_Numbers::init()
 {
     QFETCH_GLOBAL(QLocale, locale);
     QLocale::setDefault(locale);
     m_rows = std::make_unique<kavoSampledEditor>();
 }
 
-void TestNumbers::cleanup()
+void tst_Numbers::cleanup()
 {
     m_rows.reset();
     QLocale::setDefault(QLocale::c());
 }
 
-QString TestNumbers::inLocale(QString number)
+QString tst_Numbers::inLocale(QString number)
 {
     return number.replace('.', QLocale().decimalPoint());
 }
 
-double TestNumbers::valueOf(const QString &name)
+double tst_Numbers::valueOf(const QString &name)
 {
     const osg::FieldSampler &sampler = *m_rows->sampler();
     const std::map<QString, double> values {
@@ -83,7 +83,7 @@ double TestNumbers::valueOf(const QString &name)
 }
 
 // Adds rows of field name, value as text, and the text shown with a decimal point.
-void TestNumbers::addNumbers()
+void tst_Numbers::addNumbers()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QByteArray>("value");
@@ -112,12 +112,12 @@ void TestNumbers::addNumbers()
     add("highest short", "uint16", "65535", "65535");
 }
 
-void TestNumbers::aRowShowsTheFieldsNumber_data()
+void tst_Numbers::aRowShowsTheFieldsNumber_data()
 {
     addNumbers();
 }
 
-void TestNumbers::aRowShowsTheFieldsNumber()
+void tst_Numbers::aRowShowsTheFieldsNumber()
 {
     QFETCH(QString, name);
     QFETCH(QByteArray, value);
@@ -127,12 +127,12 @@ void TestNumbers::aRowShowsTheFieldsNumber()
     QCOMPARE(text(m_rows->editor(), name), inLocale(shown));
 }
 
-void TestNumbers::anEditWithoutChangeWritesNothing_data()
+void tst_Numbers::anEditWithoutChangeWritesNothing_data()
 {
     addNumbers();
 }
 
-void TestNumbers::anEditWithoutChangeWritesNothing()
+void tst_Numbers::anEditWithoutChangeWritesNothing()
 {
     QFETCH(QString, name);
     QFETCH(QByteArray, value);
@@ -149,7 +149,7 @@ void TestNumbers::anEditWithoutChangeWritesNothing()
     QCOMPARE(text(m_rows->editor(), name), inLocale(shown));
 }
 
-void TestNumbers::whatIsTypedIsReadBack_data()
+void tst_Numbers::whatIsTypedIsReadBack_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("typed");
@@ -174,7 +174,7 @@ void TestNumbers::whatIsTypedIsReadBack_data()
 
 // The library's text has seven digits, so a row made from it shows no more. QCOMPARE would treat
 // all tiny numbers as zero.
-void TestNumbers::whatIsTypedIsReadBack()
+void tst_Numbers::whatIsTypedIsReadBack()
 {
     QFETCH(QString, name);
     QFETCH(QString, typed);
@@ -188,7 +188,7 @@ void TestNumbers::whatIsTypedIsReadBack()
     QCOMPARE(text(m_rows->editor(), name), inLocale(shown));
 }
 
-void TestNumbers::numbersOutOfRangeAreNotTaken_data()
+void tst_Numbers::numbersOutOfRangeAreNotTaken_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("typed");
@@ -204,7 +204,7 @@ void TestNumbers::numbersOutOfRangeAreNotTaken_data()
     add("below Int32", "uint32", "-2147483649");
 }
 
-void TestNumbers::numbersOutOfRangeAreNotTaken()
+void tst_Numbers::numbersOutOfRangeAreNotTaken()
 {
     QFETCH(QString, name);
     QFETCH(QString, typed);
@@ -214,7 +214,7 @@ void TestNumbers::numbersOutOfRangeAreNotTaken()
     QCOMPARE(text(m_rows->editor(), name), QString("0"));
 }
 
-void TestNumbers::rangesEndWithTheFieldType_data()
+void tst_Numbers::rangesEndWithTheFieldType_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<double>("minimum");
@@ -230,7 +230,7 @@ void TestNumbers::rangesEndWithTheFieldType_data()
     QTest::newRow("time") << "time" << -DBL_MAX << DBL_MAX;
 }
 
-void TestNumbers::rangesEndWithTheFieldType()
+void tst_Numbers::rangesEndWithTheFieldType()
 {
     QFETCH(QString, name);
     const auto &variant = dynamic_cast<QtVariantProperty &>(*row(m_rows->editor(), name));
@@ -238,14 +238,14 @@ void TestNumbers::rangesEndWithTheFieldType()
     QTEST(variant.attributeValue("maximum").toDouble(), "maximum");
 }
 
-void TestNumbers::numbersThatAreNotFiniteAreText_data()
+void tst_Numbers::numbersThatAreNotFiniteAreText_data()
 {
     QTest::addColumn<QByteArray>("value");
     for (const char *value : { "inf", "-inf", "nan" })
         QTest::newRow(value) << QByteArray(value);
 }
 
-void TestNumbers::numbersThatAreNotFiniteAreText()
+void tst_Numbers::numbersThatAreNotFiniteAreText()
 {
     QFETCH(QByteArray, value);
     m_rows->field("real32").pushValueByStr(value.constData());
@@ -257,7 +257,7 @@ void TestNumbers::numbersThatAreNotFiniteAreText()
     QCOMPARE(m_rows->sampler()->real32.getValue(), 2.5f);
 }
 
-void TestNumbers::boxesShowTheirNumbersToTheLastDigit()
+void tst_Numbers::boxesShowTheirNumbersToTheLastDigit()
 {
     const QtProperty *box = m_rows->editor().createPropertyItem(
         "bounds", "SFBoxVolume", "1.000000e-07 -3.400000e+38 0.1 nan 16777216 -1.234567e-20");
@@ -269,5 +269,5 @@ void TestNumbers::boxesShowTheirNumbersToTheLastDigit()
             inLocale("-1.234567e-20") }));
 }
 
-KAVO_TEST_MAIN(TestNumbers)
+KAVO_TEST_MAIN(tst_Numbers)
 #include "tst_numbers.moc"

@@ -13,7 +13,7 @@
 
 #include <dlfcn.h>
 
-class TestPlugin : public QObject
+class tst_Plugin : public QObject
 {
     Q_OBJECT
 
@@ -61,26 +61,26 @@ QStringList exportedSymbols(const QString &file)
 
 } // namespace
 
-void TestPlugin::initPluginIsTheOnlyFunctionExported()
+void tst_Plugin::initPluginIsTheOnlyFunctionExported()
 {
     QCOMPARE(exportedSymbols(m_library.fileName()), QStringList("initPlugin"));
 }
 
 // The linker would use one of the two definitions for both.
-void TestPlugin::noTemplateOfTheComponentIsDefinedAgain()
+void tst_Plugin::noTemplateOfTheComponentIsDefinedAgain()
 {
     const QStringList symbols = definedSymbols(m_library.fileName(), "--demangle");
     QVERIFY(!symbols.filter("kavoEditorFactoryPrivate<QComboBox>::").isEmpty());
     QCOMPARE(symbols.filter(QRegularExpression("\\bEditorFactoryPrivate<")), QStringList());
 }
 
-void TestPlugin::loadingAloneMakesNoModule()
+void tst_Plugin::loadingAloneMakesNoModule()
 {
     QVERIFY2(m_library.load(), qPrintable(m_library.errorString()));
     QVERIFY(kavoModuleBase::modules().empty());
 }
 
-void TestPlugin::loadingBringsTheValuePairOperationAlong()
+void tst_Plugin::loadingBringsTheValuePairOperationAlong()
 {
     void *operation = ::dlopen("libValuePairCSVCreator.so", RTLD_NOW | RTLD_NOLOAD);
     QVERIFY2(operation, "no such library is loaded");
@@ -88,7 +88,7 @@ void TestPlugin::loadingBringsTheValuePairOperationAlong()
 }
 
 // The host throws after the window is complete, so the window stays a child of the main window.
-void TestPlugin::anExceptionLeavesInitPluginAndTheNextCallTriesAgain()
+void tst_Plugin::anExceptionLeavesInitPluginAndTheNextCallTriesAgain()
 {
     const auto initPlugin = reinterpret_cast<InitPlugin>(m_library.resolve("initPlugin"));
     const auto throwing = connect(
@@ -104,7 +104,7 @@ void TestPlugin::anExceptionLeavesInitPluginAndTheNextCallTriesAgain()
     disconnect(throwing);
 }
 
-void TestPlugin::initPluginMakesTheModule()
+void tst_Plugin::initPluginMakesTheModule()
 {
     const auto initPlugin = reinterpret_cast<InitPlugin>(m_library.resolve("initPlugin"));
     QVERIFY(initPlugin);
@@ -113,14 +113,14 @@ void TestPlugin::initPluginMakesTheModule()
     QCOMPARE(kavoTestHost::docks().keys(), QStringList("Node Editor"));
 }
 
-void TestPlugin::initPluginTwiceMakesOneModuleAndOneWindow()
+void tst_Plugin::initPluginTwiceMakesOneModuleAndOneWindow()
 {
     reinterpret_cast<InitPlugin>(m_library.resolve("initPlugin"))();
     QCOMPARE(kavoModuleBase::modules().size(), std::size_t(1));
     QCOMPARE(kavoTestHost::docks().keys(), QStringList("Node Editor"));
 }
 
-void TestPlugin::theTypeOfTheStoredModuleIsTheEditor()
+void tst_Plugin::theTypeOfTheStoredModuleIsTheEditor()
 {
     const kavoModuleBase *module = kavoModuleBase::modules().front();
     QCOMPARE(module->metaObject()->className(), "kavoNodeEditor");
@@ -128,7 +128,7 @@ void TestPlugin::theTypeOfTheStoredModuleIsTheEditor()
 }
 
 // Keeps the node shown, so that its rows are destroyed with the module at process exit.
-void TestPlugin::aNodeIsShownInTheWindow()
+void tst_Plugin::aNodeIsShownInTheWindow()
 {
     reinterpret_cast<InitPlugin>(m_library.resolve("initPlugin"))();
     QVERIFY(kavoTestHost::show());
@@ -142,7 +142,7 @@ void TestPlugin::aNodeIsShownInTheWindow()
     QVERIFY(window->windowTitle().startsWith("Node Editor - Root ("));
 }
 
-void TestPlugin::theProcessEndsWellWithANodeShown()
+void tst_Plugin::theProcessEndsWellWithANodeShown()
 {
     QProcess child;
     child.start(QCoreApplication::applicationFilePath(), { "aNodeIsShownInTheWindow" });
@@ -152,5 +152,5 @@ void TestPlugin::theProcessEndsWellWithANodeShown()
     QVERIFY(child.readAllStandardOutput().endsWith("kavoNodeEditor::~kavoNodeEditor\n"));
 }
 
-KAVO_TEST_MAIN(TestPlugin)
+KAVO_TEST_MAIN(tst_Plugin)
 #include "tst_plugin.moc"

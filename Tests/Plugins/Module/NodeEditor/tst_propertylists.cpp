@@ -27,7 +27,7 @@ struct DerivedAnimation
 } // namespace
 
 // Rows and groups of multi fields.
-class TestPropertyLists : public QObject
+class tst_PropertyLists : public QObject
 {
     Q_OBJECT
 
@@ -59,25 +59,25 @@ private:
     osg::FieldSamplerPtr m_sampler;
 };
 
-void TestPropertyLists::init()
+void tst_PropertyLists::init()
 {
     m_editor = new kavoFCEditorWidget(nullptr, nullptr);
     m_sampler = osg::FieldSampler::create();
     osg::addRefCP(m_sampler);
 }
 
-void TestPropertyLists::cleanup()
+void tst_PropertyLists::cleanup()
 {
     delete m_editor;
     osg::subRefCP(m_sampler);
 }
 
-void TestPropertyLists::show(const osg::FieldContainerPtr &container)
+void tst_PropertyLists::show(const osg::FieldContainerPtr &container)
 {
     m_editor->setFC(QString(), container);
 }
 
-void TestPropertyLists::animatedNodesAreListedUpTo99_data()
+void tst_PropertyLists::animatedNodesAreListedUpTo99_data()
 {
     QTest::addColumn<int>("count");
     QTest::addColumn<QString>("shownText");
@@ -86,7 +86,7 @@ void TestPropertyLists::animatedNodesAreListedUpTo99_data()
     QTest::newRow("100") << 100 << QString("<size = 100>");
 }
 
-void TestPropertyLists::animatedNodesAreListedUpTo99()
+void tst_PropertyLists::animatedNodesAreListedUpTo99()
 {
     QFETCH(int, count);
     QFETCH(QString, shownText);
@@ -101,7 +101,7 @@ void TestPropertyLists::animatedNodesAreListedUpTo99()
     osg::subRefCP(animation);
 }
 
-void TestPropertyLists::classesDerivedFromAnimationsListTheirNodes()
+void tst_PropertyLists::classesDerivedFromAnimationsListTheirNodes()
 {
     const kavoNodePtr node(kavoTestScene::makeGroup("Part"));
     const auto animation = osg::DerivedContainer<DerivedAnimation>::create();
@@ -112,7 +112,7 @@ void TestPropertyLists::classesDerivedFromAnimationsListTheirNodes()
     osg::subRefCP(animation);
 }
 
-void TestPropertyLists::listedNodesBearTheirDisplayNames()
+void tst_PropertyLists::listedNodesBearTheirDisplayNames()
 {
     const kavoNodePtr named(kavoTestScene::makeGroup("Part"));
     const kavoNodePtr cored(kavoTestScene::makeGroup(nullptr));
@@ -128,7 +128,7 @@ void TestPropertyLists::listedNodesBearTheirDisplayNames()
     osg::subRefCP(animation);
 }
 
-void TestPropertyLists::aNullNodeInTheListShowsNothing()
+void tst_PropertyLists::aNullNodeInTheListShowsNothing()
 {
     const osg::AnimNodeBasePtr animation = osg::AnimNodeBase::create();
     osg::addRefCP(animation);
@@ -138,7 +138,7 @@ void TestPropertyLists::aNullNodeInTheListShowsNothing()
     osg::subRefCP(animation);
 }
 
-void TestPropertyLists::otherNodeListsShowTheirSize()
+void tst_PropertyLists::otherNodeListsShowTheirSize()
 {
     const kavoNodePtr root(kavoTestScene::makeGroup("Root"));
     for (const char *name : { "a", "b", "c" })
@@ -148,7 +148,7 @@ void TestPropertyLists::otherNodeListsShowTheirSize()
     QVERIFY(row(*m_editor, "children")->subProperties().isEmpty());
 }
 
-void TestPropertyLists::nullChunksAreSkipped()
+void tst_PropertyLists::nullChunksAreSkipped()
 {
     const osg::ChunkMaterialPtr material = kavoTestScene::makeMaterial();
     osg::addRefCP(material);
@@ -165,7 +165,7 @@ void TestPropertyLists::nullChunksAreSkipped()
     osg::subRefCP(material);
 }
 
-void TestPropertyLists::chunksAreShownAtAnyNumber()
+void tst_PropertyLists::chunksAreShownAtAnyNumber()
 {
     const osg::ChunkMaterialPtr material = osg::ChunkMaterial::create();
     osg::addRefCP(material);
@@ -180,7 +180,7 @@ void TestPropertyLists::chunksAreShownAtAnyNumber()
 }
 
 // Deliberate: the row with the size is missing too.
-void TestPropertyLists::aMaterialWithoutChunksHasNoChunkRow()
+void tst_PropertyLists::aMaterialWithoutChunksHasNoChunkRow()
 {
     const osg::ChunkMaterialPtr material = osg::ChunkMaterial::create();
     osg::addRefCP(material);
@@ -190,7 +190,7 @@ void TestPropertyLists::aMaterialWithoutChunksHasNoChunkRow()
     osg::subRefCP(material);
 }
 
-void TestPropertyLists::transformVariantsAreNumberedWithoutGaps()
+void tst_PropertyLists::transformVariantsAreNumberedWithoutGaps()
 {
     const osg::TransformVariantListPtr list = osg::TransformVariantList::create();
     osg::addRefCP(list);
@@ -205,7 +205,7 @@ void TestPropertyLists::transformVariantsAreNumberedWithoutGaps()
     osg::subRefCP(list);
 }
 
-void TestPropertyLists::transformVariantsAreListedAtAnyNumber()
+void tst_PropertyLists::transformVariantsAreListedAtAnyNumber()
 {
     const osg::TransformVariantListPtr list = osg::TransformVariantList::create();
     osg::addRefCP(list);
@@ -218,7 +218,7 @@ void TestPropertyLists::transformVariantsAreListedAtAnyNumber()
     osg::subRefCP(list);
 }
 
-void TestPropertyLists::aListOfNullVariantsIsAnEmptyGroup()
+void tst_PropertyLists::aListOfNullVariantsIsAnEmptyGroup()
 {
     const osg::TransformVariantListPtr list = osg::TransformVariantList::create();
     osg::addRefCP(list);
@@ -231,7 +231,7 @@ void TestPropertyLists::aListOfNullVariantsIsAnEmptyGroup()
     osg::subRefCP(list);
 }
 
-void TestPropertyLists::anEmptyVariantListShowsItsSize()
+void tst_PropertyLists::anEmptyVariantListShowsItsSize()
 {
     const osg::TransformVariantListPtr list = osg::TransformVariantList::create();
     osg::addRefCP(list);
@@ -240,7 +240,7 @@ void TestPropertyLists::anEmptyVariantListShowsItsSize()
     osg::subRefCP(list);
 }
 
-void TestPropertyLists::numbersAreListedUpTo99_data()
+void tst_PropertyLists::numbersAreListedUpTo99_data()
 {
     QTest::addColumn<int>("count");
     QTest::addColumn<QString>("reals");
@@ -257,7 +257,7 @@ void TestPropertyLists::numbersAreListedUpTo99_data()
                          << "<type=Int32> <size = 150>";
 }
 
-void TestPropertyLists::numbersAreListedUpTo99()
+void tst_PropertyLists::numbersAreListedUpTo99()
 {
     QFETCH(int, count);
     m_sampler->reals.resize(count, 0.5f);
@@ -267,19 +267,19 @@ void TestPropertyLists::numbersAreListedUpTo99()
     QTEST(text(*m_editor, "ints"), "ints");
 }
 
-void TestPropertyLists::stringsAreListedAtAnySize()
+void tst_PropertyLists::stringsAreListedAtAnySize()
 {
     m_sampler->texts.resize(200, "ä");
     show(m_sampler);
     QCOMPARE(text(*m_editor, "texts").count("\"ä\""), 200);
 }
 
-void TestPropertyLists::otherListsAreSummarised()
+void tst_PropertyLists::otherListsAreSummarised()
 {
     m_sampler->vectors.resize(2);
     show(m_sampler);
     QCOMPARE(text(*m_editor, "vectors"), QString("<type=Vec3f> <size = 2>"));
 }
 
-KAVO_TEST_MAIN(TestPropertyLists)
+KAVO_TEST_MAIN(tst_PropertyLists)
 #include "tst_propertylists.moc"

@@ -7,7 +7,7 @@
 
 using namespace kavoTreeRows;
 
-class TestPropertyRows : public QObject
+class tst_PropertyRows : public QObject
 {
     Q_OBJECT
 
@@ -43,28 +43,28 @@ private:
     kavoFCEditorWidget *m_editor = nullptr;
 };
 
-void TestPropertyRows::init()
+void tst_PropertyRows::init()
 {
     m_editor = new kavoFCEditorWidget(nullptr, nullptr);
 }
 
-void TestPropertyRows::cleanup()
+void tst_PropertyRows::cleanup()
 {
     delete m_editor;
 }
 
-QtVariantProperty *TestPropertyRows::variant(const QString &typeName, const QString &text)
+QtVariantProperty *tst_PropertyRows::variant(const QString &typeName, const QString &text)
 {
     return dynamic_cast<QtVariantProperty *>(m_editor->createPropertyItem("row", typeName, text));
 }
 
-colorVal TestPropertyRows::color(const QString &typeName, const QString &text)
+colorVal tst_PropertyRows::color(const QString &typeName, const QString &text)
 {
     const QtProperty *row = m_editor->createPropertyItem("row", typeName, text);
     return dynamic_cast<QtKavoColorPropertyManager &>(*row->propertyManager()).value(row);
 }
 
-void TestPropertyRows::theFieldTypeDecidesOnTheRow_data()
+void tst_PropertyRows::theFieldTypeDecidesOnTheRow_data()
 {
     QTest::addColumn<QString>("typeName");
     QTest::addColumn<int>("type");
@@ -80,7 +80,7 @@ void TestPropertyRows::theFieldTypeDecidesOnTheRow_data()
         QTest::newRow(name) << name << int(QVariant::String);
 }
 
-void TestPropertyRows::theFieldTypeDecidesOnTheRow()
+void tst_PropertyRows::theFieldTypeDecidesOnTheRow()
 {
     QFETCH(QString, typeName);
     QtVariantProperty *row = variant(typeName, "1");
@@ -89,7 +89,7 @@ void TestPropertyRows::theFieldTypeDecidesOnTheRow()
     QVERIFY(row->isEnabled());
 }
 
-void TestPropertyRows::everyRowBearsItsTypeAsTooltip_data()
+void tst_PropertyRows::everyRowBearsItsTypeAsTooltip_data()
 {
     QTest::addColumn<QString>("typeName");
     for (const char *name : { "SFBool", "SFInt8", "SFTime", "SFBoxVolume", "SFQuaternion",
@@ -97,13 +97,13 @@ void TestPropertyRows::everyRowBearsItsTypeAsTooltip_data()
         QTest::newRow(name) << name;
 }
 
-void TestPropertyRows::everyRowBearsItsTypeAsTooltip()
+void tst_PropertyRows::everyRowBearsItsTypeAsTooltip()
 {
     QFETCH(QString, typeName);
     QCOMPARE(m_editor->createPropertyItem("row", typeName, "1")->toolTip(), typeName);
 }
 
-void TestPropertyRows::falseInAnyLetterCaseIsUnchecked_data()
+void tst_PropertyRows::falseInAnyLetterCaseIsUnchecked_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<bool>("checked");
@@ -113,13 +113,13 @@ void TestPropertyRows::falseInAnyLetterCaseIsUnchecked_data()
         QTest::newRow(text) << text << true;
 }
 
-void TestPropertyRows::falseInAnyLetterCaseIsUnchecked()
+void tst_PropertyRows::falseInAnyLetterCaseIsUnchecked()
 {
     QFETCH(QString, text);
     QTEST(variant("SFBool", text)->value().toBool(), "checked");
 }
 
-void TestPropertyRows::aBoxIsAGroupOfSixNumbers_data()
+void tst_PropertyRows::aBoxIsAGroupOfSixNumbers_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QList<double>>("values");
@@ -129,7 +129,7 @@ void TestPropertyRows::aBoxIsAGroupOfSixNumbers_data()
     QTest::newRow("none") << "" << QList<double> { 0, 0, 0, 0, 0, 0 };
 }
 
-void TestPropertyRows::aBoxIsAGroupOfSixNumbers()
+void tst_PropertyRows::aBoxIsAGroupOfSixNumbers()
 {
     QFETCH(QString, text);
     const QtProperty *box = m_editor->createPropertyItem("bounds", "SFBoxVolume", text);
@@ -141,7 +141,7 @@ void TestPropertyRows::aBoxIsAGroupOfSixNumbers()
     QTEST(values, "values");
 }
 
-void TestPropertyRows::aQuaternionIsAGroupOfFourNumbers()
+void tst_PropertyRows::aQuaternionIsAGroupOfFourNumbers()
 {
     const QtProperty *row
         = m_editor->createPropertyItem("rotation", "SFQuaternion", "0 9.999999e-01 0 1.570796e+00");
@@ -151,14 +151,14 @@ void TestPropertyRows::aQuaternionIsAGroupOfFourNumbers()
     QCOMPARE(child(row, "w")->valueText(), QString("1.570796"));
 }
 
-void TestPropertyRows::numbersThatAreNotFiniteAreText_data()
+void tst_PropertyRows::numbersThatAreNotFiniteAreText_data()
 {
     QTest::addColumn<QString>("text");
     for (const char *text : { "inf", "-inf", "nan", "-nan", "-NAN", " -nan" })
         QTest::newRow(text) << text;
 }
 
-void TestPropertyRows::numbersThatAreNotFiniteAreText()
+void tst_PropertyRows::numbersThatAreNotFiniteAreText()
 {
     QFETCH(QString, text);
     for (const char *typeName : { "SFReal32", "SFReal64", "SFTime" }) {
@@ -169,7 +169,7 @@ void TestPropertyRows::numbersThatAreNotFiniteAreText()
     }
 }
 
-void TestPropertyRows::aMinusBeforeNanLeavesTheOtherSubRows()
+void tst_PropertyRows::aMinusBeforeNanLeavesTheOtherSubRows()
 {
     const QtProperty *row
         = m_editor->createPropertyItem("rotation", "SFQuaternion", "1 -nan -2.5 -NAN");
@@ -179,13 +179,13 @@ void TestPropertyRows::aMinusBeforeNanLeavesTheOtherSubRows()
     QCOMPARE(texts, QStringList({ "1", "nan", "-2.5", "nan" }));
 }
 
-void TestPropertyRows::typeNamesAreCaseSensitive()
+void tst_PropertyRows::typeNamesAreCaseSensitive()
 {
     QCOMPARE(variant("sfBool", "TRUE")->propertyType(), int(QVariant::String));
     QCOMPARE(variant("SFcolor3f", "1 1 1")->propertyType(), int(QVariant::String));
 }
 
-void TestPropertyRows::anEnumRowReadsOneNumber_data()
+void tst_PropertyRows::anEnumRowReadsOneNumber_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<unsigned int>("value");
@@ -195,7 +195,7 @@ void TestPropertyRows::anEnumRowReadsOneNumber_data()
     QTest::newRow("nothing") << "" << 0u;
 }
 
-void TestPropertyRows::anEnumRowReadsOneNumber()
+void tst_PropertyRows::anEnumRowReadsOneNumber()
 {
     QFETCH(QString, text);
     const QtProperty *row = m_editor->createPropertyItem("minFilter", "SFGLenum", text);
@@ -203,7 +203,7 @@ void TestPropertyRows::anEnumRowReadsOneNumber()
     QTEST(dynamic_cast<QtGLenumPropertyManager &>(*row->propertyManager()).value(row), "value");
 }
 
-void TestPropertyRows::aColorOfThreeReadsThreeNumbers()
+void tst_PropertyRows::aColorOfThreeReadsThreeNumbers()
 {
     const colorVal value = color("SFColor3f", "0.25 5.000000e-01 0.75 0.125");
     QCOMPARE(value.r, 0.25f);
@@ -212,7 +212,7 @@ void TestPropertyRows::aColorOfThreeReadsThreeNumbers()
     QCOMPARE(value.a, 1.f);
 }
 
-void TestPropertyRows::aColorOfFourReadsFourNumbers()
+void tst_PropertyRows::aColorOfFourReadsFourNumbers()
 {
     const colorVal value = color("SFColor4f", "0.25 0.5 0.75 0.125");
     QCOMPARE(value.r, 0.25f);
@@ -220,7 +220,7 @@ void TestPropertyRows::aColorOfFourReadsFourNumbers()
     QCOMPARE(value.a, 0.125f);
 }
 
-void TestPropertyRows::colorsTakeWhatTheTextHolds()
+void tst_PropertyRows::colorsTakeWhatTheTextHolds()
 {
     const colorVal value = color("SFColor3f", "0.25");
     QCOMPARE(value.r, 0.25f);
@@ -228,13 +228,13 @@ void TestPropertyRows::colorsTakeWhatTheTextHolds()
     QCOMPARE(value.b, 0.f);
 }
 
-void TestPropertyRows::otherTypesShowTheirTextAsItIs()
+void tst_PropertyRows::otherTypesShowTheirTextAsItIs()
 {
     for (const char *text : { "<unset>", "<size = 3>", "1.0 0 0 0 1.0", " ä, \"b\" ", "" })
         QCOMPARE(variant("SFMatrix", text)->valueText(), QString(text));
 }
 
-void TestPropertyRows::floatsAreBeautified_data()
+void tst_PropertyRows::floatsAreBeautified_data()
 {
     QTest::addColumn<QString>("typeName");
     QTest::addColumn<QString>("text");
@@ -280,12 +280,12 @@ void TestPropertyRows::floatsAreBeautified_data()
                                  << "1.0 2.0";
 }
 
-void TestPropertyRows::floatsAreBeautified()
+void tst_PropertyRows::floatsAreBeautified()
 {
     QFETCH(QString, typeName);
     QFETCH(QString, text);
     QTEST(kavoFCEditorWidget::beautifyFloats(typeName, text), "beautified");
 }
 
-KAVO_TEST_MAIN(TestPropertyRows)
+KAVO_TEST_MAIN(tst_PropertyRows)
 #include "tst_propertyrows.moc"

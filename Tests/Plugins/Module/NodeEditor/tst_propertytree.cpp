@@ -12,7 +12,7 @@
 using namespace kavoTreeRows;
 
 // Groups and rows of a container and of the containers that it refers to.
-class TestPropertyTree : public QObject
+class tst_PropertyTree : public QObject
 {
     Q_OBJECT
 
@@ -45,37 +45,37 @@ private:
     osg::FieldSamplerPtr m_sampler;
 };
 
-void TestPropertyTree::init()
+void tst_PropertyTree::init()
 {
     m_editor = new kavoFCEditorWidget(nullptr, nullptr);
     m_sampler = osg::FieldSampler::create();
     osg::addRefCP(m_sampler);
 }
 
-void TestPropertyTree::cleanup()
+void tst_PropertyTree::cleanup()
 {
     delete m_editor;
     osg::subRefCP(m_sampler);
 }
 
-void TestPropertyTree::show(const osg::FieldContainerPtr &container, const QString &name)
+void tst_PropertyTree::show(const osg::FieldContainerPtr &container, const QString &name)
 {
     m_editor->setFC(name, container);
 }
 
-void TestPropertyTree::theTitleIsNameTypeAndId()
+void tst_PropertyTree::theTitleIsNameTypeAndId()
 {
     show(m_sampler, "core");
     QCOMPARE(top(*m_editor)->propertyName(), titleOf("core", m_sampler));
 }
 
-void TestPropertyTree::anEmptyNameLeavesTheBlank()
+void tst_PropertyTree::anEmptyNameLeavesTheBlank()
 {
     show(m_sampler);
     QVERIFY(top(*m_editor)->propertyName().startsWith(" FieldSampler ("));
 }
 
-void TestPropertyTree::fieldsStandInTheOrderOfTheirDescriptions()
+void tst_PropertyTree::fieldsStandInTheOrderOfTheirDescriptions()
 {
     show(m_sampler);
     QStringList names;
@@ -87,7 +87,7 @@ void TestPropertyTree::fieldsStandInTheOrderOfTheirDescriptions()
 }
 
 // The description of a node's travMask says bool, but the field is a number.
-void TestPropertyTree::theFieldsOwnTypeDecides()
+void tst_PropertyTree::theFieldsOwnTypeDecides()
 {
     const kavoNodePtr node(kavoTestScene::makeGroup("Root"));
     show(osg::NodePtr(node));
@@ -95,20 +95,20 @@ void TestPropertyTree::theFieldsOwnTypeDecides()
     QCOMPARE(text(*m_editor, "travMask"), QString("-1"));
 }
 
-void TestPropertyTree::theTopRowIsOpen()
+void tst_PropertyTree::theTopRowIsOpen()
 {
     show(m_sampler);
     QVERIFY(isOpen(*m_editor, top(*m_editor)));
 }
 
-void TestPropertyTree::anEmptyAttachmentMapHasNoRow()
+void tst_PropertyTree::anEmptyAttachmentMapHasNoRow()
 {
     const kavoNodePtr node(kavoTestScene::makeGroup(nullptr));
     show(osg::NodePtr(node));
     QVERIFY(!titles(top(*m_editor)).join('\n').contains("attachments"));
 }
 
-void TestPropertyTree::attachmentsAreNumberedInAClosedList()
+void tst_PropertyTree::attachmentsAreNumberedInAClosedList()
 {
     const kavoNodePtr node(kavoTestScene::makeGroup("Root"));
     osg::NodePtr(node)->addAttachment(osg::FieldSampler::create());
@@ -125,7 +125,7 @@ void TestPropertyTree::attachmentsAreNumberedInAClosedList()
         QVERIFY(!isOpen(*m_editor, attachment));
 }
 
-void TestPropertyTree::aNodeShowsItsCoreOpen()
+void tst_PropertyTree::aNodeShowsItsCoreOpen()
 {
     const kavoNodePtr node(kavoTestScene::makeNode("Root", osg::Transform::create()));
     show(osg::NodePtr(node));
@@ -135,7 +135,7 @@ void TestPropertyTree::aNodeShowsItsCoreOpen()
     QVERIFY(child(core, "matrix"));
 }
 
-void TestPropertyTree::aMaterialIsOpenBelowItsCore()
+void tst_PropertyTree::aMaterialIsOpenBelowItsCore()
 {
     const osg::MaterialPtr material = kavoTestScene::makeMaterial();
     const kavoNodePtr node(kavoTestScene::makeGeometry("Tyre", material));
@@ -146,7 +146,7 @@ void TestPropertyTree::aMaterialIsOpenBelowItsCore()
     QVERIFY(isOpen(*m_editor, group));
 }
 
-void TestPropertyTree::otherNestedGroupsAreClosed()
+void tst_PropertyTree::otherNestedGroupsAreClosed()
 {
     const kavoNodePtr node(kavoTestScene::makeGroup("Other"));
     m_sampler->other.setValue(node);
@@ -158,14 +158,14 @@ void TestPropertyTree::otherNestedGroupsAreClosed()
     m_sampler->other.setValue(osg::NullFC);
 }
 
-void TestPropertyTree::anUnsetPointerSaysSo()
+void tst_PropertyTree::anUnsetPointerSaysSo()
 {
     show(m_sampler);
     QCOMPARE(text(*m_editor, "other"), QString("<unset>"));
     QCOMPARE(text(*m_editor, "parent"), QString("<unset>"));
 }
 
-void TestPropertyTree::backLinksShowTheOwnersId_data()
+void tst_PropertyTree::backLinksShowTheOwnersId_data()
 {
     QTest::addColumn<QString>("field");
     QTest::addColumn<bool>("isSampled");
@@ -174,7 +174,7 @@ void TestPropertyTree::backLinksShowTheOwnersId_data()
     QTest::newRow("parents") << "parents" << false;
 }
 
-void TestPropertyTree::backLinksShowTheOwnersId()
+void tst_PropertyTree::backLinksShowTheOwnersId()
 {
     QFETCH(QString, field);
     QFETCH(bool, isSampled);
@@ -190,14 +190,14 @@ void TestPropertyTree::backLinksShowTheOwnersId()
     osg::subRefCP(single);
 }
 
-void TestPropertyTree::vectorsAreBeautified()
+void tst_PropertyTree::vectorsAreBeautified()
 {
     m_sampler->vector.setValue(osg::Vec3f(1, 2.5f, 1e-7f));
     show(m_sampler);
     QCOMPARE(text(*m_editor, "vector"), QString("1, 2.5, 1e-07"));
 }
 
-void TestPropertyTree::theShallowVariantAddsTheTitleOnly()
+void tst_PropertyTree::theShallowVariantAddsTheTitleOnly()
 {
     m_editor->setFCnr(nullptr, m_sampler, "it", false);
     QCOMPARE(top(*m_editor)->propertyName(), titleOf("it", m_sampler));
@@ -210,7 +210,7 @@ void TestPropertyTree::theShallowVariantAddsTheTitleOnly()
     QCOMPARE(m_editor->properties().size(), 1);
 }
 
-void TestPropertyTree::theShallowVariantNamesNamedNodes()
+void tst_PropertyTree::theShallowVariantNamesNamedNodes()
 {
     const kavoNodePtr named(kavoTestScene::makeGroup("Root"));
     const kavoNodePtr nameless(kavoTestScene::makeGroup(nullptr));
@@ -221,7 +221,7 @@ void TestPropertyTree::theShallowVariantNamesNamedNodes()
     QCOMPARE(m_editor->properties().at(1)->propertyName(), titleOf("b", osg::NodePtr(nameless)));
 }
 
-void TestPropertyTree::collapsingReturnsTheItem()
+void tst_PropertyTree::collapsingReturnsTheItem()
 {
     show(m_sampler);
     QtBrowserItem *item = m_editor->collapseProperty(top(*m_editor));
@@ -230,11 +230,11 @@ void TestPropertyTree::collapsingReturnsTheItem()
     QVERIFY(!isOpen(*m_editor, top(*m_editor)));
 }
 
-void TestPropertyTree::collapsingAStrangerReturnsNull()
+void tst_PropertyTree::collapsingAStrangerReturnsNull()
 {
     QtVariantPropertyManager manager;
     QCOMPARE(m_editor->collapseProperty(manager.addProperty(QVariant::Int)), nullptr);
 }
 
-KAVO_TEST_MAIN(TestPropertyTree)
+KAVO_TEST_MAIN(tst_PropertyTree)
 #include "tst_propertytree.moc"

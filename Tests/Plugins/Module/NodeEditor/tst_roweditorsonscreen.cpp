@@ -16,7 +16,7 @@
 #include <QtTest>
 
 // Colour and enumeration editors in rows of a property tree.
-class TestRowEditorsOnScreen : public QObject
+class tst_RowEditorsOnScreen : public QObject
 {
     Q_OBJECT
 private slots:
@@ -50,7 +50,7 @@ private:
     QtProperty *m_diffuse = nullptr;
 };
 
-void TestRowEditorsOnScreen::initTestCase()
+void tst_RowEditorsOnScreen::initTestCase()
 {
     QCoreApplication::setOrganizationName("kavotest");
     QCoreApplication::setApplicationName("roweditorsonscreen");
@@ -58,7 +58,7 @@ void TestRowEditorsOnScreen::initTestCase()
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_settings.path());
 }
 
-void TestRowEditorsOnScreen::init()
+void tst_RowEditorsOnScreen::init()
 {
     m_browser = new QtTreePropertyBrowser;
     m_enums = new QtGLenumPropertyManager(m_browser);
@@ -78,21 +78,21 @@ void TestRowEditorsOnScreen::init()
 }
 
 // The component keeps pointers to a browser until its factories are unset.
-void TestRowEditorsOnScreen::cleanup()
+void tst_RowEditorsOnScreen::cleanup()
 {
     m_browser->unsetFactoryForManager(m_enums);
     m_browser->unsetFactoryForManager(m_colors);
     delete m_browser;
 }
 
-void TestRowEditorsOnScreen::clickValue(int row)
+void tst_RowEditorsOnScreen::clickValue(int row)
 {
     const QTreeWidget *view = tree();
     const QRect rect = view->visualRect(view->model()->index(row, 1));
     kavoRealInput::click(view->viewport()->mapToGlobal(rect.center()));
 }
 
-void TestRowEditorsOnScreen::anEnumerationIsChosenWithTheMouse()
+void tst_RowEditorsOnScreen::anEnumerationIsChosenWithTheMouse()
 {
     clickValue(0);
     auto *editor = qobject_cast<QComboBox *>(QApplication::focusWidget());
@@ -107,7 +107,7 @@ void TestRowEditorsOnScreen::anEnumerationIsChosenWithTheMouse()
     QCOMPARE(valueText(0), QStringLiteral("GL_LINEAR"));
 }
 
-void TestRowEditorsOnScreen::anEnumerationIsChosenWithTheKeyboard()
+void tst_RowEditorsOnScreen::anEnumerationIsChosenWithTheKeyboard()
 {
     clickValue(0);
     kavoRealInput::press({ "alt+Down", "Down", "Down", "Return" });
@@ -117,7 +117,7 @@ void TestRowEditorsOnScreen::anEnumerationIsChosenWithTheKeyboard()
     QCOMPARE(valueText(0), QStringLiteral("GL_NEAREST_MIPMAP_NEAREST"));
 }
 
-void TestRowEditorsOnScreen::aColorIsChosenWithTheMouse()
+void tst_RowEditorsOnScreen::aColorIsChosenWithTheMouse()
 {
     clickValue(1);
     QVERIFY(picker());
@@ -131,7 +131,7 @@ void TestRowEditorsOnScreen::aColorIsChosenWithTheMouse()
     QVERIFY(popup()->isVisible());
 }
 
-void TestRowEditorsOnScreen::aColorIsChosenWithTheKeyboard()
+void tst_RowEditorsOnScreen::aColorIsChosenWithTheKeyboard()
 {
     clickValue(1);
     kavoRealInput::press({ "alt+Down" });
@@ -142,7 +142,7 @@ void TestRowEditorsOnScreen::aColorIsChosenWithTheKeyboard()
     QVERIFY(!popup()->isVisible());
 }
 
-void TestRowEditorsOnScreen::escapeInThePopupKeepsTheEditorAndTheOldColor()
+void tst_RowEditorsOnScreen::escapeInThePopupKeepsTheEditorAndTheOldColor()
 {
     clickValue(1);
     kavoRealInput::press({ "space" });
@@ -157,7 +157,7 @@ void TestRowEditorsOnScreen::escapeInThePopupKeepsTheEditorAndTheOldColor()
     QVERIFY(tree()->hasFocus());
 }
 
-void TestRowEditorsOnScreen::enterInTheEditorClosesIt()
+void tst_RowEditorsOnScreen::enterInTheEditorClosesIt()
 {
     clickValue(1);
     QVERIFY(picker());
@@ -166,7 +166,7 @@ void TestRowEditorsOnScreen::enterInTheEditorClosesIt()
     QCOMPARE(m_colors->value(m_diffuse).a, 0.5f);
 }
 
-void TestRowEditorsOnScreen::anotherRowEndsTheEditing()
+void tst_RowEditorsOnScreen::anotherRowEndsTheEditing()
 {
     clickValue(1);
     kavoRealInput::press({ "F4", "Escape" });
@@ -175,7 +175,7 @@ void TestRowEditorsOnScreen::anotherRowEndsTheEditing()
     QVERIFY(qobject_cast<QComboBox *>(QApplication::focusWidget()));
 }
 
-void TestRowEditorsOnScreen::removingThePropertyClosesThePopup()
+void tst_RowEditorsOnScreen::removingThePropertyClosesThePopup()
 {
     clickValue(1);
     kavoRealInput::press({ "alt+Down" });
@@ -187,5 +187,5 @@ void TestRowEditorsOnScreen::removingThePropertyClosesThePopup()
     QVERIFY(qobject_cast<QComboBox *>(QApplication::focusWidget()));
 }
 
-QTEST_MAIN(TestRowEditorsOnScreen)
+QTEST_MAIN(tst_RowEditorsOnScreen)
 #include "tst_roweditorsonscreen.moc"

@@ -13,7 +13,7 @@
 using namespace kavoTreeRows;
 
 // Typing and stepping in the spin boxes of number rows.
-class TestSpinBoxes : public QObject
+class tst_SpinBoxes : public QObject
 {
     Q_OBJECT
 
@@ -45,18 +45,18 @@ private:
     std::unique_ptr<kavoSampledEditor> m_rows;
 };
 
-void TestSpinBoxes::init()
+void tst_SpinBoxes::init()
 {
     m_rows = std::make_unique<kavoSampledEditor>();
     m_rows->show();
 }
 
-void TestSpinBoxes::cleanup()
+void tst_SpinBoxes::cleanup()
 {
     m_rows.reset();
 }
 
-void TestSpinBoxes::clickUpArrow(QWidget *spinBox)
+void tst_SpinBoxes::clickUpArrow(QWidget *spinBox)
 {
     QStyleOptionSpinBox option;
     option.initFrom(spinBox);
@@ -67,7 +67,7 @@ void TestSpinBoxes::clickUpArrow(QWidget *spinBox)
     QTest::mouseClick(spinBox, Qt::LeftButton, {}, arrow.center());
 }
 
-void TestSpinBoxes::theStepFitsTheMagnitude_data()
+void tst_SpinBoxes::theStepFitsTheMagnitude_data()
 {
     QTest::addColumn<double>("value");
     QTest::addColumn<double>("stepped");
@@ -79,7 +79,7 @@ void TestSpinBoxes::theStepFitsTheMagnitude_data()
     QTest::newRow("largest") << DBL_MAX << DBL_MAX;
 }
 
-void TestSpinBoxes::theStepFitsTheMagnitude()
+void tst_SpinBoxes::theStepFitsTheMagnitude()
 {
     QFETCH(double, value);
     QFETCH(double, stepped);
@@ -88,7 +88,7 @@ void TestSpinBoxes::theStepFitsTheMagnitude()
     QCOMPARE(m_rows->sampler()->real64.getValue(), stepped);
 }
 
-void TestSpinBoxes::theStepFitsANumberTyped_data()
+void tst_SpinBoxes::theStepFitsANumberTyped_data()
 {
     QTest::addColumn<QString>("typed");
     QTest::addColumn<double>("stepped");
@@ -97,7 +97,7 @@ void TestSpinBoxes::theStepFitsANumberTyped_data()
     QTest::newRow("huge") << "1e30" << 1.1e30;
 }
 
-void TestSpinBoxes::theStepFitsANumberTyped()
+void tst_SpinBoxes::theStepFitsANumberTyped()
 {
     QFETCH(QString, typed);
     QTest::keyClick(m_rows->type("real64", typed), Qt::Key_Up);
@@ -105,7 +105,7 @@ void TestSpinBoxes::theStepFitsANumberTyped()
     QCOMPARE(m_rows->sampler()->changes, 1);
 }
 
-void TestSpinBoxes::theArrowStepsFromANumberTyped_data()
+void tst_SpinBoxes::theArrowStepsFromANumberTyped_data()
 {
     QTest::addColumn<QString>("field");
     QTest::addColumn<QString>("stepped");
@@ -115,14 +115,14 @@ void TestSpinBoxes::theArrowStepsFromANumberTyped_data()
                          << "101";
 }
 
-void TestSpinBoxes::theArrowStepsFromANumberTyped()
+void tst_SpinBoxes::theArrowStepsFromANumberTyped()
 {
     QFETCH(QString, field);
     clickUpArrow(m_rows->type(field, "100"));
     QTEST(text(m_rows->editor(), field), "stepped");
 }
 
-void TestSpinBoxes::theStepFitsANumberSetFromElsewhere()
+void tst_SpinBoxes::theStepFitsANumberSetFromElsewhere()
 {
     QWidget *spinBox = m_rows->open("real64");
     QTest::keyClick(spinBox, Qt::Key_Up);
@@ -131,7 +131,7 @@ void TestSpinBoxes::theStepFitsANumberSetFromElsewhere()
     QCOMPARE(m_rows->sampler()->real64.getValue(), 1.1e30);
 }
 
-void TestSpinBoxes::aRunOfStepsKeepsItsSize()
+void tst_SpinBoxes::aRunOfStepsKeepsItsSize()
 {
     setValue(m_rows->editor(), "real64", 1);
     QWidget *spinBox = m_rows->open("real64");
@@ -141,7 +141,7 @@ void TestSpinBoxes::aRunOfStepsKeepsItsSize()
     }
 }
 
-void TestSpinBoxes::stepsLeaveNoRoundingNoise()
+void tst_SpinBoxes::stepsLeaveNoRoundingNoise()
 {
     QWidget *spinBox = m_rows->open("real64");
     for (int i = 0; i < 3; ++i)
@@ -152,21 +152,21 @@ void TestSpinBoxes::stepsLeaveNoRoundingNoise()
     QCOMPARE(text(m_rows->editor(), "real64"), QString("0"));
 }
 
-void TestSpinBoxes::aStepFromUnfinishedTextGoesFromTheOldNumber()
+void tst_SpinBoxes::aStepFromUnfinishedTextGoesFromTheOldNumber()
 {
     setValue(m_rows->editor(), "real64", 5);
     QTest::keyClick(m_rows->type("real64", "2e"), Qt::Key_Up);
     QCOMPARE(m_rows->sampler()->real64.getValue(), 5.1);
 }
 
-void TestSpinBoxes::escapeTakesBackWhatWasTyped_data()
+void tst_SpinBoxes::escapeTakesBackWhatWasTyped_data()
 {
     QTest::addColumn<QString>("field");
     for (const char *field : { "real32", "int32", "uint32" })
         QTest::newRow(field) << field;
 }
 
-void TestSpinBoxes::escapeTakesBackWhatWasTyped()
+void tst_SpinBoxes::escapeTakesBackWhatWasTyped()
 {
     QFETCH(QString, field);
     const QPointer<QWidget> spinBox = m_rows->type(field, "100");
@@ -177,7 +177,7 @@ void TestSpinBoxes::escapeTakesBackWhatWasTyped()
     QCOMPARE(text(m_rows->editor(), field), QString("0"));
 }
 
-void TestSpinBoxes::lettersAreNotTaken_data()
+void tst_SpinBoxes::lettersAreNotTaken_data()
 {
     QTest::addColumn<QString>("field");
     QTest::addColumn<QString>("taken");
@@ -189,14 +189,14 @@ void TestSpinBoxes::lettersAreNotTaken_data()
                               << "15";
 }
 
-void TestSpinBoxes::lettersAreNotTaken()
+void tst_SpinBoxes::lettersAreNotTaken()
 {
     QFETCH(QString, field);
     const auto *spinBox = qobject_cast<QAbstractSpinBox *>(m_rows->type(field, "x1y.z5-"));
     QTEST(spinBox->text(), "taken");
 }
 
-void TestSpinBoxes::pointAndCommaAreTheDecimalPoint_data()
+void tst_SpinBoxes::pointAndCommaAreTheDecimalPoint_data()
 {
     QTest::addColumn<QLocale>("locale");
     QTest::addColumn<QString>("typed");
@@ -207,7 +207,7 @@ void TestSpinBoxes::pointAndCommaAreTheDecimalPoint_data()
     QTest::newRow("comma, German") << german << "0,5";
 }
 
-void TestSpinBoxes::pointAndCommaAreTheDecimalPoint()
+void tst_SpinBoxes::pointAndCommaAreTheDecimalPoint()
 {
     QFETCH(QLocale, locale);
     QFETCH(QString, typed);
@@ -216,7 +216,7 @@ void TestSpinBoxes::pointAndCommaAreTheDecimalPoint()
     QCOMPARE(m_rows->sampler()->real32.getValue(), 0.5f);
 }
 
-void TestSpinBoxes::anOpenEditorFollowsItsRow_data()
+void tst_SpinBoxes::anOpenEditorFollowsItsRow_data()
 {
     QTest::addColumn<QString>("field");
     QTest::addColumn<QVariant>("value");
@@ -225,7 +225,7 @@ void TestSpinBoxes::anOpenEditorFollowsItsRow_data()
     QTest::newRow("int") << "int32" << QVariant(-7) << "-7";
 }
 
-void TestSpinBoxes::anOpenEditorFollowsItsRow()
+void tst_SpinBoxes::anOpenEditorFollowsItsRow()
 {
     QFETCH(QString, field);
     QFETCH(QVariant, value);
@@ -237,5 +237,5 @@ void TestSpinBoxes::anOpenEditorFollowsItsRow()
     QCOMPARE(m_rows->sampler()->changes, 2);
 }
 
-KAVO_TEST_MAIN(TestSpinBoxes)
+KAVO_TEST_MAIN(tst_SpinBoxes)
 #include "tst_spinboxes.moc"

@@ -114,7 +114,7 @@ struct SignalLog
 } // namespace
 
 // Filling and emptying the tree in the fast way has the same result as in the straightforward way.
-class TestStraightforward : public QObject
+class tst_Straightforward : public QObject
 {
     Q_OBJECT
 
@@ -140,7 +140,7 @@ private:
     kavoFCEditorWidget *m_plain = nullptr; ///< filled without setFC(name, container)
 };
 
-void TestStraightforward::init()
+void tst_Straightforward::init()
 {
     m_node = makeScene();
     for (kavoFCEditorWidget **editor : { &m_editor, &m_plain }) {
@@ -150,7 +150,7 @@ void TestStraightforward::init()
     }
 }
 
-void TestStraightforward::cleanup()
+void tst_Straightforward::cleanup()
 {
     osg::FieldSampler::accessThrows = false;
     delete m_editor;
@@ -158,24 +158,24 @@ void TestStraightforward::cleanup()
     m_node = kavoNodePtr();
 }
 
-void TestStraightforward::show()
+void tst_Straightforward::show()
 {
     m_editor->setFC("node", osg::NodePtr(m_node));
 }
 
-void TestStraightforward::showPlainly()
+void tst_Straightforward::showPlainly()
 {
     m_plain->setFC(nullptr, osg::NodePtr(m_node), "node", false);
 }
 
-void TestStraightforward::emptyPlainly()
+void tst_Straightforward::emptyPlainly()
 {
     const auto *manager = m_plain->properties().value(0)->propertyManager();
     m_plain->clear();
     manager->clear();
 }
 
-void TestStraightforward::theTreeEndsLikeOneWhoseViewFollowsEachRow()
+void tst_Straightforward::theTreeEndsLikeOneWhoseViewFollowsEachRow()
 {
     show();
     showPlainly();
@@ -185,7 +185,7 @@ void TestStraightforward::theTreeEndsLikeOneWhoseViewFollowsEachRow()
     QCOMPARE(shownRows(*m_editor), shownRows(*m_plain));
 }
 
-void TestStraightforward::aSecondTreeEndsLikeOneWhoseViewFollowsEachRow()
+void tst_Straightforward::aSecondTreeEndsLikeOneWhoseViewFollowsEachRow()
 {
     show();
     show();
@@ -196,7 +196,7 @@ void TestStraightforward::aSecondTreeEndsLikeOneWhoseViewFollowsEachRow()
     QCOMPARE(shownRows(*m_editor), shownRows(*m_plain));
 }
 
-void TestStraightforward::anEmptiedTreeIsLaidOutEmpty()
+void tst_Straightforward::anEmptiedTreeIsLaidOutEmpty()
 {
     show();
     m_editor->setFC("node", osg::NullFC);
@@ -207,7 +207,7 @@ void TestStraightforward::anEmptiedTreeIsLaidOutEmpty()
 }
 
 // Except for real numbers, which the component rounds to two decimals.
-void TestStraightforward::theTreeIsThatOfThePlainComponent()
+void tst_Straightforward::theTreeIsThatOfThePlainComponent()
 {
     kavoStraightforwardBrowser plain;
     show();
@@ -215,7 +215,7 @@ void TestStraightforward::theTreeIsThatOfThePlainComponent()
     QCOMPARE(itemsOf(*m_editor, WithoutRealTexts), itemsOf(plain, WithoutRealTexts));
 }
 
-void TestStraightforward::theSignalsAreThoseOfAnEditorWhoseViewFollowsEachRow()
+void tst_Straightforward::theSignalsAreThoseOfAnEditorWhoseViewFollowsEachRow()
 {
     show();
     showPlainly();
@@ -230,7 +230,7 @@ void TestStraightforward::theSignalsAreThoseOfAnEditorWhoseViewFollowsEachRow()
     QCOMPARE(ours.lines, theirs.lines);
 }
 
-void TestStraightforward::aTreeThatCouldNotBeFilledIsLaidOutWithTheRowsItHas()
+void tst_Straightforward::aTreeThatCouldNotBeFilledIsLaidOutWithTheRowsItHas()
 {
     show();
     osg::FieldSampler::accessThrows = true;
@@ -241,7 +241,7 @@ void TestStraightforward::aTreeThatCouldNotBeFilledIsLaidOutWithTheRowsItHas()
     QCOMPARE(shownRows(*m_editor), shownRows(*m_plain));
 }
 
-void TestStraightforward::anotherContainerIsShownFromItsTopRowOn()
+void tst_Straightforward::anotherContainerIsShownFromItsTopRowOn()
 {
     show();
     const QScrollBar &bar = *treeOf(*m_editor).verticalScrollBar();
@@ -252,7 +252,7 @@ void TestStraightforward::anotherContainerIsShownFromItsTopRowOn()
     QCOMPARE(bar.value(), 0);
 }
 
-void TestStraightforward::theDownKeyGoesToTheTopRowOfANewTree()
+void tst_Straightforward::theDownKeyGoesToTheTopRowOfANewTree()
 {
     show();
     m_editor->setCurrentItem(m_editor->topLevelItems().constFirst()->children().constLast());
@@ -262,5 +262,5 @@ void TestStraightforward::theDownKeyGoesToTheTopRowOfANewTree()
     QCOMPARE(m_editor->currentItem(), m_editor->topLevelItems().constFirst());
 }
 
-KAVO_TEST_MAIN(TestStraightforward)
+KAVO_TEST_MAIN(tst_Straightforward)
 #include "tst_straightforward.moc"

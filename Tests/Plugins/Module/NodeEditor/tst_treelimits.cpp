@@ -82,7 +82,7 @@ QList<QtProperty *> endings(const kavoFCEditorWidget &editor)
 } // namespace
 
 // Limits of the tree for containers that refer to one another.
-class TestTreeLimits : public QObject
+class tst_TreeLimits : public QObject
 {
     Q_OBJECT
 
@@ -107,7 +107,7 @@ private:
 };
 
 // Counts the groups with that title directly below the top row that have rows.
-int TestTreeLimits::filledGroups(const QString &title) const
+int tst_TreeLimits::filledGroups(const QString &title) const
 {
     const QList<QtProperty *> groups = top(*m_editor)->subProperties();
     return int(std::count_if(groups.begin(), groups.end(), [&](const QtProperty *group) {
@@ -115,7 +115,7 @@ int TestTreeLimits::filledGroups(const QString &title) const
     }));
 }
 
-void TestTreeLimits::pointersAreFollowedManyContainersDeep()
+void tst_TreeLimits::pointersAreFollowedManyContainersDeep()
 {
     const std::vector<kavoNodePtr> chain = lightsBehindLights(kavoFCEditorWidget::maxDepth / 2);
     show(osg::NodePtr(chain.front()));
@@ -125,7 +125,7 @@ void TestTreeLimits::pointersAreFollowedManyContainersDeep()
 }
 
 // A deep scene must not exhaust the stack.
-void TestTreeLimits::whatLiesTooDeepShowsItsTitleAlone()
+void tst_TreeLimits::whatLiesTooDeepShowsItsTitleAlone()
 {
     const std::vector<kavoNodePtr> chain = lightsBehindLights(kavoFCEditorWidget::maxDepth / 2 + 1);
     show(osg::NodePtr(chain.front()));
@@ -135,7 +135,7 @@ void TestTreeLimits::whatLiesTooDeepShowsItsTitleAlone()
 }
 
 // A light is often its own beacon. Only pointers to owners are recognised by their name.
-void TestTreeLimits::aContainerInsideItselfShowsItsTitleAlone()
+void tst_TreeLimits::aContainerInsideItselfShowsItsTitleAlone()
 {
     const std::vector<kavoNodePtr> lights = lightsBehindLights(1);
     const osg::NodePtr node(lights.front());
@@ -148,7 +148,7 @@ void TestTreeLimits::aContainerInsideItselfShowsItsTitleAlone()
     osg::LightPtr::dcast(node->getCore())->setBeacon(osg::NullFC);
 }
 
-void TestTreeLimits::aContainerBesideItselfShowsItsFieldsTwice()
+void tst_TreeLimits::aContainerBesideItselfShowsItsFieldsTwice()
 {
     const osg::ChunkMaterialPtr material = kavoTestScene::makeMaterial();
     const kavoNodePtr node(kavoTestScene::makeGeometry("Tyre", material));
@@ -158,7 +158,7 @@ void TestTreeLimits::aContainerBesideItselfShowsItsFieldsTwice()
     QCOMPARE(filledGroups(titleOf("", chunk)), 2);
 }
 
-void TestTreeLimits::aTreeOfManyWaysToTheSameContainersEnds()
+void tst_TreeLimits::aTreeOfManyWaysToTheSameContainersEnds()
 {
     const std::vector<kavoNodePtr> nodes = manyWaysToTheSameNodes();
     show(osg::NodePtr(nodes.front()));
@@ -167,7 +167,7 @@ void TestTreeLimits::aTreeOfManyWaysToTheSameContainersEnds()
     QVERIFY(rows < int(kavoFCEditorWidget::maxRows) * 2);
 }
 
-void TestTreeLimits::eachTreeThatEndsSaysSoOnce()
+void tst_TreeLimits::eachTreeThatEndsSaysSoOnce()
 {
     const std::vector<kavoNodePtr> nodes = manyWaysToTheSameNodes();
     kavoConsoleCapture errors(kavoConsoleCapture::StandardError);
@@ -181,7 +181,7 @@ void TestTreeLimits::eachTreeThatEndsSaysSoOnce()
     QVERIFY(endings(*m_editor).isEmpty());
 }
 
-void TestTreeLimits::aContainerInsideItselfDoesNotEndTheTree()
+void tst_TreeLimits::aContainerInsideItselfDoesNotEndTheTree()
 {
     const std::vector<kavoNodePtr> lights = lightsBehindLights(1);
     const osg::NodePtr node(lights.front());
@@ -194,7 +194,7 @@ void TestTreeLimits::aContainerInsideItselfDoesNotEndTheTree()
 }
 
 // The list of the node stands above its core, the list of the core above its material.
-void TestTreeLimits::listsLeaveRowsToCoreAndMaterial()
+void tst_TreeLimits::listsLeaveRowsToCoreAndMaterial()
 {
     const std::vector<kavoNodePtr> nodes = manyWaysToTheSameNodes();
     const osg::ChunkMaterialPtr material = kavoTestScene::makeMaterial();
@@ -213,7 +213,7 @@ void TestTreeLimits::listsLeaveRowsToCoreAndMaterial()
         QVERIFY(!child(materialRow, titleOf("", chunk))->subProperties().isEmpty());
 }
 
-void TestTreeLimits::listsKeepTheirPlace()
+void tst_TreeLimits::listsKeepTheirPlace()
 {
     const kavoNodePtr node(kavoTestScene::makeGroup("Root"));
     addList(osg::NodePtr(node), osg::NodePtr(node));
@@ -223,5 +223,5 @@ void TestTreeLimits::listsKeepTheirPlace()
             titleOf("core", osg::NodePtr(node)->getCore()) }));
 }
 
-KAVO_TEST_MAIN(TestTreeLimits)
+KAVO_TEST_MAIN(tst_TreeLimits)
 #include "tst_treelimits.moc"

@@ -19,7 +19,7 @@ namespace {
 
 const QByteArray constructorLine = "ValuePairCSVCreator::ValuePairCSVCreator\n";
 
-}
+} // namespace
 
 // How a run of the operation is watched, ended and fails. What it writes is in tst_valuepaircsv.
 class tst_ValuePairCsvRun : public QObject

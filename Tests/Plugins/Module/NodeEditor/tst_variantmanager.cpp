@@ -4,7 +4,7 @@
 #include <QRegularExpressionValidator>
 #include <QtTest>
 
-class TestVariantManager : public QObject
+class tst_VariantManager : public QObject
 {
     Q_OBJECT
 
@@ -15,7 +15,7 @@ private slots:
     void textsAcceptLineBreaks();
 };
 
-void TestVariantManager::textsReadAsALineEditShowsThem_data()
+void tst_VariantManager::textsReadAsALineEditShowsThem_data()
 {
     QTest::addColumn<QString>("text");
     QTest::newRow("empty") << QString();
@@ -26,7 +26,7 @@ void TestVariantManager::textsReadAsALineEditShowsThem_data()
     QTest::newRow("longer than a line edit takes") << QString(40000, 'x');
 }
 
-void TestVariantManager::textsReadAsALineEditShowsThem()
+void tst_VariantManager::textsReadAsALineEditShowsThem()
 {
     QFETCH(QString, text);
     kavoVariantPropertyManager manager;
@@ -37,7 +37,7 @@ void TestVariantManager::textsReadAsALineEditShowsThem()
     QCOMPARE(row->valueText(), edit.displayText());
 }
 
-void TestVariantManager::textsHoldWhatTheyAreGiven()
+void tst_VariantManager::textsHoldWhatTheyAreGiven()
 {
     kavoVariantPropertyManager manager;
     QtVariantProperty *row = manager.addProperty(QVariant::String, "text");
@@ -46,7 +46,7 @@ void TestVariantManager::textsHoldWhatTheyAreGiven()
 }
 
 // A line edit rejects every key if its text does not match the row's expression.
-void TestVariantManager::textsAcceptLineBreaks()
+void tst_VariantManager::textsAcceptLineBreaks()
 {
     kavoVariantPropertyManager manager;
     QtVariantProperty *row = manager.addProperty(QVariant::String, "text");
@@ -58,6 +58,6 @@ void TestVariantManager::textsAcceptLineBreaks()
     QCOMPARE(validator.validate(text, position), QValidator::Acceptable);
 }
 
-QTEST_MAIN(TestVariantManager)
+QTEST_MAIN(tst_VariantManager)
 
 #include "tst_variantmanager.moc"

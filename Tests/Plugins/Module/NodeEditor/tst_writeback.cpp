@@ -17,7 +17,7 @@
 using namespace kavoTreeRows;
 
 // Effects of an edit on field, container and change list.
-class TestWriteBack : public QObject
+class tst_WriteBack : public QObject
 {
     Q_OBJECT
 
@@ -43,18 +43,18 @@ private:
     std::unique_ptr<kavoSampledEditor> m_rows;
 };
 
-void TestWriteBack::init()
+void tst_WriteBack::init()
 {
     m_rows = std::make_unique<kavoSampledEditor>();
     osg::Thread::getCurrentChangeList()->clearAll();
 }
 
-void TestWriteBack::cleanup()
+void tst_WriteBack::cleanup()
 {
     m_rows.reset();
 }
 
-void TestWriteBack::aFlagIsWritten()
+void tst_WriteBack::aFlagIsWritten()
 {
     setValue(m_rows->editor(), "flag", true);
     QVERIFY(m_rows->sampler()->flag.getValue());
@@ -62,7 +62,7 @@ void TestWriteBack::aFlagIsWritten()
     QVERIFY(!m_rows->sampler()->flag.getValue());
 }
 
-void TestWriteBack::numbersAreWritten_data()
+void tst_WriteBack::numbersAreWritten_data()
 {
     QTest::addColumn<QString>("field");
     QTest::addColumn<QVariant>("value");
@@ -78,7 +78,7 @@ void TestWriteBack::numbersAreWritten_data()
     QTest::newRow("time") << "time" << QVariant(1.5) << "1.500000e+00";
 }
 
-void TestWriteBack::numbersAreWritten()
+void tst_WriteBack::numbersAreWritten()
 {
     QFETCH(QString, field);
     QFETCH(QVariant, value);
@@ -89,13 +89,13 @@ void TestWriteBack::numbersAreWritten()
     QTEST(QString::fromStdString(written), "text");
 }
 
-void TestWriteBack::aVectorIsWrittenFromALineOfText()
+void tst_WriteBack::aVectorIsWrittenFromALineOfText()
 {
     setValue(m_rows->editor(), "vector", "1, 2.5, -3e2");
     QVERIFY(m_rows->sampler()->vector.getValue() == osg::Vec3f(1, 2.5f, -300));
 }
 
-void TestWriteBack::anEditAnnouncesTheChangeOnce()
+void tst_WriteBack::anEditAnnouncesTheChangeOnce()
 {
     setValue(m_rows->editor(), "real32", 0.25);
     const osg::ChangeList *changes = osg::Thread::getCurrentChangeList();
@@ -108,14 +108,14 @@ void TestWriteBack::anEditAnnouncesTheChangeOnce()
     QCOMPARE(m_rows->sampler()->lastOrigin, osg::UInt32(osg::ChangedOrigin::External));
 }
 
-void TestWriteBack::anEditGoesToTheChangeListBeforeChanged()
+void tst_WriteBack::anEditGoesToTheChangeListBeforeChanged()
 {
     setValue(m_rows->editor(), "real32", 0.25);
     QCOMPARE(m_rows->sampler()->listedBeforeChanged, 1u);
 }
 
 // A thread that was not started by the library has no change list.
-void TestWriteBack::anEditNeedsNoChangeList()
+void tst_WriteBack::anEditNeedsNoChangeList()
 {
     QtProperty *real32 = row(m_rows->editor(), "real32");
     osg::ChangeList *changes = osg::Thread::getCurrentChangeList();
@@ -128,7 +128,7 @@ void TestWriteBack::anEditNeedsNoChangeList()
     QCOMPARE(m_rows->sampler()->changes, 1);
 }
 
-void TestWriteBack::derivedFieldsFollowAnEdit()
+void tst_WriteBack::derivedFieldsFollowAnEdit()
 {
     const osg::ComponentTransformPtr transform = osg::ComponentTransform::create();
     osg::addRefCP(transform);
@@ -138,7 +138,7 @@ void TestWriteBack::derivedFieldsFollowAnEdit()
     osg::subRefCP(transform);
 }
 
-void TestWriteBack::theIgnoreChangeSwitchIsHeeded()
+void tst_WriteBack::theIgnoreChangeSwitchIsHeeded()
 {
     if (!kavoOpenSG::setChangesIgnored(true))
         QSKIP("This OpenSG has no ignore-change switch.");
@@ -149,7 +149,7 @@ void TestWriteBack::theIgnoreChangeSwitchIsHeeded()
     QCOMPARE(int(osg::Thread::getCurrentChangeList()->sizeChanged()), 1);
 }
 
-void TestWriteBack::theTreeIsNotRebuiltAfterAnEdit()
+void tst_WriteBack::theTreeIsNotRebuiltAfterAnEdit()
 {
     const QList<QtProperty *> before = all(m_rows->editor());
     setValue(m_rows->editor(), "real32", 0.25);
@@ -157,13 +157,13 @@ void TestWriteBack::theTreeIsNotRebuiltAfterAnEdit()
     QCOMPARE(text(m_rows->editor(), "real32"), QString("0.25"));
 }
 
-void TestWriteBack::pointerRowsStay()
+void tst_WriteBack::pointerRowsStay()
 {
     setValue(m_rows->editor(), "other", "1");
     QVERIFY(m_rows->sampler()->other.getValue() == osg::NullFC);
 }
 
-void TestWriteBack::anEditOfADeadContainerIsLoggedAndDropped()
+void tst_WriteBack::anEditOfADeadContainerIsLoggedAndDropped()
 {
     m_rows->destroySampler();
     osg::Thread::getCurrentChangeList()->clearAll();
@@ -173,7 +173,7 @@ void TestWriteBack::anEditOfADeadContainerIsLoggedAndDropped()
     QCOMPARE(int(osg::Thread::getCurrentChangeList()->sizeChanged()), 0);
 }
 
-void TestWriteBack::anUnboundRowIsIgnored()
+void tst_WriteBack::anUnboundRowIsIgnored()
 {
     QtProperty *stranger = m_rows->editor().createPropertyItem("stranger", "SFReal32", "1");
     kavoConsoleCapture errors(kavoConsoleCapture::StandardError);
@@ -182,7 +182,7 @@ void TestWriteBack::anUnboundRowIsIgnored()
     QCOMPARE(m_rows->sampler()->changes, 0);
 }
 
-void TestWriteBack::theFieldOfANestedContainerIsWritten()
+void tst_WriteBack::theFieldOfANestedContainerIsWritten()
 {
     const kavoNodePtr node(kavoTestScene::makeNode("Root", osg::ComponentTransform::create()));
     m_rows->editor().setFC("node", osg::NodePtr(node));
@@ -193,5 +193,5 @@ void TestWriteBack::theFieldOfANestedContainerIsWritten()
     QCOMPARE(core->getScale()[1], 2.f);
 }
 
-KAVO_TEST_MAIN(TestWriteBack)
+KAVO_TEST_MAIN(tst_WriteBack)
 #include "tst_writeback.moc"

@@ -34,7 +34,7 @@ struct CommaNumbers : std::numpunct<char>
 } // namespace
 
 // Edits of enumeration and colour rows.
-class TestWriteCustomRows : public QObject
+class tst_WriteCustomRows : public QObject
 {
     Q_OBJECT
 
@@ -61,36 +61,36 @@ private:
     std::unique_ptr<kavoSampledEditor> m_rows;
 };
 
-void TestWriteCustomRows::init()
+void tst_WriteCustomRows::init()
 {
     m_rows = std::make_unique<kavoSampledEditor>();
     materialUpdates = 0;
     kavoController::addCB("updateMatRender", countMaterialUpdate);
 }
 
-void TestWriteCustomRows::cleanup()
+void tst_WriteCustomRows::cleanup()
 {
     kavoController::subCB("updateMatRender", countMaterialUpdate);
     m_rows.reset();
 }
 
-template <class Manager> Manager &TestWriteCustomRows::managerOf(const QString &title)
+template <class Manager> Manager &tst_WriteCustomRows::managerOf(const QString &title)
 {
     return dynamic_cast<Manager &>(*row(m_rows->editor(), title)->propertyManager());
 }
 
-void TestWriteCustomRows::setEnum(unsigned int value)
+void tst_WriteCustomRows::setEnum(unsigned int value)
 {
     managerOf<QtGLenumPropertyManager>("minFilter")
         .setValue(row(m_rows->editor(), "minFilter"), value);
 }
 
-void TestWriteCustomRows::setColor(const QString &title, const colorVal &value)
+void tst_WriteCustomRows::setColor(const QString &title, const colorVal &value)
 {
     managerOf<QtKavoColorPropertyManager>(title).setValue(row(m_rows->editor(), title), value);
 }
 
-void TestWriteCustomRows::anEnumIsWrittenAsDecimal()
+void tst_WriteCustomRows::anEnumIsWrittenAsDecimal()
 {
     setEnum(9729);
     QCOMPARE(m_rows->sampler()->minFilter.getValue(), GLenum(9729));
@@ -99,7 +99,7 @@ void TestWriteCustomRows::anEnumIsWrittenAsDecimal()
     QCOMPARE(m_rows->sampler()->minFilter.getValue(), GLenum(0xFFFFFFFF));
 }
 
-void TestWriteCustomRows::anEnumEditPrintsATraceLineFirst()
+void tst_WriteCustomRows::anEnumEditPrintsATraceLineFirst()
 {
     m_rows->destroySampler();
     kavoConsoleCapture errors(kavoConsoleCapture::StandardError);
@@ -108,7 +108,7 @@ void TestWriteCustomRows::anEnumEditPrintsATraceLineFirst()
     QCOMPARE(output.text(), QByteArray("property 'minFilter' changed to '9729'\n"));
 }
 
-void TestWriteCustomRows::theTraceLineIsUtf8()
+void tst_WriteCustomRows::theTraceLineIsUtf8()
 {
     QtProperty *row = m_rows->editor().createPropertyItem("Größe €", "SFGLenum", "0");
     kavoConsoleCapture output(kavoConsoleCapture::StandardOutput);
@@ -116,14 +116,14 @@ void TestWriteCustomRows::theTraceLineIsUtf8()
     QCOMPARE(output.text(), QByteArray("property 'Größe €' changed to '1'\n"));
 }
 
-void TestWriteCustomRows::anEnumAboveTheSignedRangePrintsNegative()
+void tst_WriteCustomRows::anEnumAboveTheSignedRangePrintsNegative()
 {
     kavoConsoleCapture output(kavoConsoleCapture::StandardOutput);
     setEnum(0xFFFFFFFE);
     QCOMPARE(output.text(), QByteArray("property 'minFilter' changed to '-2'\n"));
 }
 
-void TestWriteCustomRows::aColorIsWrittenComponentByComponent()
+void tst_WriteCustomRows::aColorIsWrittenComponentByComponent()
 {
     setColor("color4", { 0.25f, 1.5f, -1, 0.123456789f });
     const osg::Color4f &color = m_rows->sampler()->color4.getValue();
@@ -134,14 +134,14 @@ void TestWriteCustomRows::aColorIsWrittenComponentByComponent()
     QCOMPARE(m_rows->sampler()->lastMask, osg::FieldSampler::maskOf("color4"));
 }
 
-void TestWriteCustomRows::aThreeComponentColorTakesTheFirstThree()
+void tst_WriteCustomRows::aThreeComponentColorTakesTheFirstThree()
 {
     setColor("color3", { 0.25f, 0.5f, 0.75f, 0 });
     QCOMPARE(m_rows->sampler()->color3.getValue()[0], 0.25f);
     QCOMPARE(m_rows->sampler()->color3.getValue()[2], 0.75f);
 }
 
-void TestWriteCustomRows::onlyColorEditsAskForMaterialUpdates()
+void tst_WriteCustomRows::onlyColorEditsAskForMaterialUpdates()
 {
     setValue(m_rows->editor(), "real32", 0.25);
     setEnum(9729);
@@ -150,7 +150,7 @@ void TestWriteCustomRows::onlyColorEditsAskForMaterialUpdates()
     QCOMPARE(materialUpdates, 1);
 }
 
-void TestWriteCustomRows::aColorEditOfADeadContainerStillAsksForMaterialUpdates()
+void tst_WriteCustomRows::aColorEditOfADeadContainerStillAsksForMaterialUpdates()
 {
     m_rows->destroySampler();
     kavoConsoleCapture errors(kavoConsoleCapture::StandardError);
@@ -159,7 +159,7 @@ void TestWriteCustomRows::aColorEditOfADeadContainerStillAsksForMaterialUpdates(
     QCOMPARE(materialUpdates, 1);
 }
 
-void TestWriteCustomRows::aContainerThatThrowsOnAnEditIsLogged()
+void tst_WriteCustomRows::aContainerThatThrowsOnAnEditIsLogged()
 {
     kavoConsoleCapture errors(kavoConsoleCapture::StandardError);
     osg::FieldSampler::accessThrows = true;
@@ -169,7 +169,7 @@ void TestWriteCustomRows::aContainerThatThrowsOnAnEditIsLogged()
     QCOMPARE(materialUpdates, 1);
 }
 
-void TestWriteCustomRows::anUnboundColorStillAsksForMaterialUpdates()
+void tst_WriteCustomRows::anUnboundColorStillAsksForMaterialUpdates()
 {
     QtProperty *left = row(m_rows->editor(), "color3");
     m_rows->editor().setFC(QString(), osg::NullFC);
@@ -179,7 +179,7 @@ void TestWriteCustomRows::anUnboundColorStillAsksForMaterialUpdates()
     QCOMPARE(m_rows->sampler()->changes, 0);
 }
 
-void TestWriteCustomRows::numbersOfTheLibraryHaveAPointInAnyLocale()
+void tst_WriteCustomRows::numbersOfTheLibraryHaveAPointInAnyLocale()
 {
     const std::locale before
         = std::locale::global(std::locale(std::locale::classic(), new CommaNumbers));
@@ -193,5 +193,5 @@ void TestWriteCustomRows::numbersOfTheLibraryHaveAPointInAnyLocale()
     QVERIFY(m_rows->sampler()->color4.getValue() == osg::Color4f(0.25f, 0.5f, 1000.5f, 1));
 }
 
-KAVO_TEST_MAIN(TestWriteCustomRows)
+KAVO_TEST_MAIN(tst_WriteCustomRows)
 #include "tst_writecustomrows.moc"

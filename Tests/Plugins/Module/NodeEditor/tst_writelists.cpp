@@ -11,7 +11,7 @@
 using namespace kavoTreeRows;
 
 // Edits of list rows.
-class TestWriteLists : public QObject
+class tst_WriteLists : public QObject
 {
     Q_OBJECT
 
@@ -30,7 +30,7 @@ private:
     std::unique_ptr<kavoSampledEditor> m_rows;
 };
 
-void TestWriteLists::init()
+void tst_WriteLists::init()
 {
     m_rows = std::make_unique<kavoSampledEditor>();
     m_rows->sampler()->texts.resize(1, "text");
@@ -40,12 +40,12 @@ void TestWriteLists::init()
     osg::Thread::getCurrentChangeList()->clearAll();
 }
 
-void TestWriteLists::cleanup()
+void tst_WriteLists::cleanup()
 {
     m_rows.reset();
 }
 
-void TestWriteLists::aNumberListIsReplaced_data()
+void tst_WriteLists::aNumberListIsReplaced_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("elements");
@@ -57,7 +57,7 @@ void TestWriteLists::aNumberListIsReplaced_data()
                                      << "1, 0, 3";
 }
 
-void TestWriteLists::aNumberListIsReplaced()
+void tst_WriteLists::aNumberListIsReplaced()
 {
     QFETCH(QString, text);
     m_rows->sampler()->uints.resize(7, 9);
@@ -68,7 +68,7 @@ void TestWriteLists::aNumberListIsReplaced()
     QCOMPARE(m_rows->sampler()->lastMask, osg::FieldSampler::maskOf("uints"));
 }
 
-void TestWriteLists::anEmptyTextEmptiesANumberList()
+void tst_WriteLists::anEmptyTextEmptiesANumberList()
 {
     setValue(m_rows->editor(), "ints", "1 2");
     QCOMPARE(int(m_rows->sampler()->ints.size()), 2);
@@ -77,14 +77,14 @@ void TestWriteLists::anEmptyTextEmptiesANumberList()
     QCOMPARE(m_rows->sampler()->changes, 2);
 }
 
-void TestWriteLists::theSummaryOfALongListIsNotWritten()
+void tst_WriteLists::theSummaryOfALongListIsNotWritten()
 {
     setValue(m_rows->editor(), "reals", "<type=Real32> <size = 2>");
     QCOMPARE(int(m_rows->sampler()->reals.size()), 150);
     QCOMPARE(m_rows->sampler()->changes, 0);
 }
 
-void TestWriteLists::numbersTypedOverASummaryReplaceTheList()
+void tst_WriteLists::numbersTypedOverASummaryReplaceTheList()
 {
     QCOMPARE(text(m_rows->editor(), "reals"), QString("<type=Real32> <size = 150>"));
     setValue(m_rows->editor(), "reals", "0.5, 1e-3");
@@ -92,14 +92,14 @@ void TestWriteLists::numbersTypedOverASummaryReplaceTheList()
     QCOMPARE(m_rows->sampler()->reals[1], 1e-3f);
 }
 
-void TestWriteLists::listsOfOtherTypesStay_data()
+void tst_WriteLists::listsOfOtherTypesStay_data()
 {
     QTest::addColumn<QString>("field");
     for (const char *name : { "texts", "vectors", "nodes" })
         QTest::newRow(name) << name;
 }
 
-void TestWriteLists::listsOfOtherTypesStay()
+void tst_WriteLists::listsOfOtherTypesStay()
 {
     QFETCH(QString, field);
     setValue(m_rows->editor(), field, "1 2 3");
@@ -109,5 +109,5 @@ void TestWriteLists::listsOfOtherTypesStay()
     QVERIFY(m_rows->sampler()->vectors[0] == osg::Vec3f(0, 0, 0));
 }
 
-KAVO_TEST_MAIN(TestWriteLists)
+KAVO_TEST_MAIN(tst_WriteLists)
 #include "tst_writelists.moc"

@@ -10,7 +10,7 @@
 using namespace kavoTreeRows;
 
 // Edits of string rows. The library writes strings with quotes but reads them without.
-class TestWriteStrings : public QObject
+class tst_WriteStrings : public QObject
 {
     Q_OBJECT
 
@@ -28,17 +28,17 @@ private:
     std::unique_ptr<kavoSampledEditor> m_rows;
 };
 
-void TestWriteStrings::init()
+void tst_WriteStrings::init()
 {
     m_rows = std::make_unique<kavoSampledEditor>();
 }
 
-void TestWriteStrings::cleanup()
+void tst_WriteStrings::cleanup()
 {
     m_rows.reset();
 }
 
-void TestWriteStrings::aStringGainsNoQuotes()
+void tst_WriteStrings::aStringGainsNoQuotes()
 {
     setValue(m_rows->editor(), "text", "\"a b\"");
     QCOMPARE(m_rows->sampler()->text.getValue(), std::string("a b"));
@@ -46,14 +46,14 @@ void TestWriteStrings::aStringGainsNoQuotes()
     QCOMPARE(m_rows->sampler()->text.getValue(), std::string("plain ä"));
 }
 
-void TestWriteStrings::aStringThatContainsQuotesSurvives_data()
+void tst_WriteStrings::aStringThatContainsQuotesSurvives_data()
 {
     QTest::addColumn<QString>("value");
     for (const char *value : { "a\"b", "\"", "\"\"", "\"whole\"", "a\"", "" })
         QTest::newRow(value) << value;
 }
 
-void TestWriteStrings::aStringThatContainsQuotesSurvives()
+void tst_WriteStrings::aStringThatContainsQuotesSurvives()
 {
     QFETCH(QString, value);
     m_rows->sampler()->text.setValue(value.toStdString());
@@ -64,7 +64,7 @@ void TestWriteStrings::aStringThatContainsQuotesSurvives()
     QCOMPARE(QString::fromStdString(m_rows->sampler()->text.getValue()), value);
 }
 
-void TestWriteStrings::aNameEditedTenTimesHasNoQuotes()
+void tst_WriteStrings::aNameEditedTenTimesHasNoQuotes()
 {
     const osg::NamePtr name = osg::Name::create();
     osg::addRefCP(name);
@@ -78,7 +78,7 @@ void TestWriteStrings::aNameEditedTenTimesHasNoQuotes()
     osg::subRefCP(name);
 }
 
-void TestWriteStrings::stringsAreShownAndWrittenInUtf8()
+void tst_WriteStrings::stringsAreShownAndWrittenInUtf8()
 {
     m_rows->sampler()->text.setValue("Räder \xe4\xb8\xad");
     m_rows->refresh();
@@ -87,7 +87,7 @@ void TestWriteStrings::stringsAreShownAndWrittenInUtf8()
     QCOMPARE(m_rows->sampler()->text.getValue(), std::string("Türen \xe4\xb8\xad"));
 }
 
-void TestWriteStrings::aLongStringIsEditedWhole()
+void tst_WriteStrings::aLongStringIsEditedWhole()
 {
     m_rows->sampler()->text.setValue(std::string(40000, 'x'));
     m_rows->show();
@@ -98,5 +98,5 @@ void TestWriteStrings::aLongStringIsEditedWhole()
     QVERIFY(m_rows->sampler()->text.getValue() == std::string(40000, 'x') + 'y');
 }
 
-KAVO_TEST_MAIN(TestWriteStrings)
+KAVO_TEST_MAIN(tst_WriteStrings)
 #include "tst_writestrings.moc"
