@@ -5,6 +5,7 @@
 #include "Viewport/kavoViewport.h"
 #include "Views/kavoNodeDeleter.h"
 #include "Views/kavoSceneView.h"
+#include <kavoDialogUser.h>
 #include <kavoScenegraph.h>
 #include <kavoTestHost.h>
 #include <kavoTestScene.h>
@@ -13,26 +14,10 @@
 
 #include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QTreeView>
 #include <QtTest>
 
 using namespace kavoTestScene;
-
-namespace {
-
-/// Answers the next question with one of its buttons.
-void answer(QMessageBox::StandardButton button)
-{
-    QTimer::singleShot(0, [button] {
-        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-        QVERIFY(box);
-        QTest::mouseClick(box->button(button), Qt::LeftButton);
-    });
-}
-
-} // namespace
 
 class tst_sceneview : public QObject
 {
@@ -157,7 +142,8 @@ private slots:
     void delAsksAndDeletesAfterTheSelectionIsGone()
     {
         const osg::UInt32 tyre = select("Tyre");
-        answer(QMessageBox::Yes);
+        kavoDialogUser user;
+        user.willPress(QMessageBox::Yes);
         QTest::keyClick(m_view->tree(), Qt::Key_Delete);
         QVERIFY(selected() == osg::NullFC);
         QVERIFY(kavoContainers::find(tyre) != osg::NullFC); // the editor lets go of it first
@@ -169,8 +155,10 @@ private slots:
     void delWithoutConfirmationDeletesNothing()
     {
         const osg::UInt32 tyre = select("Tyre");
-        answer(QMessageBox::No);
+        kavoDialogUser user;
+        user.willPress(QMessageBox::No);
         QTest::keyClick(m_view->tree(), Qt::Key_Delete);
+        QVERIFY(user.isDone());
         QTest::qWait(20);
         QVERIFY(kavoContainers::find(tyre) != osg::NullFC);
         QVERIFY(selected() == kavoTestLoad::find("Tyre"));

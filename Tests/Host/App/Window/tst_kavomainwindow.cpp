@@ -4,6 +4,7 @@
 #include "Window/kavoMainWindow.h"
 #include <QKAVODockWindowManager.h>
 #include <kavoController.h>
+#include <kavoDialogUser.h>
 #include <kavoMessage.h>
 #include <kavoMessageIds.h>
 #include <kavoModuleBase.h>
@@ -18,7 +19,6 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
-#include <QPushButton>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -194,11 +194,8 @@ void tst_kavoMainWindow::theEditMenuDeletesNodes()
     QAction *deletion = action("Delete Node...");
     QVERIFY(offered.contains(deletion));
     QVERIFY(m_window->select("Tyre"));
-    QTimer::singleShot(200, this, [] {
-        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-        QVERIFY(box);
-        QTest::mouseClick(static_cast<QWidget *>(box->button(QMessageBox::Yes)), Qt::LeftButton);
-    });
+    kavoDialogUser user;
+    user.willPress(QMessageBox::Yes);
     deletion->trigger();
     QTRY_VERIFY(!m_window->select("Tyre"));
 }

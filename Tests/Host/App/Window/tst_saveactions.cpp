@@ -1,10 +1,10 @@
 #include "OSGThrowingMark.h"
-#include "kavoDialogUser.h"
 
 #include "Files/kavoDocument.h"
 #include "Scene/kavoChangeMonitor.h"
 #include "Window/kavoMainWindow.h"
 #include <QKAVODockWindowManager.h>
+#include <kavoDialogUser.h>
 #include <kavoScenegraph.h>
 #include <kavoTestHost.h>
 
@@ -12,8 +12,6 @@
 #include <OpenSG/OSGSimpleAttachments.h>
 
 #include <QDropEvent>
-#include <QFileDialog>
-#include <QLineEdit>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPushButton>
@@ -22,6 +20,12 @@
 #include <QtTest>
 
 #include <memory>
+
+namespace {
+
+const QStringList question { "'ship.osg' has changes that are not saved." };
+
+} // namespace
 
 // Saving by keys and dialogs of the main window.
 class tst_saveactions : public QObject
@@ -57,14 +61,12 @@ private:
     void writeScene(const QString &file, const QByteArray &rootName) const;
     QByteArray saved() const;
     QString takeMessage() const;
-    void answerSaveDialog(const QString &file);
     void drop(const QString &file);
-    void answerNextQuestion(QMessageBox::StandardButton button);
 
     kavoMainWindow *m_window = nullptr;
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<kavoDialogUser> m_user;
-    QString m_file, m_question;
+    QString m_file;
 };
 
 void tst_saveactions::initTestCase()
@@ -78,7 +80,7 @@ void tst_saveactions::initTestCase()
 
 void tst_saveactions::init()
 {
-    m_user.reset();
+    m_user = std::make_unique<kavoDialogUser>();
     m_folder = std::make_unique<QTemporaryDir>();
     m_file = m_folder->filePath("ship.osg");
     writeScene(m_file, "Ship");
@@ -122,15 +124,6 @@ QString tst_saveactions::takeMessage() const
     return box ? box->text() : QString();
 }
 
-void tst_saveactions::answerSaveDialog(const QString &file)
-{
-    m_user = std::make_unique<kavoDialogUser>([file](QWidget &dialog) {
-        auto *name = dialog.findChild<QLineEdit *>();
-        name->setText(file);
-        QTest::keyClick(name, Qt::Key_Return);
-    });
-}
-
 void tst_saveactions::drop(const QString &file)
 {
     QMimeData data;
@@ -139,16 +132,6 @@ void tst_saveactions::drop(const QString &file)
     QCoreApplication::sendEvent(m_window, &enter);
     QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(m_window, &drop);
-}
-
-void tst_saveactions::answerNextQuestion(QMessageBox::StandardButton button)
-{
-    m_question.clear();
-    m_user = std::make_unique<kavoDialogUser>([this, button](QWidget &dialog) {
-        const auto &box = dynamic_cast<QMessageBox &>(dialog);
-        m_question = box.text();
-        QTest::mouseClick(static_cast<QWidget *>(box.button(button)), Qt::LeftButton);
-    });
 }
 
 void tst_saveactions::theTitleMarksUnsavedChanges()
@@ -190,7 +173,7 @@ void tst_saveactions::ctrlSAsksForAnotherFileIfNotAllWasRead()
     m_window->open({ m_file });
     QVERIFY(opened.wait());
     const QByteArray before = saved();
-    answerSaveDialog(m_folder->filePath("copy"));
+    m_user->willChooseFile(m_folder->filePath("copy"));
     QTest::keyClick(m_window, Qt::Key_S, Qt::ControlModifier);
     QCOMPARE(m_window->document().file(), m_folder->filePath("copy.osg"));
     QCOMPARE(saved(), before);
@@ -199,7 +182,7 @@ void tst_saveactions::ctrlSAsksForAnotherFileIfNotAllWasRead()
 void tst_saveactions::saveAsAsksForTheFileAndAddsTheSuffix()
 {
     edit();
-    answerSaveDialog(m_folder->filePath("copy"));
+    m_user->willChooseFile(m_folder->filePath("copy"));
     QTest::keyClick(m_window, Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
     QCOMPARE(m_window->document().file(), m_folder->filePath("copy.osg"));
     QVERIFY(QFile::exists(m_folder->filePath("copy.osg")));
@@ -212,7 +195,7 @@ void tst_saveactions::anotherSceneWaitsUntilTheSaveDialogIsGone()
     writeScene(tank, "Tank");
     QSignalSpy opened(m_window, &kavoMainWindow::opened);
     m_window->open({ tank });
-    answerSaveDialog(m_file = m_folder->filePath("copy.osg"));
+    m_user->willChooseFile(m_file = m_folder->filePath("copy.osg"));
     QTest::keyClick(m_window, Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
     QVERIFY(saved().contains("Ship"));
     QVERIFY(opened.count() == 1 || opened.wait());
@@ -240,7 +223,7 @@ void tst_saveactions::quittingAsksAboutUnsavedChanges()
     QFETCH(int, button);
     QFETCH(bool, saves);
     edit();
-    answerNextQuestion(QMessageBox::StandardButton(button));
+    m_user->willPress(QMessageBox::StandardButton(button));
     QTEST(m_window->close(), "closes");
     QCOMPARE(saved().contains("Boat"), saves);
 }
@@ -248,9 +231,9 @@ void tst_saveactions::quittingAsksAboutUnsavedChanges()
 void tst_saveactions::openingAnotherSceneAsksToo()
 {
     edit();
-    answerNextQuestion(QMessageBox::Cancel);
+    m_user->willPress(QMessageBox::Cancel);
     drop(m_file);
-    QCOMPARE(m_question, QStringLiteral("'ship.osg' has changes that are not saved."));
+    QCOMPARE(m_user->questions(), question);
     QVERIFY(m_window->isWindowModified());
 }
 
@@ -270,9 +253,9 @@ void tst_saveactions::editsMadeWhileAnotherSceneLoadsAreAskedAbout()
     QSignalSpy canceled(m_window, &kavoMainWindow::openCanceled);
     drop(m_file);
     osg::setName(before, "Boat");
-    answerNextQuestion(QMessageBox::StandardButton(button));
+    m_user->willPress(QMessageBox::StandardButton(button));
     QTRY_COMPARE(opened.count() + canceled.count(), 1);
-    QCOMPARE(m_question, QStringLiteral("'ship.osg' has changes that are not saved."));
+    QCOMPARE(m_user->questions(), question);
     QTEST(opened.count() == 1, "opens");
     QCOMPARE(kavoScenegraph::getRoot() == before, canceled.count() == 1);
 }
@@ -281,19 +264,19 @@ void tst_saveactions::editsMadeAfterDiscardingAreAskedAbout()
 {
     edit();
     QSignalSpy canceled(m_window, &kavoMainWindow::openCanceled);
-    answerNextQuestion(QMessageBox::Discard);
+    m_user->willPress(QMessageBox::Discard);
     drop(m_file);
     osg::setName(kavoScenegraph::getRoot(), "Yacht");
-    answerNextQuestion(QMessageBox::Cancel);
+    m_user->willPress(QMessageBox::Cancel);
     QTRY_COMPARE(canceled.count(), 1);
-    QVERIFY(!m_question.isEmpty());
+    QCOMPARE(m_user->questions(), question + question);
     QVERIFY(m_window->isWindowModified());
 }
 
 void tst_saveactions::aCanceledLoadKeepsDiscardedEdits()
 {
     edit();
-    answerNextQuestion(QMessageBox::Discard);
+    m_user->willPress(QMessageBox::Discard);
     drop(m_file);
     QVERIFY(!m_window->isWindowModified());
     m_window->findChild<QAbstractButton *>("cancel")->click();
@@ -304,7 +287,7 @@ void tst_saveactions::aSaveThatFailsIsShownAndKeepsTheWindow()
 {
     edit();
     QVERIFY(m_folder->remove());
-    answerNextQuestion(QMessageBox::Save);
+    m_user->willPress(QMessageBox::Save);
     QVERIFY(!m_window->close());
     QVERIFY(m_window->isWindowModified());
     QVERIFY(takeMessage().contains(m_file));
