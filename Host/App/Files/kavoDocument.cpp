@@ -2,7 +2,7 @@
 
 #include "Basics/kavoTaskError.h"
 #include "Files/kavoSceneSaver.h"
-#include "Scene/kavoChangeMonitor.h"
+#include "Scene/kavoOpenScene.h"
 
 #include <kavoLog.h>
 #include <kavoScenegraph.h>
@@ -13,11 +13,11 @@
 #include <algorithm>
 #include <utility>
 
-kavoDocument::kavoDocument(kavoChangeMonitor &changes, QObject *parent)
+kavoDocument::kavoDocument(kavoOpenScene &scene, QObject *parent)
     : QObject(parent)
-    , m_changes(changes)
+    , m_scene(scene)
 {
-    connect(&m_changes, &kavoChangeMonitor::changed, this, [this](const kavoChanges &what) {
+    connect(&m_scene, &kavoOpenScene::changed, this, [this](const kavoChanges &what) {
         if (!m_isModified && m_edits.areIn(what))
             setModified(true);
     });
@@ -38,7 +38,7 @@ void kavoDocument::beginWith(const QStringList &files)
         && !wasPartlyRead(files.first());
     m_files = files;
     m_file = isSaved ? files.first() : QString();
-    m_changes.drain(); // of what is in the files
+    m_scene.drainChanges(); // of what is in the files
     m_edits.reset();
     m_hasDiscardedEdits = false;
     setModified(false);

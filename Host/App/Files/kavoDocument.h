@@ -6,7 +6,7 @@
 #include <QString>
 #include <QStringList>
 
-class kavoChangeMonitor;
+class kavoOpenScene;
 
 /// The open scene as a document: the file that it is saved in, and whether it has changed since.
 class kavoDocument : public QObject
@@ -14,7 +14,7 @@ class kavoDocument : public QObject
     Q_OBJECT
 
 public:
-    explicit kavoDocument(kavoChangeMonitor &changes, QObject *parent = nullptr);
+    explicit kavoDocument(kavoOpenScene &scene, QObject *parent = nullptr);
 
     /// Another scene is open, which came of these files. Some of them may hold more than what could
     /// be read, which saving the scene there would destroy, also after it was saved elsewhere.
@@ -47,7 +47,7 @@ private:
     bool wasPartlyRead(const QString &file) const;
     void setModified(bool isModified);
 
-    kavoChangeMonitor &m_changes;
+    kavoOpenScene &m_scene;
     kavoSceneEdits m_edits;
     QStringList m_files;
     QStringList m_partlyRead; ///< of the files opened, whatever the scene is saved in since

@@ -35,10 +35,10 @@ kavoRenderLight convert(const osg::LightPtr &light)
 } // namespace
 
 std::vector<kavoRenderLight> kavoRenderLights::of(
-    const kavoSceneIndex::Entries &lights, const QVector3D &eye)
+    const kavoOpenScene::Entries &lights, const QVector3D &eye)
 {
     std::vector<kavoRenderLight> result;
-    for (const kavoSceneIndex::Entry &entry : lights) {
+    for (const kavoOpenScene::Entry &entry : lights) {
         const auto light = osg::LightPtr::dcast(kavoContainers::find(entry.core));
         if (light != osg::NullFC && light->getOn() && int(result.size()) < maximum)
             result.push_back(convert(light));

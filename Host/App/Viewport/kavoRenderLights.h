@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Scene/kavoSceneIndex.h"
+#include "Scene/kavoOpenScene.h"
 
 #include <QVector3D>
 #include <QVector4D>
@@ -23,5 +23,5 @@ public:
 
     /// At most `maximum` lights; a lamp at the eye where none is on.
     static std::vector<kavoRenderLight> of(
-        const kavoSceneIndex::Entries &lights, const QVector3D &eye);
+        const kavoOpenScene::Entries &lights, const QVector3D &eye);
 };

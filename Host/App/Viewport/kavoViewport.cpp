@@ -1,10 +1,9 @@
 #include "Viewport/kavoViewport.h"
 
 #include "Basics/kavoTry.h"
-#include "Scene/kavoChangeMonitor.h"
 #include "Scene/kavoContainers.h"
+#include "Scene/kavoOpenScene.h"
 #include "Scene/kavoSceneCameras.h"
-#include "Scene/kavoSceneEvents.h"
 
 #include <OpenSG/OSGPerspectiveCamera.h>
 
@@ -44,29 +43,27 @@ bool kavoViewport::isAvailable()
     return !withoutOpenGL.contains(QGuiApplication::platformName()) && QOpenGLContext().create();
 }
 
-QWidget *kavoViewport::create(kavoSceneEvents &events, kavoChangeMonitor &monitor,
-    const kavoSceneIndex &index, QWidget *parent)
+QWidget *kavoViewport::create(kavoOpenScene &scene, QWidget *parent)
 {
     if (isAvailable())
-        return new kavoViewport(events, monitor, index, parent);
+        return new kavoViewport(scene, parent);
     auto *label = new QLabel(
         tr("The scene cannot be drawn: there is no OpenGL here.\nAll other windows work."), parent);
     label->setAlignment(Qt::AlignCenter);
     return label;
 }
 
-kavoViewport::kavoViewport(kavoSceneEvents &events, kavoChangeMonitor &monitor,
-    const kavoSceneIndex &index, QWidget *parent)
+kavoViewport::kavoViewport(kavoOpenScene &scene, QWidget *parent)
     : QOpenGLWidget(parent)
-    , m_index(index)
+    , m_scene(scene)
 {
     setFocusPolicy(Qt::StrongFocus);
     setMinimumSize(200, 150);
-    connect(&events, &kavoSceneEvents::sceneReset, this, &kavoViewport::showScene);
-    connect(&events, &kavoSceneEvents::selectionChanged, this, qOverload<>(&QWidget::update));
+    connect(&scene, &kavoOpenScene::replaced, this, &kavoViewport::showScene);
+    connect(&scene, &kavoOpenScene::selectionChanged, this, qOverload<>(&QWidget::update));
     connect(
-        &events, &kavoSceneEvents::materialRenderingRequested, this, qOverload<>(&QWidget::update));
-    connect(&monitor, &kavoChangeMonitor::changed, this, &kavoViewport::react);
+        &scene, &kavoOpenScene::materialRenderingRequested, this, qOverload<>(&QWidget::update));
+    connect(&scene, &kavoOpenScene::changed, this, &kavoViewport::react);
     fit();
 }
 
@@ -124,7 +121,7 @@ void kavoViewport::draw()
 {
     const QVector3D eye = m_camera.eye();
     m_renderer->draw({ m_camera.view(), m_camera.projection(size()), eye,
-        kavoRenderLights::of(m_index.lights(), eye),
+        kavoRenderLights::of(m_scene.lights(), eye),
         kavoContainers::id(kavoScenegraph::getSelectedNode()), palette().color(QPalette::Dark),
         outlineColor });
 }

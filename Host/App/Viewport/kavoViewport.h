@@ -7,8 +7,7 @@
 #include <QOpenGLWidget>
 #include <memory>
 
-class kavoChangeMonitor;
-class kavoSceneEvents;
+class kavoOpenScene;
 
 /// The picture of the open scene. The left button turns it, the middle one (or the left one with
 /// Shift) moves it, the wheel comes closer, F fits it; a click selects the node under the pointer,
@@ -19,11 +18,9 @@ class kavoViewport : public QOpenGLWidget
 
 public:
     /// A viewport, or where there is no OpenGL a label that says so.
-    static QWidget *create(kavoSceneEvents &events, kavoChangeMonitor &monitor,
-        const kavoSceneIndex &index, QWidget *parent = nullptr);
+    static QWidget *create(kavoOpenScene &scene, QWidget *parent = nullptr);
 
-    kavoViewport(kavoSceneEvents &events, kavoChangeMonitor &monitor, const kavoSceneIndex &index,
-        QWidget *parent = nullptr);
+    explicit kavoViewport(kavoOpenScene &scene, QWidget *parent = nullptr);
     ~kavoViewport() override;
 
     /// Whether this machine can show one.
@@ -53,7 +50,7 @@ private:
     void draw();
     void dropRenderer();
 
-    const kavoSceneIndex &m_index;
+    const kavoOpenScene &m_scene;
     kavoSceneGeometry m_geometry;
     kavoOrbitCamera m_camera;
     std::unique_ptr<kavoSceneRenderer> m_renderer;

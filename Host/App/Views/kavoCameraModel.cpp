@@ -1,22 +1,20 @@
 #include "Views/kavoCameraModel.h"
 
-#include "Scene/kavoChangeMonitor.h"
 #include "Scene/kavoContainers.h"
+#include "Scene/kavoOpenScene.h"
 #include "Scene/kavoSceneCameras.h"
-#include "Scene/kavoSceneEvents.h"
 #include "Views/kavoListSetup.h"
 
 #include <QFont>
 #include <kavoDragFormats.h>
 #include <kavoIconManager.h>
 
-kavoCameraModel::kavoCameraModel(
-    kavoSceneEvents &events, kavoChangeMonitor &monitor, QObject *parent)
+kavoCameraModel::kavoCameraModel(kavoOpenScene &scene, QObject *parent)
     : QAbstractTableModel(parent)
     , m_nodeIds(kavoSceneCameras::nodeIds())
 {
-    connect(&events, &kavoSceneEvents::sceneReset, this, &kavoCameraModel::reset);
-    connect(&monitor, &kavoChangeMonitor::changed, this, &kavoCameraModel::update);
+    connect(&scene, &kavoOpenScene::replaced, this, &kavoCameraModel::reset);
+    connect(&scene, &kavoOpenScene::changed, this, &kavoCameraModel::update);
 }
 
 void kavoCameraModel::reset()

@@ -5,8 +5,7 @@
 #include <QAbstractTableModel>
 #include <vector>
 
-class kavoChangeMonitor;
-class kavoSceneEvents;
+class kavoOpenScene;
 struct kavoChanges;
 
 /// The cameras of the open scene, each by the node that places it; the active one is marked.
@@ -17,7 +16,7 @@ class kavoCameraModel : public QAbstractTableModel
 public:
     enum Column { NameColumn, TypeColumn, IdColumn, ColumnCount };
 
-    kavoCameraModel(kavoSceneEvents &events, kavoChangeMonitor &monitor, QObject *parent = nullptr);
+    explicit kavoCameraModel(kavoOpenScene &scene, QObject *parent = nullptr);
 
     /// Makes the camera of the row the active one.
     void activate(const QModelIndex &index);

@@ -3,9 +3,9 @@
 #include "Views/kavoCameraModel.h"
 #include "Views/kavoListSetup.h"
 
-kavoCameraView::kavoCameraView(kavoSceneEvents &events, kavoChangeMonitor &monitor, QWidget *parent)
+kavoCameraView::kavoCameraView(kavoOpenScene &scene, QWidget *parent)
     : QTreeView(parent)
-    , m_model(new kavoCameraModel(events, monitor, this))
+    , m_model(new kavoCameraModel(scene, this))
 {
     kavoListSetup::apply(*this, *m_model);
     setRootIsDecorated(false);

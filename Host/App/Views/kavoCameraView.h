@@ -3,8 +3,7 @@
 #include <QTreeView>
 
 class kavoCameraModel;
-class kavoChangeMonitor;
-class kavoSceneEvents;
+class kavoOpenScene;
 
 /// The Cameras window. Cameras can be dragged away, several at once; a double click or Enter makes
 /// one the active camera.
@@ -13,7 +12,7 @@ class kavoCameraView : public QTreeView
     Q_OBJECT
 
 public:
-    kavoCameraView(kavoSceneEvents &events, kavoChangeMonitor &monitor, QWidget *parent = nullptr);
+    explicit kavoCameraView(kavoOpenScene &scene, QWidget *parent = nullptr);
 
 signals:
     void activeCameraChanged();

@@ -1,33 +1,32 @@
 #include "Views/kavoLightModel.h"
 
-#include "Scene/kavoChangeMonitor.h"
 #include "Scene/kavoContainers.h"
+#include "Scene/kavoOpenScene.h"
 #include "Views/kavoCoreIcons.h"
 #include "Views/kavoListSetup.h"
 
 #include <kavoDragFormats.h>
 
-kavoLightModel::kavoLightModel(
-    kavoChangeMonitor &monitor, const kavoSceneIndex &index, QObject *parent)
+kavoLightModel::kavoLightModel(kavoOpenScene &scene, QObject *parent)
     : QAbstractTableModel(parent)
-    , m_index(index)
-    , m_entries(index.lights())
+    , m_scene(scene)
+    , m_entries(scene.lights())
 {
-    connect(&index, &kavoSceneIndex::lightsChanged, this, &kavoLightModel::reset);
-    connect(&monitor, &kavoChangeMonitor::changed, this, &kavoLightModel::update);
+    connect(&scene, &kavoOpenScene::lightsChanged, this, &kavoLightModel::reset);
+    connect(&scene, &kavoOpenScene::changed, this, &kavoLightModel::update);
 }
 
 void kavoLightModel::reset()
 {
     beginResetModel();
-    m_entries = m_index.lights();
+    m_entries = m_scene.lights();
     endResetModel();
 }
 
 void kavoLightModel::update(const kavoChanges &changes)
 {
     for (int row = 0; row < rowCount(); ++row) {
-        const kavoSceneIndex::Entry &entry = m_entries[std::size_t(row)];
+        const kavoOpenScene::Entry &entry = m_entries[std::size_t(row)];
         if (changes.touched.contains(entry.node) || changes.touched.contains(entry.core))
             emit dataChanged(index(row, 0), index(row, ColumnCount - 1));
     }
@@ -116,7 +115,7 @@ QMimeData *kavoLightModel::mimeData(const QModelIndexList &indexes) const
     for (const QModelIndex &index : indexes) {
         if (index.column() != NameColumn)
             continue;
-        const kavoSceneIndex::Entry &entry = m_entries[std::size_t(index.row())];
+        const kavoOpenScene::Entry &entry = m_entries[std::size_t(index.row())];
         ids << qint32(entry.node) << qint32(entry.core);
     }
     return kavoListSetup::drag(kavoDragFormats::lights, ids);

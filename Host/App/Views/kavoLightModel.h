@@ -1,12 +1,11 @@
 #pragma once
 
-#include "Scene/kavoSceneIndex.h"
+#include "Scene/kavoOpenScene.h"
 
 #include <OpenSG/OSGLight.h>
 
 #include <QAbstractTableModel>
 
-class kavoChangeMonitor;
 struct kavoChanges;
 
 /// The lights of the open scene; the check box of a row switches its light on and off.
@@ -17,8 +16,7 @@ class kavoLightModel : public QAbstractTableModel
 public:
     enum Column { NameColumn, TypeColumn, IdColumn, ColumnCount };
 
-    kavoLightModel(
-        kavoChangeMonitor &monitor, const kavoSceneIndex &index, QObject *parent = nullptr);
+    explicit kavoLightModel(kavoOpenScene &scene, QObject *parent = nullptr);
 
     /// The light's node, null for a dead one.
     osg::NodePtr node(const QModelIndex &index) const;
@@ -40,6 +38,6 @@ private:
     osg::LightPtr light(const QModelIndex &index) const;
     QVariant text(const QModelIndex &index) const;
 
-    const kavoSceneIndex &m_index;
-    kavoSceneIndex::Entries m_entries;
+    const kavoOpenScene &m_scene;
+    kavoOpenScene::Entries m_entries;
 };

@@ -5,10 +5,9 @@
 
 #include <kavoScenegraph.h>
 
-kavoLightView::kavoLightView(
-    kavoChangeMonitor &monitor, const kavoSceneIndex &index, QWidget *parent)
+kavoLightView::kavoLightView(kavoOpenScene &scene, QWidget *parent)
     : QTreeView(parent)
-    , m_model(new kavoLightModel(monitor, index, this))
+    , m_model(new kavoLightModel(scene, this))
 {
     kavoListSetup::apply(*this, *m_model);
     setRootIsDecorated(false);

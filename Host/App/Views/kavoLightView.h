@@ -2,9 +2,8 @@
 
 #include <QTreeView>
 
-class kavoChangeMonitor;
 class kavoLightModel;
-class kavoSceneIndex;
+class kavoOpenScene;
 
 /// The Lights window. Lights can be switched with their check box and dragged away, several at
 /// once; a double click or Enter selects the light's node.
@@ -13,8 +12,7 @@ class kavoLightView : public QTreeView
     Q_OBJECT
 
 public:
-    kavoLightView(
-        kavoChangeMonitor &monitor, const kavoSceneIndex &index, QWidget *parent = nullptr);
+    explicit kavoLightView(kavoOpenScene &scene, QWidget *parent = nullptr);
 
 private:
     kavoLightModel *m_model;

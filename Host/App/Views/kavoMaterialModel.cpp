@@ -1,8 +1,7 @@
 #include "Views/kavoMaterialModel.h"
 
-#include "Scene/kavoChangeMonitor.h"
 #include "Scene/kavoContainers.h"
-#include "Scene/kavoSceneEvents.h"
+#include "Scene/kavoOpenScene.h"
 #include "Views/kavoListSetup.h"
 #include "Views/kavoMaterialSwatch.h"
 
@@ -17,22 +16,21 @@ constexpr quintptr topLevel = 0; // internal id of node rows; a material's is it
 
 } // namespace
 
-kavoMaterialModel::kavoMaterialModel(kavoSceneEvents &events, kavoChangeMonitor &monitor,
-    const kavoSceneIndex &index, QObject *parent)
+kavoMaterialModel::kavoMaterialModel(kavoOpenScene &scene, QObject *parent)
     : QAbstractItemModel(parent)
-    , m_index(index)
-    , m_entries(index.materials())
+    , m_scene(scene)
+    , m_entries(scene.materials())
 {
-    connect(&index, &kavoSceneIndex::materialsChanged, this, &kavoMaterialModel::reset);
-    connect(&monitor, &kavoChangeMonitor::changed, this, &kavoMaterialModel::update);
+    connect(&scene, &kavoOpenScene::materialsChanged, this, &kavoMaterialModel::reset);
+    connect(&scene, &kavoOpenScene::changed, this, &kavoMaterialModel::update);
     connect(
-        &events, &kavoSceneEvents::materialRenderingRequested, this, &kavoMaterialModel::renderAll);
+        &scene, &kavoOpenScene::materialRenderingRequested, this, &kavoMaterialModel::renderAll);
 }
 
 void kavoMaterialModel::reset()
 {
     beginResetModel();
-    m_entries = m_index.materials();
+    m_entries = m_scene.materials();
     m_swatches.clear();
     endResetModel();
 }
@@ -55,7 +53,7 @@ void kavoMaterialModel::update(const kavoChanges &changes)
     for (const osg::UInt32 material : qAsConst(outdated))
         m_swatches.remove(material);
     for (int row = 0; row < rowCount(); ++row) {
-        const kavoSceneIndex::Entry &entry = m_entries[std::size_t(row)];
+        const kavoOpenScene::Entry &entry = m_entries[std::size_t(row)];
         if (outdated.contains(entry.content) || isTouched(entry.node) || isTouched(entry.content))
             emitRowChanged(row);
     }
@@ -68,7 +66,7 @@ void kavoMaterialModel::emitRowChanged(int row)
     emit dataChanged(index(0, 0, node), index(0, ColumnCount - 1, node));
 }
 
-const kavoSceneIndex::Entry &kavoMaterialModel::entry(const QModelIndex &index) const
+const kavoOpenScene::Entry &kavoMaterialModel::entry(const QModelIndex &index) const
 {
     const QModelIndex node = index.internalId() == topLevel ? index : index.parent();
     return m_entries[std::size_t(node.row())];
@@ -153,7 +151,7 @@ QMimeData *kavoMaterialModel::mimeData(const QModelIndexList &indexes) const
 {
     QVector<qint32> ids, nodes;
     for (const QModelIndex &index : indexes) {
-        const kavoSceneIndex::Entry &dragged = entry(index);
+        const kavoOpenScene::Entry &dragged = entry(index);
         if (nodes.contains(qint32(dragged.node))) // another cell of a row, or its other row
             continue;
         nodes << qint32(dragged.node);

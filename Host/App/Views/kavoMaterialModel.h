@@ -1,14 +1,12 @@
 #pragma once
 
-#include "Scene/kavoSceneIndex.h"
+#include "Scene/kavoOpenScene.h"
 
 #include <OpenSG/OSGMaterial.h>
 
 #include <QAbstractItemModel>
 #include <QIcon>
 
-class kavoChangeMonitor;
-class kavoSceneEvents;
 struct kavoChanges;
 
 /// The materials of the open scene: a row for each node that holds one (its core is a material
@@ -23,8 +21,7 @@ public:
     /// Width and height of the pictures, in pixels.
     static constexpr int swatchSize = 32;
 
-    kavoMaterialModel(kavoSceneEvents &events, kavoChangeMonitor &monitor,
-        const kavoSceneIndex &index, QObject *parent = nullptr);
+    explicit kavoMaterialModel(kavoOpenScene &scene, QObject *parent = nullptr);
 
     /// The material of a row, be it the node's or the material's own; null if it is dead or unset.
     osg::MaterialPtr material(const QModelIndex &index) const;
@@ -52,11 +49,11 @@ private:
     void renderAll();
     void update(const kavoChanges &changes);
     void emitRowChanged(int row);
-    const kavoSceneIndex::Entry &entry(const QModelIndex &index) const;
+    const kavoOpenScene::Entry &entry(const QModelIndex &index) const;
     osg::FieldContainerPtr container(const QModelIndex &index) const;
     const Swatch &swatch(osg::UInt32 material) const;
 
-    const kavoSceneIndex &m_index;
-    kavoSceneIndex::Entries m_entries;
+    const kavoOpenScene &m_scene;
+    kavoOpenScene::Entries m_entries;
     mutable QHash<osg::UInt32, Swatch> m_swatches; // by material
 };

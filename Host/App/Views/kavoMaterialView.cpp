@@ -7,10 +7,9 @@
 #include <kavoController.h>
 #include <kavoMessage.h>
 
-kavoMaterialView::kavoMaterialView(kavoSceneEvents &events, kavoChangeMonitor &monitor,
-    const kavoSceneIndex &index, QWidget *parent)
+kavoMaterialView::kavoMaterialView(kavoOpenScene &scene, QWidget *parent)
     : QTreeView(parent)
-    , m_model(new kavoMaterialModel(events, monitor, index, this))
+    , m_model(new kavoMaterialModel(scene, this))
 {
     kavoListSetup::apply(*this, *m_model);
     setAccessibleName(tr("Materials of the scene"));

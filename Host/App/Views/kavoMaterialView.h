@@ -2,10 +2,8 @@
 
 #include <QTreeView>
 
-class kavoChangeMonitor;
 class kavoMaterialModel;
-class kavoSceneEvents;
-class kavoSceneIndex;
+class kavoOpenScene;
 
 /// The Materials window. Materials can be dragged away, several at once; a double click or Enter
 /// shows one in the node editor.
@@ -14,8 +12,7 @@ class kavoMaterialView : public QTreeView
     Q_OBJECT
 
 public:
-    kavoMaterialView(kavoSceneEvents &events, kavoChangeMonitor &monitor,
-        const kavoSceneIndex &index, QWidget *parent = nullptr);
+    explicit kavoMaterialView(kavoOpenScene &scene, QWidget *parent = nullptr);
 
 private:
     void showInEditor(const QModelIndex &index);

@@ -1,8 +1,8 @@
 #include "Views/kavoNodeDeleter.h"
 
 #include "Scene/kavoContainers.h"
+#include "Scene/kavoOpenScene.h"
 #include "Scene/kavoSceneCameras.h"
-#include "Scene/kavoSceneIndex.h"
 
 #include <OpenSG/OSGLight.h>
 #include <kavoScenegraph.h>
@@ -27,12 +27,12 @@ bool kavoNodeDeleter::canDelete(const osg::NodePtr &node)
     return node != root && kavoContainers::isWithin(node, root);
 }
 
-void kavoNodeDeleter::deleteNode(osg::UInt32 id, const kavoSceneIndex &index)
+void kavoNodeDeleter::deleteNode(osg::UInt32 id, const kavoOpenScene &scene)
 {
     const osg::NodePtr node = kavoContainers::node(id);
     if (node == osg::NullFC || !canDelete(node))
         return;
-    for (const kavoSceneIndex::Entry &light : index.lights())
+    for (const kavoOpenScene::Entry &light : scene.lights())
         forgetBeacon(osg::LightPtr::dcast(kavoContainers::find(light.core)), node);
     for (const osg::UInt32 camera : kavoSceneCameras::nodeIds())
         forgetBeacon(kavoSceneCameras::at(camera), node);

@@ -2,7 +2,7 @@
 
 #include <OpenSG/OSGNode.h>
 
-class kavoSceneIndex;
+class kavoOpenScene;
 
 /// Takes nodes out of the open scene.
 class kavoNodeDeleter
@@ -13,5 +13,5 @@ public:
 
     /// Removes the node of that id with everything below it; nothing happens if there is none.
     /// Lights that stay lose a beacon that goes: they hold no reference to it.
-    static void deleteNode(osg::UInt32 id, const kavoSceneIndex &index);
+    static void deleteNode(osg::UInt32 id, const kavoOpenScene &scene);
 };

@@ -1,9 +1,8 @@
 #include "Views/kavoSceneModel.h"
 
-#include "Scene/kavoChangeMonitor.h"
 #include "Scene/kavoContainers.h"
 #include "Scene/kavoNodeWalk.h"
-#include "Scene/kavoSceneEvents.h"
+#include "Scene/kavoOpenScene.h"
 #include "Views/kavoCoreIcons.h"
 #include "Views/kavoListSetup.h"
 
@@ -22,11 +21,11 @@ struct kavoSceneModel::Item
     std::vector<std::unique_ptr<Item>> children;
 };
 
-kavoSceneModel::kavoSceneModel(kavoSceneEvents &events, kavoChangeMonitor &monitor, QObject *parent)
+kavoSceneModel::kavoSceneModel(kavoOpenScene &scene, QObject *parent)
     : QAbstractItemModel(parent)
 {
-    connect(&events, &kavoSceneEvents::sceneReset, this, &kavoSceneModel::reset);
-    connect(&monitor, &kavoChangeMonitor::changed, this, &kavoSceneModel::update);
+    connect(&scene, &kavoOpenScene::replaced, this, &kavoSceneModel::reset);
+    connect(&scene, &kavoOpenScene::changed, this, &kavoSceneModel::update);
     reset();
 }
 

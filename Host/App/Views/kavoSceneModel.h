@@ -8,8 +8,7 @@
 #include <unordered_set>
 #include <vector>
 
-class kavoChangeMonitor;
-class kavoSceneEvents;
+class kavoOpenScene;
 struct kavoChanges;
 
 /// The node tree of the open scene.
@@ -24,7 +23,7 @@ class kavoSceneModel : public QAbstractItemModel
 public:
     enum Column { NameColumn, CoreColumn, IdColumn, ColumnCount };
 
-    kavoSceneModel(kavoSceneEvents &events, kavoChangeMonitor &monitor, QObject *parent = nullptr);
+    explicit kavoSceneModel(kavoOpenScene &scene, QObject *parent = nullptr);
     ~kavoSceneModel() override;
 
     /// Restricts the tree to the nodes whose name or core type contains the text, or whose id it

@@ -1,9 +1,7 @@
 #include "Views/kavoSceneView.h"
 
-#include "Scene/kavoChangeMonitor.h"
 #include "Scene/kavoContainers.h"
-#include "Scene/kavoSceneEvents.h"
-#include "Scene/kavoSceneIndex.h"
+#include "Scene/kavoOpenScene.h"
 #include "Views/kavoNodeDeleter.h"
 #include "Views/kavoSceneModel.h"
 
@@ -35,11 +33,10 @@ bool isTooDeep(const osg::NodePtr &node)
 
 } // namespace
 
-kavoSceneView::kavoSceneView(kavoSceneEvents &events, kavoChangeMonitor &monitor,
-    const kavoSceneIndex &index, QWidget *parent)
+kavoSceneView::kavoSceneView(kavoOpenScene &scene, QWidget *parent)
     : QWidget(parent)
-    , m_model(new kavoSceneModel(events, monitor, this))
-    , m_index(index)
+    , m_model(new kavoSceneModel(scene, this))
+    , m_scene(scene)
     , m_filter(new QLineEdit(this))
     , m_tree(new QTreeView(this))
     , m_deletion(new QAction(tr("D&elete Node..."), this))
@@ -51,8 +48,8 @@ kavoSceneView::kavoSceneView(kavoSceneEvents &events, kavoChangeMonitor &monitor
     layout->addWidget(m_filter);
     layout->addWidget(m_tree);
     setUpDeletion();
-    connect(&events, &kavoSceneEvents::selectionChanged, this, &kavoSceneView::showSelection);
-    connect(&index, &kavoSceneIndex::structureChanged, this, &kavoSceneView::dropLostSelection,
+    connect(&scene, &kavoOpenScene::selectionChanged, this, &kavoSceneView::showSelection);
+    connect(&scene, &kavoOpenScene::structureChanged, this, &kavoSceneView::dropLostSelection,
         Qt::QueuedConnection); // the model hears of it in the same round
     showAll();
 }
@@ -182,7 +179,7 @@ void kavoSceneView::confirmDeletion()
     // The editor empties itself on the message of the selection, which is under way before this.
     selectNothing();
     QMetaObject::invokeMethod(
-        this, [this, id] { kavoNodeDeleter::deleteNode(id, m_index); }, Qt::QueuedConnection);
+        this, [this, id] { kavoNodeDeleter::deleteNode(id, m_scene); }, Qt::QueuedConnection);
 }
 
 void kavoSceneView::dropLostSelection()

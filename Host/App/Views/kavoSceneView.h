@@ -6,9 +6,7 @@
 class QAction;
 class QLineEdit;
 class QTreeView;
-class kavoChangeMonitor;
-class kavoSceneEvents;
-class kavoSceneIndex;
+class kavoOpenScene;
 class kavoSceneModel;
 
 /// The Scene window: the node tree, in step with the host's selection both ways, with a filter.
@@ -19,8 +17,7 @@ class kavoSceneView : public QWidget
     Q_OBJECT
 
 public:
-    kavoSceneView(kavoSceneEvents &events, kavoChangeMonitor &monitor, const kavoSceneIndex &index,
-        QWidget *parent = nullptr);
+    explicit kavoSceneView(kavoOpenScene &scene, QWidget *parent = nullptr);
 
     QTreeView *tree() const { return m_tree; }
     QLineEdit *filter() const { return m_filter; }
@@ -44,7 +41,7 @@ private:
     void dropLostSelection();
 
     kavoSceneModel *m_model;
-    const kavoSceneIndex &m_index;
+    const kavoOpenScene &m_scene;
     QLineEdit *m_filter;
     QTreeView *m_tree;
     QAction *m_deletion;

@@ -2,8 +2,8 @@
 
 #include "Files/kavoDocument.h"
 #include "Files/kavoSceneLoader.h"
-#include "Scene/kavoChangeMonitor.h"
 #include "Scene/kavoNodeFinder.h"
+#include "Scene/kavoOpenScene.h"
 #include "Tables/kavoExportActions.h"
 #include "Window/kavoLoadProgress.h"
 #include "Window/kavoLogView.h"
@@ -60,9 +60,9 @@ kavoMainWindow::kavoMainWindow(QWidget *parent)
     : QMainWindow(parent)
     , m_docks(new QKAVODockWindowManager(this))
     , m_loader(new kavoSceneLoader(this))
-    , m_changes(new kavoChangeMonitor(this))
-    , m_document(new kavoDocument(*m_changes, this))
-    , m_views(new kavoSceneViews(*m_changes, this))
+    , m_scene(new kavoOpenScene(this))
+    , m_document(new kavoDocument(*m_scene, this))
+    , m_views(new kavoSceneViews(*m_scene, this))
 {
     kavoController::setMainWindow(this);
     kavoController::setDockWindowManager(m_docks);
@@ -259,7 +259,7 @@ void kavoMainWindow::driveModules()
 {
     connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
         [] { kavoController::notifyModules(&kavoModuleBase::loop); });
-    connect(m_changes, &kavoChangeMonitor::changed, this,
+    connect(m_scene, &kavoOpenScene::changed, this,
         [] { kavoController::notifyModules(&kavoModuleBase::update); });
 }
 
@@ -282,7 +282,7 @@ void kavoMainWindow::openInstead(const QStringList &files)
 
 bool kavoMainWindow::mayReplaceScene()
 {
-    m_changes->drain(); // of the edits of this round
+    m_scene->drainChanges(); // of the edits of this round
     return m_saving->mayClose();
 }
 

@@ -10,9 +10,9 @@
 class QAction;
 class QKAVODockWindowManager;
 class QMenu;
-class kavoChangeMonitor;
 class kavoDocument;
 class kavoLoadProgress;
+class kavoOpenScene;
 class kavoRecentFiles;
 class kavoSaveActions;
 class kavoSceneLoader;
@@ -86,7 +86,7 @@ private:
 
     QKAVODockWindowManager *m_docks;
     kavoSceneLoader *m_loader;
-    kavoChangeMonitor *m_changes;
+    kavoOpenScene *m_scene;
     kavoDocument *m_document;
     kavoSceneViews *m_views;
     kavoLoadProgress *m_progress = nullptr;

@@ -1,5 +1,6 @@
 #include "Window/kavoSceneViews.h"
 
+#include "Scene/kavoOpenScene.h"
 #include "Viewport/kavoViewport.h"
 #include "Views/kavoCameraView.h"
 #include "Views/kavoLightView.h"
@@ -23,16 +24,15 @@ void announceStructure()
 
 } // namespace
 
-kavoSceneViews::kavoSceneViews(kavoChangeMonitor &monitor, QWidget *parent)
+kavoSceneViews::kavoSceneViews(kavoOpenScene &scene, QWidget *parent)
     : QObject(parent)
-    , m_index(m_events, monitor)
-    , m_viewport(kavoViewport::create(m_events, monitor, m_index, parent))
-    , m_scene(new kavoSceneView(m_events, monitor, m_index, parent))
-    , m_materials(new kavoMaterialView(m_events, monitor, m_index, parent))
-    , m_lights(new kavoLightView(monitor, m_index, parent))
-    , m_cameras(new kavoCameraView(m_events, monitor, parent))
+    , m_viewport(kavoViewport::create(scene, parent))
+    , m_scene(new kavoSceneView(scene, parent))
+    , m_materials(new kavoMaterialView(scene, parent))
+    , m_lights(new kavoLightView(scene, parent))
+    , m_cameras(new kavoCameraView(scene, parent))
 {
-    connect(&m_index, &kavoSceneIndex::structureChanged, this, announceStructure);
+    connect(&scene, &kavoOpenScene::structureChanged, this, announceStructure);
     if (auto *viewport = qobject_cast<kavoViewport *>(m_viewport.data()))
         connect(m_cameras, &kavoCameraView::activeCameraChanged, viewport,
             &kavoViewport::lookThroughActiveCamera);

@@ -1,8 +1,5 @@
 #pragma once
 
-#include "Scene/kavoSceneEvents.h"
-#include "Scene/kavoSceneIndex.h"
-
 #include <QObject>
 #include <QPointer>
 
@@ -10,21 +7,21 @@ class QAction;
 class QKAVODockWindowManager;
 class QWidget;
 class kavoCameraView;
-class kavoChangeMonitor;
 class kavoLightView;
 class kavoMaterialView;
+class kavoOpenScene;
 class kavoSceneView;
 
 /// The host's own windows on the scene (Viewport, Scene, Materials, Lights, Cameras) and what keeps
-/// them in step with it. Needs osgInit, with writable change lists, and an application object.
+/// them in step with it.
 class kavoSceneViews : public QObject
 {
     Q_OBJECT
 
 public:
-    /// \param monitor must outlive this object
+    /// \param scene must outlive this object
     /// \param parent owns this object and the windows
-    kavoSceneViews(kavoChangeMonitor &monitor, QWidget *parent);
+    kavoSceneViews(kavoOpenScene &scene, QWidget *parent);
 
     /// Docks the viewport, and the other windows in the group "Scene", under the keys "Viewport",
     /// "Scene", "Materials", "Lights" and "Cameras". The viewport is in the middle if it comes
@@ -37,8 +34,6 @@ public:
     QAction *deletion() const;
 
 private:
-    kavoSceneEvents m_events;
-    kavoSceneIndex m_index;
     QPointer<QWidget> m_viewport;
     kavoSceneView *m_scene;
     kavoMaterialView *m_materials;

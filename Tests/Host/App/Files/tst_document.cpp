@@ -2,7 +2,7 @@
 
 #include "Basics/kavoTaskError.h"
 #include "Files/kavoDocument.h"
-#include "Scene/kavoChangeMonitor.h"
+#include "Scene/kavoOpenScene.h"
 #include <kavoTestHost.h>
 
 #include <OpenSG/OSGBlendChunk.h>
@@ -52,7 +52,7 @@ private slots:
 private:
     void edit();
 
-    std::unique_ptr<kavoChangeMonitor> m_changes;
+    std::unique_ptr<kavoOpenScene> m_scene;
     std::unique_ptr<kavoDocument> m_document;
     QTemporaryDir m_folder;
     osg::NodePtr m_root;
@@ -73,8 +73,8 @@ void tst_document::init()
     core->setMaterial(m_material);
     m_root->addChild(osg::makeCoredNode<osg::ComponentTransform>());
     m_root->getChild(0)->addAttachment(osg::BlendChunk::create());
-    m_changes = std::make_unique<kavoChangeMonitor>();
-    m_document = std::make_unique<kavoDocument>(*m_changes);
+    m_scene = std::make_unique<kavoOpenScene>();
+    m_document = std::make_unique<kavoDocument>(*m_scene);
     show(m_root);
     m_document->setFiles({ "/models/ship.osg" });
 }
@@ -82,18 +82,18 @@ void tst_document::init()
 void tst_document::cleanup()
 {
     m_document.reset();
-    m_changes.reset();
+    m_scene.reset();
 }
 
 void tst_document::edit()
 {
     osg::endEditCP(m_root, osg::Node::TravMaskFieldMask);
-    m_changes->drain();
+    m_scene->drainChanges();
 }
 
 void tst_document::anOpenedSceneIsNotModified()
 {
-    m_changes->drain();
+    m_scene->drainChanges();
     QVERIFY(!m_document->isModified());
 }
 
@@ -139,7 +139,7 @@ void tst_document::anEditModifiesIt()
 {
     QFETCH(Edit, edit);
     edit(m_root, m_material);
-    m_changes->drain();
+    m_scene->drainChanges();
     QVERIFY(m_document->isModified());
 }
 
@@ -177,7 +177,7 @@ void tst_document::itIsNotModifiedBy()
 {
     QFETCH(Edit, edit);
     edit(m_root, m_material);
-    m_changes->drain();
+    m_scene->drainChanges();
     QVERIFY(!m_document->isModified());
 }
 
@@ -185,7 +185,7 @@ void tst_document::withoutASceneNothingIsModified()
 {
     show(osg::NullFC);
     osg::setName(osg::makeCoredNode<osg::Group>(), "Loading");
-    m_changes->drain();
+    m_scene->drainChanges();
     QVERIFY(!m_document->isModified());
 }
 
@@ -201,7 +201,7 @@ void tst_document::savingMakesItUnmodified()
 {
     edit();
     m_document->save(m_folder.filePath("ship.osg"));
-    m_changes->drain();
+    m_scene->drainChanges();
     QVERIFY(!m_document->isModified());
     QCOMPARE(m_document->file(), m_folder.filePath("ship.osg"));
     QCOMPARE(m_document->title(), QStringLiteral("ship.osg"));

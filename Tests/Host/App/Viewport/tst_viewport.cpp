@@ -1,7 +1,7 @@
 #include "kavoTestLoad.h"
-#include "kavoViewFixture.h"
 
 #include "Scene/kavoContainers.h"
+#include "Scene/kavoOpenScene.h"
 #include "Scene/kavoSceneCameras.h"
 #include "Viewport/kavoViewport.h"
 #include <kavoScenegraph.h>
@@ -34,29 +34,27 @@ class tst_viewport : public QObject
 private slots:
     void init()
     {
-        m_fixture = std::make_unique<kavoViewFixture>();
-        m_view = std::make_unique<kavoViewport>(
-            m_fixture->events, m_fixture->monitor, m_fixture->index);
+        m_scene = std::make_unique<kavoOpenScene>();
+        m_view = std::make_unique<kavoViewport>(*m_scene);
         m_view->resize(400, 300);
         m_view->show();
         QVERIFY(QTest::qWaitForWindowExposed(m_view.get()));
         m_empty = m_view->grabFramebuffer();
         kavoTestLoad::open("glTF/CesiumMilkTruck/CesiumMilkTruck.gltf");
-        m_fixture->monitor.drain();
+        m_scene->drainChanges();
     }
 
     void cleanup()
     {
         m_view.reset();
-        m_fixture.reset();
+        m_scene.reset();
         kavoTestLoad::show(osg::NullFC);
     }
 
     void thereIsOneWhereThereIsOpenGL()
     {
         QVERIFY(kavoViewport::isAvailable());
-        const std::unique_ptr<QWidget> view(
-            kavoViewport::create(m_fixture->events, m_fixture->monitor, m_fixture->index));
+        const std::unique_ptr<QWidget> view(kavoViewport::create(*m_scene));
         QVERIFY(qobject_cast<kavoViewport *>(view.get()));
     }
 
@@ -131,14 +129,14 @@ private slots:
         red.setValuesRGBA(1, 0, 0, 1);
         chunk->setDiffuse(red);
         osg::endEditCP(chunk, osg::MaterialChunk::DiffuseFieldMask);
-        m_fixture->monitor.drain();
+        m_scene->drainChanges();
         QVERIFY(difference(before, m_view->grabFramebuffer()) > 1000);
     }
 
     void anotherCameraShowsAnotherPicture()
     {
         kavoTestLoad::open("FBX/spider.fbx");
-        m_fixture->monitor.drain();
+        m_scene->drainChanges();
         const QImage before = m_view->grabFramebuffer();
         m_view->lookThroughActiveCamera();
         QVERIFY(difference(before, m_view->grabFramebuffer()) > 1000);
@@ -151,7 +149,7 @@ private slots:
     }
 
 private:
-    std::unique_ptr<kavoViewFixture> m_fixture;
+    std::unique_ptr<kavoOpenScene> m_scene;
     std::unique_ptr<kavoViewport> m_view;
     QImage m_empty;
 };

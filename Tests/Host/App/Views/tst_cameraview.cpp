@@ -1,8 +1,8 @@
 #include "kavoDragPayload.h"
 #include "kavoTestLoad.h"
-#include "kavoViewFixture.h"
 
 #include "Scene/kavoContainers.h"
+#include "Scene/kavoOpenScene.h"
 #include "Scene/kavoSceneCameras.h"
 #include "Views/kavoCameraView.h"
 #include "Views/kavoNodeDeleter.h"
@@ -22,17 +22,17 @@ class tst_cameraview : public QObject
 private slots:
     void init()
     {
-        m_fixture = std::make_unique<kavoViewFixture>();
-        m_view = std::make_unique<kavoCameraView>(m_fixture->events, m_fixture->monitor);
+        m_scene = std::make_unique<kavoOpenScene>();
+        m_view = std::make_unique<kavoCameraView>(*m_scene);
         kavoTestLoad::open("Collada/cameras.dae");
-        m_fixture->monitor.drain();
+        m_scene->drainChanges();
         m_view->show();
     }
 
     void cleanup()
     {
         m_view.reset();
-        m_fixture.reset();
+        m_scene.reset();
         kavoTestLoad::show(osg::NullFC);
     }
 
@@ -87,7 +87,7 @@ private slots:
 
     void aCameraGoesWithItsNode()
     {
-        kavoNodeDeleter::deleteNode(osg::UInt32(id("Camera")), m_fixture->index);
+        kavoNodeDeleter::deleteNode(osg::UInt32(id("Camera")), *m_scene);
         QTRY_COMPARE(m_view->model()->rowCount(), 2);
         QCOMPARE(kavoSceneCameras::activeNodeId(), 0u);
     }
@@ -106,7 +106,7 @@ private:
 
     QModelIndex row(int row, int column = 0) const { return m_view->model()->index(row, column); }
 
-    std::unique_ptr<kavoViewFixture> m_fixture;
+    std::unique_ptr<kavoOpenScene> m_scene;
     std::unique_ptr<kavoCameraView> m_view;
 };
 

@@ -1,8 +1,8 @@
 #include "kavoDragPayload.h"
 #include "kavoTestLoad.h"
-#include "kavoViewFixture.h"
 
 #include "Scene/kavoContainers.h"
+#include "Scene/kavoOpenScene.h"
 #include "Views/kavoLightView.h"
 #include <kavoDragFormats.h>
 #include <kavoScenegraph.h>
@@ -29,9 +29,9 @@ private slots:
         kavoTestLoad::show(root);
         m_lampNode = makeNode("lamp", osg::PointLight::create(), root);
         m_sunNode = makeNode("sun", osg::DirectionalLight::create(), m_lampNode);
-        m_fixture = std::make_unique<kavoViewFixture>();
-        m_view = std::make_unique<kavoLightView>(m_fixture->monitor, m_fixture->index);
-        m_fixture->monitor.drain();
+        m_scene = std::make_unique<kavoOpenScene>();
+        m_view = std::make_unique<kavoLightView>(*m_scene);
+        m_scene->drainChanges();
         m_view->resize(300, 200);
         m_view->show();
     }
@@ -39,7 +39,7 @@ private slots:
     void cleanup()
     {
         m_view.reset();
-        m_fixture.reset();
+        m_scene.reset();
         kavoTestLoad::show(osg::NullFC);
     }
 
@@ -72,7 +72,7 @@ private slots:
     {
         const osg::UInt32 lamp = kavoContainers::id(light(m_lampNode));
         bool isTold = false;
-        connect(&m_fixture->monitor, &kavoChangeMonitor::changed,
+        connect(m_scene.get(), &kavoOpenScene::changed,
             [&](const kavoChanges &changes) { isTold |= changes.changed.contains(lamp); });
         clickCheckBox(0);
         QTRY_VERIFY(isTold);
@@ -142,7 +142,7 @@ private:
     }
 
     osg::NodePtr m_lampNode, m_sunNode;
-    std::unique_ptr<kavoViewFixture> m_fixture;
+    std::unique_ptr<kavoOpenScene> m_scene;
     std::unique_ptr<kavoLightView> m_view;
 };
 

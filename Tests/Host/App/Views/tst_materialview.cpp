@@ -1,8 +1,8 @@
 #include "kavoDragPayload.h"
 #include "kavoTestLoad.h"
-#include "kavoViewFixture.h"
 
 #include "Scene/kavoContainers.h"
+#include "Scene/kavoOpenScene.h"
 #include "Views/kavoMaterialModel.h"
 #include "Views/kavoMaterialSwatch.h"
 #include "Views/kavoMaterialView.h"
@@ -62,16 +62,15 @@ private slots:
         m_paintNode = makeLibraryNode("paint", m_paint);
         m_glassNode = makeLibraryNode("glass", makeMaterial());
         m_emptyNode = makeLibraryNode("empty", osg::NullFC);
-        m_fixture = std::make_unique<kavoViewFixture>();
-        m_view = std::make_unique<kavoMaterialView>(
-            m_fixture->events, m_fixture->monitor, m_fixture->index);
-        m_fixture->monitor.drain();
+        m_scene = std::make_unique<kavoOpenScene>();
+        m_view = std::make_unique<kavoMaterialView>(*m_scene);
+        m_scene->drainChanges();
     }
 
     void cleanup()
     {
         m_view.reset();
-        m_fixture.reset();
+        m_scene.reset();
         kavoTestLoad::show(osg::NullFC);
     }
 
@@ -170,7 +169,7 @@ private slots:
         osg::beginEditCP(group, osg::MaterialGroup::MaterialFieldMask);
         group->setMaterial(m_paint);
         osg::endEditCP(group, osg::MaterialGroup::MaterialFieldMask);
-        m_fixture->monitor.drain();
+        m_scene->drainChanges();
         QCOMPARE(m_view->model()->rowCount(row(2)), 1);
     }
 
@@ -179,7 +178,7 @@ private slots:
         const osg::NodePtr root = kavoScenegraph::getRoot();
         root->subChild(m_glassNode);
         osg::endEditCP(root, osg::Node::ChildrenFieldMask);
-        m_fixture->monitor.drain();
+        m_scene->drainChanges();
         QCOMPARE(m_view->model()->rowCount(), 2);
     }
 
@@ -251,7 +250,7 @@ private:
         osg::beginEditCP(chunk(), osg::MaterialChunk::DiffuseFieldMask);
         chunk()->setDiffuse(diffuse);
         osg::endEditCP(chunk(), osg::MaterialChunk::DiffuseFieldMask);
-        m_fixture->monitor.drain();
+        m_scene->drainChanges();
     }
 
     template <class Gesture> osg::MaterialPtr activate(Gesture gesture)
@@ -268,7 +267,7 @@ private:
 
     osg::ChunkMaterialPtr m_paint;
     osg::NodePtr m_paintNode, m_glassNode, m_emptyNode;
-    std::unique_ptr<kavoViewFixture> m_fixture;
+    std::unique_ptr<kavoOpenScene> m_scene;
     std::unique_ptr<kavoMaterialView> m_view;
 };
 

@@ -1,7 +1,7 @@
 #include "kavoTestLoad.h"
-#include "kavoViewFixture.h"
 
 #include "Scene/kavoContainers.h"
+#include "Scene/kavoOpenScene.h"
 #include "Views/kavoSceneModel.h"
 #include <kavoScenegraph.h>
 #include <kavoTestHost.h>
@@ -26,18 +26,18 @@ private slots:
     {
         const kavoNodePtr truck = makeTruck();
         kavoTestLoad::show(truck);
-        m_fixture = std::make_unique<kavoViewFixture>();
-        m_model = std::make_unique<kavoSceneModel>(m_fixture->events, m_fixture->monitor);
+        m_scene = std::make_unique<kavoOpenScene>();
+        m_model = std::make_unique<kavoSceneModel>(*m_scene);
         m_tester = std::make_unique<QAbstractItemModelTester>(
             m_model.get(), QAbstractItemModelTester::FailureReportingMode::QtTest);
-        m_fixture->monitor.drain();
+        m_scene->drainChanges();
     }
 
     void cleanup()
     {
         m_tester.reset();
         m_model.reset();
-        m_fixture.reset();
+        m_scene.reset();
         kavoTestLoad::show(osg::NullFC);
     }
 
@@ -125,7 +125,7 @@ private slots:
         const osg::NodePtr root = kavoScenegraph::getRoot();
         root->subChild(osg::UInt32(0));
         osg::endEditCP(root, osg::Node::ChildrenFieldMask);
-        m_fixture->monitor.drain();
+        m_scene->drainChanges();
         QCOMPARE(other.row(), 0);
         QCOMPARE(m_model->rowCount(m_model->index(0, 0)), 1);
     }
@@ -136,7 +136,7 @@ private slots:
         const QModelIndex wheel = indexOf("Tyre").parent();
         addChild(root, tyre);
         osg::endEditCP(kavoTestLoad::find("Wheel"), osg::Node::ChildrenFieldMask);
-        m_fixture->monitor.drain();
+        m_scene->drainChanges();
         QCOMPARE(m_model->rowCount(wheel), 0);
         QCOMPARE(indexOf("Tyre").parent(), m_model->index(0, 0));
     }
@@ -146,7 +146,7 @@ private slots:
         const QPersistentModelIndex wheel = indexOf("Wheel");
         QSignalSpy changed(m_model.get(), &QAbstractItemModel::dataChanged);
         osg::setName(kavoTestLoad::find("Wheel"), "Rim");
-        m_fixture->monitor.drain();
+        m_scene->drainChanges();
         QVERIFY(changed.count() > 0);
         QCOMPARE(wheel.data().toString(), QString("Rim"));
     }
@@ -169,14 +169,14 @@ private slots:
         wheel->subChild(osg::UInt32(0));
         QVERIFY(!tyre.data().isValid());
         osg::endEditCP(wheel, osg::Node::ChildrenFieldMask);
-        m_fixture->monitor.drain();
+        m_scene->drainChanges();
         QVERIFY(!tyre.isValid());
     }
 
     void aRootThatDiesEmptiesTheTree()
     {
         kavoScenegraph::setRoot(osg::NullFC);
-        m_fixture->monitor.drain();
+        m_scene->drainChanges();
         QCOMPARE(m_model->rowCount(), 0);
     }
 
@@ -241,10 +241,10 @@ private:
         osg::beginEditCP(parent, osg::Node::ChildrenFieldMask);
         parent->addChild(child);
         osg::endEditCP(parent, osg::Node::ChildrenFieldMask);
-        m_fixture->monitor.drain();
+        m_scene->drainChanges();
     }
 
-    std::unique_ptr<kavoViewFixture> m_fixture;
+    std::unique_ptr<kavoOpenScene> m_scene;
     std::unique_ptr<kavoSceneModel> m_model;
     std::unique_ptr<QAbstractItemModelTester> m_tester;
 };

@@ -1,7 +1,7 @@
 #include "kavoTestLoad.h"
-#include "kavoViewFixture.h"
 
 #include "Scene/kavoContainers.h"
+#include "Scene/kavoOpenScene.h"
 #include "Viewport/kavoViewport.h"
 #include "Views/kavoNodeDeleter.h"
 #include "Views/kavoSceneView.h"
@@ -28,9 +28,8 @@ private slots:
     {
         const kavoNodePtr truck = makeTruck();
         kavoTestLoad::show(truck);
-        m_fixture = std::make_unique<kavoViewFixture>();
-        m_view = std::make_unique<kavoSceneView>(
-            m_fixture->events, m_fixture->monitor, m_fixture->index);
+        m_scene = std::make_unique<kavoOpenScene>();
+        m_view = std::make_unique<kavoSceneView>(*m_scene);
         m_view->resize(400, 300);
         m_view->show();
         m_view->activateWindow();
@@ -41,7 +40,7 @@ private slots:
     void cleanup()
     {
         m_view.reset();
-        m_fixture.reset();
+        m_scene.reset();
         kavoTestLoad::show(osg::NullFC);
         QCoreApplication::processEvents();
     }
@@ -180,7 +179,7 @@ private slots:
         const osg::NodePtr beacon = makeGroup("beacon", lamp);
         light->setBeacon(beacon);
         kavoTestLoad::show(kavoScenegraph::getRoot());
-        kavoNodeDeleter::deleteNode(kavoContainers::id(beacon), m_fixture->index);
+        kavoNodeDeleter::deleteNode(kavoContainers::id(beacon), *m_scene);
         QVERIFY(light->getBeacon() == osg::NullFC);
     }
 
@@ -215,8 +214,7 @@ private slots:
     void withoutOpenGLTheViewportIsAWordOfExplanation()
     {
         QVERIFY(!kavoViewport::isAvailable()); // these tests run without a display
-        const std::unique_ptr<QWidget> view(
-            kavoViewport::create(m_fixture->events, m_fixture->monitor, m_fixture->index));
+        const std::unique_ptr<QWidget> view(kavoViewport::create(*m_scene));
         QVERIFY(qobject_cast<QLabel *>(view.get())->text().contains("OpenGL"));
     }
 
@@ -243,7 +241,7 @@ private:
         return kavoContainers::id(node);
     }
 
-    std::unique_ptr<kavoViewFixture> m_fixture;
+    std::unique_ptr<kavoOpenScene> m_scene;
     std::unique_ptr<kavoSceneView> m_view;
 };
 

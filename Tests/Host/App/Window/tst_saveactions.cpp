@@ -1,7 +1,7 @@
 #include "OSGThrowingMark.h"
 
 #include "Files/kavoDocument.h"
-#include "Scene/kavoChangeMonitor.h"
+#include "Scene/kavoOpenScene.h"
 #include "Window/kavoMainWindow.h"
 #include <QKAVODockWindowManager.h>
 #include <kavoDialogUser.h>
@@ -102,7 +102,7 @@ void tst_saveactions::edit()
 void tst_saveactions::drainChanges()
 {
     QCoreApplication::processEvents();
-    m_window->findChild<kavoChangeMonitor *>()->drain();
+    m_window->findChild<kavoOpenScene *>()->drainChanges();
 }
 
 void tst_saveactions::writeScene(const QString &file, const QByteArray &rootName) const
