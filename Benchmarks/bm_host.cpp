@@ -7,6 +7,7 @@
 #include "BenchTable.h"
 
 #include "Window/kavoMainWindow.h"
+#include "Window/kavoSession.h"
 #include <QKAVODockWindowManager.h>
 #include <kavoController.h>
 #include <kavoMessage.h>
@@ -61,15 +62,15 @@ void openModel(kavoMainWindow &host)
 {
     BenchPaintWatch frames(window(host, "Viewport"));
     bool isOpen = false;
-    QObject::connect(&host, &kavoMainWindow::opened, &frames, [&] {
+    QObject::connect(&host.session(), &kavoSession::opened, &frames, [&] {
         isOpen = true;
         frames.forget();
     });
-    QObject::connect(&host, &kavoMainWindow::openFailed, &frames,
+    QObject::connect(&host.session(), &kavoSession::openFailed, &frames,
         [](const QString &message) { expect(false, qPrintable(message)); });
     const double before = BenchHost::residentMemory();
     const double time = BenchClock::wallTime([&] {
-        host.open({ KAVO_BENCH_MODEL });
+        host.session().open({ KAVO_BENCH_MODEL });
         waitUntilOpen(isOpen);
         frames.waitForPaint();
     });

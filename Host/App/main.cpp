@@ -75,7 +75,8 @@ int runWindow(const kavoCommandLine &commandLine)
     if (!commandLine.isJob())
         mainWindow->useSettings();
     mainWindow->show();
-    kavoJobs jobs(commandLine, *mainWindow);
+    kavoJobs jobs(commandLine, mainWindow->session(), mainWindow->docks(), *mainWindow);
+    QObject::connect(&jobs, &kavoJobs::failed, mainWindow, &kavoMainWindow::reportError);
     jobs.start();
     QApplication::exec();
     const int printed = printField(commandLine.fieldToPrint());

@@ -1,4 +1,5 @@
 #include "Window/kavoMainWindow.h"
+#include "Window/kavoSession.h"
 #include "Window/kavoWindowPrinter.h"
 #include <QKAVODockWindowManager.h>
 #include <kavoTestHost.h>
@@ -68,8 +69,8 @@ void tst_draganddrop::initTestCase()
 
 void tst_draganddrop::open(const QString &file)
 {
-    QSignalSpy opened(m_window, &kavoMainWindow::opened);
-    m_window->open({ QStringLiteral(KAVO_TEST_MODELS "/") + file });
+    QSignalSpy opened(&m_window->session(), &kavoSession::opened);
+    m_window->session().open({ QStringLiteral(KAVO_TEST_MODELS "/") + file });
     QVERIFY(opened.wait(20000));
 }
 

@@ -5,7 +5,7 @@
 #include "Basics/kavoTry.h"
 #include "Files/kavoDocument.h"
 #include "Tables/kavoExportArguments.h"
-#include "Window/kavoMainWindow.h"
+#include "Window/kavoSession.h"
 #include "Window/kavoWindowPrinter.h"
 
 #include <QKAVODockWindowManager.h>
@@ -17,6 +17,7 @@
 #include <QPixmap>
 #include <QTextStream>
 #include <QTimer>
+#include <QWidget>
 
 #include <cstdio>
 
@@ -31,13 +32,16 @@ void settle()
 
 }
 
-kavoJobs::kavoJobs(const kavoCommandLine &commandLine, kavoMainWindow &window)
+kavoJobs::kavoJobs(const kavoCommandLine &commandLine, kavoSession &session,
+    QKAVODockWindowManager &docks, QWidget &window)
     : m_commandLine(commandLine)
+    , m_session(session)
+    , m_docks(docks)
     , m_window(window)
     , m_exitCode(commandLine.isJob() ? 1 : 0)
 {
-    connect(&window, &kavoMainWindow::openFailed, this, &kavoJobs::fail);
-    connect(&window, &kavoMainWindow::openCanceled, this, &kavoJobs::cancel);
+    connect(&session, &kavoSession::openFailed, this, &kavoJobs::fail);
+    connect(&session, &kavoSession::openCanceled, this, &kavoJobs::cancel);
 }
 
 void kavoJobs::start()
@@ -46,8 +50,8 @@ void kavoJobs::start()
         QTimer::singleShot(0, this, &kavoJobs::run);
         return;
     }
-    connect(&m_window, &kavoMainWindow::opened, this, &kavoJobs::run);
-    m_window.open(m_commandLine.sceneFiles());
+    connect(&m_session, &kavoSession::opened, this, &kavoJobs::run);
+    m_session.open(m_commandLine.sceneFiles());
 }
 
 void kavoJobs::run()
@@ -62,12 +66,12 @@ void kavoJobs::run()
 void kavoJobs::runAll()
 {
     const QString node = m_commandLine.nodeToSelect();
-    if (!node.isEmpty() && !m_window.select(node))
+    if (!node.isEmpty() && !m_session.select(node))
         throw kavoTaskError(tr("The scene has no node named or numbered '%1'").arg(node));
     settle();
     const bool isComplete = exportValuePairs();
     if (!m_commandLine.fileToSave().isEmpty())
-        m_window.document().save(m_commandLine.fileToSave());
+        m_session.document().save(m_commandLine.fileToSave());
     if (!m_commandLine.windowToPrint().isEmpty())
         printWindow(m_commandLine.windowToPrint());
     if (!m_commandLine.screenshotFile().isEmpty())
@@ -82,17 +86,17 @@ void kavoJobs::cancel()
         fail(tr("Loading was canceled"));
 }
 
-// Scenes that the user opens later are none of the command line's business.
+// Jobs must not run again when the user opens another scene.
 void kavoJobs::forgetScenes()
 {
-    disconnect(&m_window, &kavoMainWindow::opened, this, nullptr);
+    disconnect(&m_session, &kavoSession::opened, this, nullptr);
 }
 
 void kavoJobs::fail(const QString &message)
 {
     forgetScenes();
     if (!m_commandLine.isJob())
-        return m_window.reportError(message);
+        return emit failed(message);
     std::fprintf(stderr, "kavo: %s\n", qUtf8Printable(message));
     m_exitCode = 1;
     QCoreApplication::quit();
@@ -108,12 +112,12 @@ bool kavoJobs::exportValuePairs()
 
 void kavoJobs::printWindow(const QString &key)
 {
-    QWidget *window = m_window.docks().window(key);
+    QWidget *window = m_docks.window(key);
     if (!window) {
         throw kavoTaskError(tr("There is no window '%1', only %2")
-                                .arg(key, m_window.docks().keys().join(QStringLiteral(", "))));
+                                .arg(key, m_docks.keys().join(QStringLiteral(", "))));
     }
-    m_window.docks().show(key);
+    m_docks.show(key);
     settle();
     QString rows;
     QTextStream out(&rows);

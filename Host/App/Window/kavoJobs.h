@@ -4,7 +4,9 @@
 
 #include <QObject>
 
-class kavoMainWindow;
+class QKAVODockWindowManager;
+class QWidget;
+class kavoSession;
 
 /// Runs what the command line asks for once its scenes are open: selection and jobs.
 class kavoJobs : public QObject
@@ -12,16 +14,22 @@ class kavoJobs : public QObject
     Q_OBJECT
 
 public:
-    kavoJobs(const kavoCommandLine &commandLine, kavoMainWindow &window);
+    /// \param window for the screenshot
+    kavoJobs(const kavoCommandLine &commandLine, kavoSession &session,
+        QKAVODockWindowManager &docks, QWidget &window);
 
-    /// Opens the scenes and does the rest when they are there. With jobs it ends the event loop
-    /// afterwards; if one fails, after a line on standard error that says why. Without jobs errors
-    /// are shown in the window. Rows of a table that have no place in the scene are a
-    /// failure, too, but no other job is left out for them.
+    /// Opens the scenes, then selects and runs the jobs. If there are jobs, it ends the event loop
+    /// after the last job, or after the first that fails; then it writes the reason to standard
+    /// error. Rows of a table that have no place in the scene are a failure, but the other jobs
+    /// still run.
     void start();
 
-    /// Of the process: 1 as long as there are jobs that are not done.
+    /// The exit code of the process: 1 until all jobs are done.
     int exitCode() const { return m_exitCode; }
+
+signals:
+    /// Something failed although there are no jobs. Failed jobs write to standard error instead.
+    void failed(const QString &message);
 
 private:
     void run();
@@ -34,6 +42,8 @@ private:
     void saveScreenshot(const QString &file);
 
     const kavoCommandLine &m_commandLine;
-    kavoMainWindow &m_window;
+    kavoSession &m_session;
+    QKAVODockWindowManager &m_docks;
+    QWidget &m_window;
     int m_exitCode;
 };

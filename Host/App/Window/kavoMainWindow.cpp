@@ -1,27 +1,23 @@
 #include "Window/kavoMainWindow.h"
 
 #include "Files/kavoDocument.h"
-#include "Files/kavoSceneLoader.h"
-#include "Scene/kavoNodeFinder.h"
 #include "Scene/kavoOpenScene.h"
 #include "Tables/kavoExportActions.h"
+#include "Window/kavoEditActions.h"
 #include "Window/kavoLoadProgress.h"
 #include "Window/kavoLogView.h"
 #include "Window/kavoRecentFiles.h"
 #include "Window/kavoSaveActions.h"
 #include "Window/kavoSceneViews.h"
+#include "Window/kavoSession.h"
 
 #include <QKAVODockWindowManager.h>
 #include <kavoController.h>
 #include <kavoIconManager.h>
-#include <kavoMessage.h>
-#include <kavoMessageIds.h>
 #include <kavoModuleBase.h>
-#include <kavoScenegraph.h>
 
 #include <QAbstractEventDispatcher>
 #include <QApplication>
-#include <QClipboard>
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QFileDialog>
@@ -38,12 +34,6 @@ const QString geometryKey = QStringLiteral("mainWindow/geometry");
 const QString layoutKey = QStringLiteral("mainWindow/layout");
 const QString folderKey = QStringLiteral("mainWindow/folder");
 
-void send(int messageId)
-{
-    kavoMessage message(messageId);
-    kavoController::sendMessage(message);
-}
-
 QStringList localFiles(const QMimeData *data)
 {
     QStringList files;
@@ -59,10 +49,8 @@ QStringList localFiles(const QMimeData *data)
 kavoMainWindow::kavoMainWindow(QWidget *parent)
     : QMainWindow(parent)
     , m_docks(new QKAVODockWindowManager(this))
-    , m_loader(new kavoSceneLoader(this))
-    , m_scene(new kavoOpenScene(this))
-    , m_document(new kavoDocument(*m_scene, this))
-    , m_views(new kavoSceneViews(*m_scene, this))
+    , m_session(new kavoSession(this))
+    , m_views(new kavoSceneViews(m_session->scene(), this))
 {
     kavoController::setMainWindow(this);
     kavoController::setDockWindowManager(m_docks);
@@ -70,12 +58,12 @@ kavoMainWindow::kavoMainWindow(QWidget *parent)
     setAcceptDrops(true);
     resize(1280, 800);
     createFileMenu();
-    createEditMenu();
+    new kavoEditActions(m_views->deletion(), menuBar()->addMenu(tr("&Edit")));
     createViewMenu();
     createHelpMenu();
     createStatusBar();
     createDockWindows();
-    connectLoader();
+    connectSession();
     driveModules();
 }
 
@@ -96,36 +84,12 @@ void kavoMainWindow::useSettings()
     m_docks->restoreState(settings.value(layoutKey).toByteArray());
 }
 
-void kavoMainWindow::open(const QStringList &files)
-{
-    m_loader->load(files);
-    m_files = files;
-    if (m_loader->isLoading())
-        m_document->discardEdits();
-}
-
-bool kavoMainWindow::select(const QString &nameOrId)
-{
-    const osg::NodePtr node = kavoNodeFinder::find(kavoScenegraph::getRoot(), nameOrId);
-    if (node == osg::NullFC)
-        return false;
-    kavoScenegraph::setSelectedNode(node);
-    return true;
-}
-
 void kavoMainWindow::shutDown()
 {
     m_docks->hideAll();
     hide();
-    m_loader->shutDown();
     m_views->closeViewport();
-    closeScene();
-}
-
-void kavoMainWindow::closeScene()
-{
-    send(kavoMessageIds::sceneCleared);
-    kavoScenegraph::setRoot(osg::NullFC);
+    m_session->close();
 }
 
 void kavoMainWindow::reportError(const QString &message)
@@ -158,7 +122,7 @@ void kavoMainWindow::dragEnterEvent(QDragEnterEvent *event)
 void kavoMainWindow::dropEvent(QDropEvent *event)
 {
     event->acceptProposedAction();
-    openInstead(localFiles(event->mimeData()));
+    m_session->replace(localFiles(event->mimeData()));
 }
 
 void kavoMainWindow::createDockWindows()
@@ -176,32 +140,17 @@ void kavoMainWindow::createFileMenu()
         &kavoMainWindow::askForFiles, QKeySequence::Open);
     m_recentFiles = new kavoRecentFiles(this);
     connect(m_recentFiles, &kavoRecentFiles::chosen, this,
-        [this](const QString &file) { openInstead({ file }); });
+        [this](const QString &file) { m_session->replace({ file }); });
     menu->addMenu(m_recentFiles);
     menu->addSeparator();
-    m_saving = new kavoSaveActions(*m_document, this, menu);
+    m_saving = new kavoSaveActions(m_session->document(), this, menu);
     connect(m_saving, &kavoSaveActions::failed, this, &kavoMainWindow::reportError);
     connect(m_saving, &kavoSaveActions::saved, this, &kavoMainWindow::rememberFile);
-    connect(m_document, &kavoDocument::changed, this, &kavoMainWindow::showTitle);
     menu->addSeparator();
     auto *exports = new kavoExportActions(this, menu);
     connect(exports, &kavoExportActions::failed, this, &kavoMainWindow::reportError);
     menu->addSeparator();
     menu->addAction(tr("&Quit"), this, &kavoMainWindow::close, QKeySequence::Quit);
-}
-
-void kavoMainWindow::createEditMenu()
-{
-    QMenu *menu = menuBar()->addMenu(tr("&Edit"));
-    menu->addAction(
-        tr("Select &Parent"), this, &kavoMainWindow::selectParent, QKeySequence(tr("Alt+Up")));
-    menu->addAction(
-        tr("&Deselect"), this, [] { kavoScenegraph::setSelectedNode(osg::NullFC); },
-        QKeySequence(tr("Ctrl+Shift+A")));
-    menu->addSeparator();
-    menu->addAction(m_views->deletion());
-    menu->addAction(tr("&Copy Name of Selected Node"), this, &kavoMainWindow::copyName,
-        QKeySequence(tr("Ctrl+Shift+C")));
 }
 
 void kavoMainWindow::createViewMenu()
@@ -235,31 +184,28 @@ void kavoMainWindow::createStatusBar()
     statusBar()->addPermanentWidget(m_progress);
 }
 
-void kavoMainWindow::connectLoader()
+void kavoMainWindow::connectSession()
 {
-    connect(m_progress, &kavoLoadProgress::cancelRequested, m_loader, &kavoSceneLoader::cancel);
-    connect(m_loader, &kavoSceneLoader::progress, m_progress, &kavoLoadProgress::report);
-    m_loader->setConfirmation([this] { return mayReplaceScene(); });
-    connect(m_loader, &kavoSceneLoader::loaded, this, &kavoMainWindow::showScene);
-    connect(m_loader, &kavoSceneLoader::canceled, m_document, &kavoDocument::keepEdits);
-    connect(m_loader, &kavoSceneLoader::failed, m_document, &kavoDocument::keepEdits);
-    connect(m_loader, &kavoSceneLoader::canceled, this, [this] {
-        m_progress->hide();
-        statusBar()->showMessage(tr("Loading canceled"), 5000);
-        emit openCanceled();
+    m_session->setConfirmation([this] { return m_saving->mayClose(); });
+    connect(&m_session->document(), &kavoDocument::changed, this, &kavoMainWindow::showTitle);
+    connect(m_progress, &kavoLoadProgress::cancelRequested, m_session, &kavoSession::cancelOpening);
+    connect(m_session, &kavoSession::opening, m_progress, &kavoLoadProgress::report);
+    connect(m_session, &kavoSession::opened, m_progress, &QWidget::hide);
+    connect(m_session, &kavoSession::openFailed, m_progress, &QWidget::hide);
+    connect(m_session, &kavoSession::openCanceled, m_progress, &QWidget::hide);
+    connect(m_session, &kavoSession::openCanceled, statusBar(),
+        [this] { statusBar()->showMessage(tr("Loading canceled"), 5000); });
+    connect(m_session, &kavoSession::opened, this, [this](const QStringList &files) {
+        for (const QString &file : files)
+            rememberFile(file);
     });
-    connect(m_loader, &kavoSceneLoader::failed, this,
-        [this](const QString &file, const QString &reason) {
-            m_progress->hide();
-            emit openFailed(tr("Cannot open '%1': %2").arg(file, reason));
-        });
 }
 
 void kavoMainWindow::driveModules()
 {
     connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
         [] { kavoController::notifyModules(&kavoModuleBase::loop); });
-    connect(m_scene, &kavoOpenScene::changed, this,
+    connect(&m_session->scene(), &kavoOpenScene::changed, this,
         [] { kavoController::notifyModules(&kavoModuleBase::update); });
 }
 
@@ -271,19 +217,7 @@ void kavoMainWindow::askForFiles()
     if (files.isEmpty())
         return;
     settings.setValue(folderKey, QFileInfo(files.first()).absolutePath());
-    openInstead(files);
-}
-
-void kavoMainWindow::openInstead(const QStringList &files)
-{
-    if (m_saving->mayClose())
-        open(files);
-}
-
-bool kavoMainWindow::mayReplaceScene()
-{
-    m_scene->drainChanges(); // of the edits of this round
-    return m_saving->mayClose();
+    m_session->replace(files);
 }
 
 void kavoMainWindow::rememberFile(const QString &file)
@@ -294,35 +228,10 @@ void kavoMainWindow::rememberFile(const QString &file)
 
 void kavoMainWindow::showTitle()
 {
-    const QString title = m_document->title();
+    const QString title = m_session->document().title();
     setWindowTitle(
         (title.isEmpty() ? QApplication::applicationDisplayName() : title) + QStringLiteral("[*]"));
-    setWindowModified(m_document->isModified());
-}
-
-void kavoMainWindow::showScene(const osg::NodePtr &root, const QStringList &partlyRead)
-{
-    m_progress->hide();
-    closeScene();
-    kavoScenegraph::setRoot(root);
-    send(kavoMessageIds::sceneLoaded);
-    m_document->setFiles(m_files, partlyRead);
-    for (const QString &file : qAsConst(m_files))
-        rememberFile(file);
-    emit opened();
-}
-
-void kavoMainWindow::selectParent()
-{
-    const kavoNodePtr selected = kavoScenegraph::getSelectedNode();
-    if (selected != osg::NullFC && selected->getParent() != osg::NullFC)
-        kavoScenegraph::setSelectedNode(selected->getParent());
-}
-
-void kavoMainWindow::copyName()
-{
-    const char *name = kavoScenegraph::getNodeName(kavoScenegraph::getSelectedNode());
-    QApplication::clipboard()->setText(QString::fromUtf8(name));
+    setWindowModified(m_session->document().isModified());
 }
 
 void kavoMainWindow::about()

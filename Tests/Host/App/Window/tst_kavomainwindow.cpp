@@ -2,6 +2,7 @@
 
 #include "Files/kavoDocument.h"
 #include "Window/kavoMainWindow.h"
+#include "Window/kavoSession.h"
 #include <QKAVODockWindowManager.h>
 #include <kavoController.h>
 #include <kavoDialogUser.h>
@@ -100,7 +101,7 @@ void tst_kavoMainWindow::init()
 {
     kavoScenegraph::setRoot(kavoTestScene::makeTruck());
     kavoScenegraph::setSelectedNode(osg::NullFC);
-    m_window->document().setFiles({});
+    m_window->session().document().setFiles({});
 }
 
 QAction *tst_kavoMainWindow::action(const QString &text) const
@@ -114,8 +115,8 @@ QAction *tst_kavoMainWindow::action(const QString &text) const
 
 bool tst_kavoMainWindow::open(const QString &file)
 {
-    QSignalSpy opened(m_window, &kavoMainWindow::opened);
-    m_window->open({ file });
+    QSignalSpy opened(&m_window->session(), &kavoSession::opened);
+    m_window->session().open({ file });
     return QTest::qWaitFor([&] { return opened.count() == 1; }, 20000);
 }
 
@@ -148,8 +149,8 @@ void tst_kavoMainWindow::openingAnnouncesTheSceneBeforeAndAfter()
 void tst_kavoMainWindow::aBrokenFileIsNamedWithTheReasonAndTheSceneStays()
 {
     const osg::NodePtr before = kavoScenegraph::getRoot();
-    QSignalSpy failed(m_window, &kavoMainWindow::openFailed);
-    m_window->open({ "/no/such/scene.gltf" });
+    QSignalSpy failed(&m_window->session(), &kavoSession::openFailed);
+    m_window->session().open({ "/no/such/scene.gltf" });
     QTRY_COMPARE(failed.count(), 1);
     const QString message = failed.first().first().toString();
     QVERIFY2(message.startsWith("Cannot open '/no/such/scene.gltf': "), qPrintable(message));
@@ -160,8 +161,8 @@ void tst_kavoMainWindow::aBrokenFileIsNamedWithTheReasonAndTheSceneStays()
 void tst_kavoMainWindow::cancelingALoadKeepsTheScene()
 {
     const osg::NodePtr before = kavoScenegraph::getRoot();
-    QSignalSpy canceled(m_window, &kavoMainWindow::openCanceled);
-    m_window->open({ kavoTestLoad::model(truck) });
+    QSignalSpy canceled(&m_window->session(), &kavoSession::openCanceled);
+    m_window->session().open({ kavoTestLoad::model(truck) });
     QWidget *progress = m_window->findChild<QWidget *>("loadProgress");
     QTRY_VERIFY(progress->isVisible());
     QTest::mouseClick(progress->findChild<QWidget *>("cancel"), Qt::LeftButton);
@@ -176,9 +177,9 @@ void tst_kavoMainWindow::escapeInTheSceneTreeCancelsALoadFirst()
     QVERIFY(QTest::qWaitForWindowActive(m_window));
     auto *tree = m_window->docks().window("Scene")->findChild<QTreeView *>();
     m_window->docks().show("Scene");
-    m_window->select("Tyre");
-    QSignalSpy canceled(m_window, &kavoMainWindow::openCanceled);
-    m_window->open({ kavoTestLoad::model(truck) });
+    m_window->session().select("Tyre");
+    QSignalSpy canceled(&m_window->session(), &kavoSession::openCanceled);
+    m_window->session().open({ kavoTestLoad::model(truck) });
     QTRY_VERIFY(m_window->findChild<QWidget *>("loadProgress")->isVisible());
     tree->setFocus();
     QTest::keyClick(tree, Qt::Key_Escape);
@@ -193,11 +194,11 @@ void tst_kavoMainWindow::theEditMenuDeletesNodes()
     const QList<QAction *> offered = m_window->menuBar()->actions().at(1)->menu()->actions();
     QAction *deletion = action("Delete Node...");
     QVERIFY(offered.contains(deletion));
-    QVERIFY(m_window->select("Tyre"));
+    QVERIFY(m_window->session().select("Tyre"));
     kavoDialogUser user;
     user.willPress(QMessageBox::Yes);
     deletion->trigger();
-    QTRY_VERIFY(!m_window->select("Tyre"));
+    QTRY_VERIFY(!m_window->session().select("Tyre"));
 }
 
 void tst_kavoMainWindow::droppedFilesAreOpened()
@@ -208,7 +209,7 @@ void tst_kavoMainWindow::droppedFilesAreOpened()
     QDragEnterEvent enter({ 5, 5 }, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(m_window, &enter);
     QVERIFY(enter.isAccepted());
-    QSignalSpy opened(m_window, &kavoMainWindow::opened);
+    QSignalSpy opened(&m_window->session(), &kavoSession::opened);
     QDropEvent drop({ 5, 5 }, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(m_window, &drop);
     QVERIFY(QTest::qWaitFor([&] { return opened.count() == 1; }, 20000));
@@ -226,18 +227,18 @@ void tst_kavoMainWindow::otherDropsAreRefused()
 
 void tst_kavoMainWindow::nodesAreSelectedByNameOrId()
 {
-    QVERIFY(m_window->select("Tyre"));
+    QVERIFY(m_window->session().select("Tyre"));
     const osg::NodePtr tyre = kavoScenegraph::getSelectedNode();
     QCOMPARE(kavoScenegraph::getNodeName(tyre), "Tyre");
-    QVERIFY(m_window->select("Wheel"));
-    QVERIFY(m_window->select(QString::number(tyre.getFieldContainerId())));
+    QVERIFY(m_window->session().select("Wheel"));
+    QVERIFY(m_window->session().select(QString::number(tyre.getFieldContainerId())));
     QVERIFY(kavoScenegraph::getSelectedNode() == kavoNodePtr(tyre));
-    QVERIFY(!m_window->select("Sail"));
+    QVERIFY(!m_window->session().select("Sail"));
 }
 
 void tst_kavoMainWindow::theParentOfTheSelectionCanBeSelected()
 {
-    m_window->select("Tyre");
+    m_window->session().select("Tyre");
     for (const char *name : { "Wheel", "Root", "Root" }) {
         action("Select Parent")->trigger();
         QCOMPARE(kavoScenegraph::getNodeName(kavoScenegraph::getSelectedNode()), name);
@@ -246,7 +247,7 @@ void tst_kavoMainWindow::theParentOfTheSelectionCanBeSelected()
 
 void tst_kavoMainWindow::theNameOfTheSelectionCanBeCopied()
 {
-    m_window->select("Tyre");
+    m_window->session().select("Tyre");
     action("Copy Name of Selected Node")->trigger();
     QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("Tyre"));
 }

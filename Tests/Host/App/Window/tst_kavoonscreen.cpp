@@ -1,4 +1,5 @@
 #include "Window/kavoMainWindow.h"
+#include "Window/kavoSession.h"
 #include <QKAVODockWindowManager.h>
 #include <kavoScenegraph.h>
 #include <kavoTestHost.h>
@@ -49,7 +50,7 @@ void tst_kavoOnScreen::aDockWindowClosesAndOpensThroughTheViewMenu()
 void tst_kavoOnScreen::theShortcutsOfTheEditMenuWork()
 {
     kavoScenegraph::setRoot(kavoTestScene::makeTruck());
-    m_window->select("Tyre");
+    m_window->session().select("Tyre");
     m_window->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(m_window));
     QTest::keyClick(m_window->windowHandle(), Qt::Key_Up, Qt::AltModifier);

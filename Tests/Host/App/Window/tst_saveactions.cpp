@@ -3,6 +3,7 @@
 #include "Files/kavoDocument.h"
 #include "Scene/kavoOpenScene.h"
 #include "Window/kavoMainWindow.h"
+#include "Window/kavoSession.h"
 #include <QKAVODockWindowManager.h>
 #include <kavoDialogUser.h>
 #include <kavoScenegraph.h>
@@ -84,8 +85,8 @@ void tst_saveactions::init()
     m_folder = std::make_unique<QTemporaryDir>();
     m_file = m_folder->filePath("ship.osg");
     writeScene(m_file, "Ship");
-    QSignalSpy opened(m_window, &kavoMainWindow::opened);
-    m_window->open({ m_file });
+    QSignalSpy opened(&m_window->session(), &kavoSession::opened);
+    m_window->session().open({ m_file });
     QVERIFY(opened.wait());
     m_window->show();
     m_window->activateWindow();
@@ -102,7 +103,7 @@ void tst_saveactions::edit()
 void tst_saveactions::drainChanges()
 {
     QCoreApplication::processEvents();
-    m_window->findChild<kavoOpenScene *>()->drainChanges();
+    m_window->session().scene().drainChanges();
 }
 
 void tst_saveactions::writeScene(const QString &file, const QByteArray &rootName) const
@@ -145,15 +146,15 @@ void tst_saveactions::theTitleMarksUnsavedChanges()
 // Views make pictures, volumes and states of it.
 void tst_saveactions::lookingAtAModelIsNoChange()
 {
-    QSignalSpy opened(m_window, &kavoMainWindow::opened);
-    m_window->open({ KAVO_TEST_MODELS "/glTF/BoxTextured-glTF/BoxTextured.gltf" });
+    QSignalSpy opened(&m_window->session(), &kavoSession::opened);
+    m_window->session().open({ KAVO_TEST_MODELS "/glTF/BoxTextured-glTF/BoxTextured.gltf" });
     QVERIFY(opened.wait(20000));
     for (const QString &key : m_window->docks().keys()) {
         m_window->docks().show(key);
         m_window->docks().window(key)->grab();
         drainChanges();
     }
-    QVERIFY(m_window->select("Geometry-mesh002Node"));
+    QVERIFY(m_window->session().select("Geometry-mesh002Node"));
     drainChanges();
     QVERIFY(!m_window->isWindowModified());
 }
@@ -169,13 +170,13 @@ void tst_saveactions::ctrlSSavesAnOpenedSceneFile()
 void tst_saveactions::ctrlSAsksForAnotherFileIfNotAllWasRead()
 {
     writeScene(m_file, "Ship Oar { } DEF Boat");
-    QSignalSpy opened(m_window, &kavoMainWindow::opened);
-    m_window->open({ m_file });
+    QSignalSpy opened(&m_window->session(), &kavoSession::opened);
+    m_window->session().open({ m_file });
     QVERIFY(opened.wait());
     const QByteArray before = saved();
     m_user->willChooseFile(m_folder->filePath("copy"));
     QTest::keyClick(m_window, Qt::Key_S, Qt::ControlModifier);
-    QCOMPARE(m_window->document().file(), m_folder->filePath("copy.osg"));
+    QCOMPARE(m_window->session().document().file(), m_folder->filePath("copy.osg"));
     QCOMPARE(saved(), before);
 }
 
@@ -184,7 +185,7 @@ void tst_saveactions::saveAsAsksForTheFileAndAddsTheSuffix()
     edit();
     m_user->willChooseFile(m_folder->filePath("copy"));
     QTest::keyClick(m_window, Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
-    QCOMPARE(m_window->document().file(), m_folder->filePath("copy.osg"));
+    QCOMPARE(m_window->session().document().file(), m_folder->filePath("copy.osg"));
     QVERIFY(QFile::exists(m_folder->filePath("copy.osg")));
     QVERIFY(saved().contains("DEF Ship"));
 }
@@ -193,13 +194,13 @@ void tst_saveactions::anotherSceneWaitsUntilTheSaveDialogIsGone()
 {
     const QString tank = m_folder->filePath("tank.osg");
     writeScene(tank, "Tank");
-    QSignalSpy opened(m_window, &kavoMainWindow::opened);
-    m_window->open({ tank });
+    QSignalSpy opened(&m_window->session(), &kavoSession::opened);
+    m_window->session().open({ tank });
     m_user->willChooseFile(m_file = m_folder->filePath("copy.osg"));
     QTest::keyClick(m_window, Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
     QVERIFY(saved().contains("Ship"));
     QVERIFY(opened.count() == 1 || opened.wait());
-    QCOMPARE(m_window->document().file(), tank);
+    QCOMPARE(m_window->session().document().file(), tank);
 }
 
 void tst_saveactions::quittingWithoutChangesAsksNothing()
@@ -249,8 +250,8 @@ void tst_saveactions::editsMadeWhileAnotherSceneLoadsAreAskedAbout()
 {
     QFETCH(int, button);
     const osg::NodePtr before = kavoScenegraph::getRoot();
-    QSignalSpy opened(m_window, &kavoMainWindow::opened);
-    QSignalSpy canceled(m_window, &kavoMainWindow::openCanceled);
+    QSignalSpy opened(&m_window->session(), &kavoSession::opened);
+    QSignalSpy canceled(&m_window->session(), &kavoSession::openCanceled);
     drop(m_file);
     osg::setName(before, "Boat");
     m_user->willPress(QMessageBox::StandardButton(button));
@@ -263,7 +264,7 @@ void tst_saveactions::editsMadeWhileAnotherSceneLoadsAreAskedAbout()
 void tst_saveactions::editsMadeAfterDiscardingAreAskedAbout()
 {
     edit();
-    QSignalSpy canceled(m_window, &kavoMainWindow::openCanceled);
+    QSignalSpy canceled(&m_window->session(), &kavoSession::openCanceled);
     m_user->willPress(QMessageBox::Discard);
     drop(m_file);
     osg::setName(kavoScenegraph::getRoot(), "Yacht");
