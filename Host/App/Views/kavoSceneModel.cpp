@@ -4,7 +4,6 @@
 #include "Scene/kavoNodeWalk.h"
 #include "Scene/kavoOpenScene.h"
 #include "Views/kavoCoreIcons.h"
-#include "Views/kavoListSetup.h"
 
 #include <algorithm>
 #include <iterator>
@@ -171,7 +170,9 @@ QVariant kavoSceneModel::data(const QModelIndex &index, int role) const
 
 QVariant kavoSceneModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    return kavoListSetup::title({ tr("Name"), tr("Core"), tr("ID") }, section, orientation, role);
+    const QStringList titles { tr("Name"), tr("Core"), tr("ID") };
+    const bool isShown = orientation == Qt::Horizontal && role == Qt::DisplayRole;
+    return isShown ? titles.value(section) : QVariant();
 }
 
 QString kavoSceneModel::text(const osg::NodePtr &node, int column) const

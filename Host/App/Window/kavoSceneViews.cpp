@@ -2,9 +2,8 @@
 
 #include "Scene/kavoOpenScene.h"
 #include "Viewport/kavoViewport.h"
-#include "Views/kavoCameraView.h"
-#include "Views/kavoLightView.h"
-#include "Views/kavoMaterialView.h"
+#include "Views/kavoListKinds.h"
+#include "Views/kavoListView.h"
 #include "Views/kavoSceneView.h"
 
 #include <QKAVODockWindowManager.h>
@@ -28,13 +27,13 @@ kavoSceneViews::kavoSceneViews(kavoOpenScene &scene, QWidget *parent)
     : QObject(parent)
     , m_viewport(kavoViewport::create(scene, parent))
     , m_scene(new kavoSceneView(scene, parent))
-    , m_materials(new kavoMaterialView(scene, parent))
-    , m_lights(new kavoLightView(scene, parent))
-    , m_cameras(new kavoCameraView(scene, parent))
+    , m_materials(new kavoListView(kavoListKinds::materials(scene), scene, parent))
+    , m_lights(new kavoListView(kavoListKinds::lights(scene), scene, parent))
+    , m_cameras(new kavoListView(kavoListKinds::cameras(), scene, parent))
 {
     connect(&scene, &kavoOpenScene::structureChanged, this, announceStructure);
     if (auto *viewport = qobject_cast<kavoViewport *>(m_viewport.data()))
-        connect(m_cameras, &kavoCameraView::activeCameraChanged, viewport,
+        connect(m_cameras, &kavoListView::rowActivated, viewport,
             &kavoViewport::lookThroughActiveCamera);
 }
 

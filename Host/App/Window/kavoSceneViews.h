@@ -6,9 +6,7 @@
 class QAction;
 class QKAVODockWindowManager;
 class QWidget;
-class kavoCameraView;
-class kavoLightView;
-class kavoMaterialView;
+class kavoListView;
 class kavoOpenScene;
 class kavoSceneView;
 
@@ -36,7 +34,7 @@ public:
 private:
     QPointer<QWidget> m_viewport;
     kavoSceneView *m_scene;
-    kavoMaterialView *m_materials;
-    kavoLightView *m_lights;
-    kavoCameraView *m_cameras;
+    kavoListView *m_materials;
+    kavoListView *m_lights;
+    kavoListView *m_cameras;
 };

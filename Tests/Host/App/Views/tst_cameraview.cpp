@@ -4,7 +4,8 @@
 #include "Scene/kavoContainers.h"
 #include "Scene/kavoOpenScene.h"
 #include "Scene/kavoSceneCameras.h"
-#include "Views/kavoCameraView.h"
+#include "Views/kavoListKinds.h"
+#include "Views/kavoListView.h"
 #include "Views/kavoNodeDeleter.h"
 #include <kavoDragFormats.h>
 #include <kavoTestHost.h>
@@ -23,7 +24,7 @@ private slots:
     void init()
     {
         m_scene = std::make_unique<kavoOpenScene>();
-        m_view = std::make_unique<kavoCameraView>(*m_scene);
+        m_view = std::make_unique<kavoListView>(kavoListKinds::cameras(), *m_scene);
         kavoTestLoad::open("Collada/cameras.dae");
         m_scene->drainChanges();
         m_view->show();
@@ -56,7 +57,7 @@ private slots:
 
     void enterActivatesACamera()
     {
-        QSignalSpy activated(m_view.get(), &kavoCameraView::activeCameraChanged);
+        QSignalSpy activated(m_view.get(), &kavoListView::rowActivated);
         m_view->setCurrentIndex(row(2));
         QTest::keyClick(m_view.get(), Qt::Key_Return);
         QCOMPARE(activated.count(), 1);
@@ -107,7 +108,7 @@ private:
     QModelIndex row(int row, int column = 0) const { return m_view->model()->index(row, column); }
 
     std::unique_ptr<kavoOpenScene> m_scene;
-    std::unique_ptr<kavoCameraView> m_view;
+    std::unique_ptr<kavoListView> m_view;
 };
 
 KAVO_TEST_MAIN(tst_cameraview)

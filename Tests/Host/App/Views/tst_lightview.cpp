@@ -3,7 +3,8 @@
 
 #include "Scene/kavoContainers.h"
 #include "Scene/kavoOpenScene.h"
-#include "Views/kavoLightView.h"
+#include "Views/kavoListKinds.h"
+#include "Views/kavoListView.h"
 #include <kavoDragFormats.h>
 #include <kavoScenegraph.h>
 #include <kavoTestHost.h>
@@ -30,7 +31,7 @@ private slots:
         m_lampNode = makeNode("lamp", osg::PointLight::create(), root);
         m_sunNode = makeNode("sun", osg::DirectionalLight::create(), m_lampNode);
         m_scene = std::make_unique<kavoOpenScene>();
-        m_view = std::make_unique<kavoLightView>(*m_scene);
+        m_view = std::make_unique<kavoListView>(kavoListKinds::lights(*m_scene), *m_scene);
         m_scene->drainChanges();
         m_view->resize(300, 200);
         m_view->show();
@@ -143,7 +144,7 @@ private:
 
     osg::NodePtr m_lampNode, m_sunNode;
     std::unique_ptr<kavoOpenScene> m_scene;
-    std::unique_ptr<kavoLightView> m_view;
+    std::unique_ptr<kavoListView> m_view;
 };
 
 KAVO_TEST_MAIN(tst_lightview)

@@ -3,9 +3,10 @@
 
 #include "Scene/kavoContainers.h"
 #include "Scene/kavoOpenScene.h"
-#include "Views/kavoMaterialModel.h"
+#include "Views/kavoListKinds.h"
+#include "Views/kavoListView.h"
+#include "Views/kavoMaterialPictures.h"
 #include "Views/kavoMaterialSwatch.h"
-#include "Views/kavoMaterialView.h"
 #include <kavoCallNames.h>
 #include <kavoController.h>
 #include <kavoDragFormats.h>
@@ -63,7 +64,7 @@ private slots:
         m_glassNode = makeLibraryNode("glass", makeMaterial());
         m_emptyNode = makeLibraryNode("empty", osg::NullFC);
         m_scene = std::make_unique<kavoOpenScene>();
-        m_view = std::make_unique<kavoMaterialView>(*m_scene);
+        m_view = std::make_unique<kavoListView>(kavoListKinds::materials(*m_scene), *m_scene);
         m_scene->drainChanges();
     }
 
@@ -232,7 +233,7 @@ private:
     QImage swatch(int of) const
     {
         const auto icon = materialRow(of).data(Qt::DecorationRole).value<QIcon>();
-        return icon.pixmap(kavoMaterialModel::swatchSize).toImage();
+        return icon.pixmap(kavoMaterialPictures::size).toImage();
     }
 
     static QColor center(const QImage &image)
@@ -268,7 +269,7 @@ private:
     osg::ChunkMaterialPtr m_paint;
     osg::NodePtr m_paintNode, m_glassNode, m_emptyNode;
     std::unique_ptr<kavoOpenScene> m_scene;
-    std::unique_ptr<kavoMaterialView> m_view;
+    std::unique_ptr<kavoListView> m_view;
 };
 
 KAVO_TEST_MAIN(tst_materialview)
