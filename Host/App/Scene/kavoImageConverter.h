@@ -5,10 +5,10 @@
 #include <QImage>
 
 /// From OpenSG images to Qt's.
-class kavoImageConverter
-{
-public:
-    /// The first picture of the image, top row first; null for a null or an empty image and for
-    /// one whose channels are no bytes.
-    static QImage toImage(const osg::ImagePtr &image);
-};
+namespace kavoImageConverter {
+
+/// The first picture of the image, top row first; null for a null or an empty image and for
+/// one whose channels are no bytes.
+QImage toImage(const osg::ImagePtr &image);
+
+} // namespace kavoImageConverter

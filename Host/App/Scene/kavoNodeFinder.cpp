@@ -17,7 +17,7 @@ template <class Predicate> osg::NodePtr findFirst(const osg::NodePtr &root, Pred
     return found;
 }
 
-}
+} // namespace
 
 osg::NodePtr kavoNodeFinder::find(const osg::NodePtr &root, const QString &nameOrId)
 {

@@ -9,21 +9,21 @@
 /// The cameras of the open scene. No node holds a camera, so the host keeps them here, referenced.
 /// A camera lives as long as its beacon: those whose node was deleted are no longer listed.
 /// GUI thread.
-class kavoSceneCameras
-{
-public:
-    /// Replaces all cameras; the first one becomes active.
-    static void set(const std::vector<osg::RefPtr<osg::CameraPtr>> &cameras);
+namespace kavoSceneCameras {
 
-    /// Container ids of the beacons, in the order of the cameras.
-    static std::vector<osg::UInt32> nodeIds();
+/// Replaces all cameras; the first one becomes active.
+void set(const std::vector<osg::RefPtr<osg::CameraPtr>> &cameras);
 
-    /// The camera at a node, null if there is none.
-    static osg::CameraPtr at(osg::UInt32 nodeId);
+/// Container ids of the beacons, in the order of the cameras.
+std::vector<osg::UInt32> nodeIds();
 
-    /// The node of the camera that the viewport looks through; 0 if there is none.
-    static osg::UInt32 activeNodeId();
+/// The camera at a node, null if there is none.
+osg::CameraPtr at(osg::UInt32 nodeId);
 
-    /// Activates the camera at the node; nothing happens if there is none.
-    static void activate(osg::UInt32 nodeId);
-};
+/// The node of the camera that the viewport looks through; 0 if there is none.
+osg::UInt32 activeNodeId();
+
+/// Activates the camera at the node; nothing happens if there is none.
+void activate(osg::UInt32 nodeId);
+
+} // namespace kavoSceneCameras

@@ -15,12 +15,12 @@ struct kavoRenderItem
 };
 
 /// The geometries of a scene, flat.
-class kavoRenderItems
-{
-public:
-    /// All geometries at and below a node that its traversal masks let show, in the order of a
-    /// walk. A material group's material counts for all below it.
-    static std::vector<kavoRenderItem> of(const osg::NodePtr &root);
+namespace kavoRenderItems {
 
-    static QMatrix4x4 toMatrix(const osg::Matrix &matrix);
-};
+/// All geometries at and below a node that its traversal masks let show, in the order of a
+/// walk. A material group's material counts for all below it.
+std::vector<kavoRenderItem> of(const osg::NodePtr &root);
+
+QMatrix4x4 toMatrix(const osg::Matrix &matrix);
+
+} // namespace kavoRenderItems

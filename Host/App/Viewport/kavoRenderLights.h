@@ -15,13 +15,13 @@ struct kavoRenderLight
 
 /// The lights that are on. A file's lights are meant for all of its scene, so the viewport lets
 /// each shine everywhere and not only below its node.
-class kavoRenderLights
-{
-public:
-    /// What the shader has room for.
-    static constexpr int maximum = 4;
+namespace kavoRenderLights {
 
-    /// At most `maximum` lights; a lamp at the eye where none is on.
-    static std::vector<kavoRenderLight> of(
-        const kavoOpenScene::Entries &lights, const QVector3D &eye);
-};
+/// What the shader has room for.
+constexpr int maximum = 4;
+
+/// At most `maximum` lights; a lamp at the eye where none is on.
+std::vector<kavoRenderLight> of(
+    const kavoOpenScene::Entries &lights, const QVector3D &eye);
+
+} // namespace kavoRenderLights

@@ -5,9 +5,9 @@
 #include <QIcon>
 
 /// Icons that tell nodes apart by the kind of their core.
-class kavoCoreIcons
-{
-public:
-    /// The icon for nodes with that core, which may be null.
-    static QIcon icon(const osg::NodeCorePtr &core);
-};
+namespace kavoCoreIcons {
+
+/// The icon for nodes with that core, which may be null.
+QIcon icon(const osg::NodeCorePtr &core);
+
+} // namespace kavoCoreIcons

@@ -14,9 +14,8 @@ template <class Beaconed> void forgetBeacon(const Beaconed &container, const osg
     using Class = typename Beaconed::StoredObjectType;
     if (container == osg::NullFC || !kavoContainers::isWithin(container->getBeacon(), deleted))
         return;
-    osg::beginEditCP(container, Class::BeaconFieldMask);
+    const osg::CPEditor edit(container, Class::BeaconFieldMask);
     container->setBeacon(osg::NullFC);
-    osg::endEditCP(container, Class::BeaconFieldMask);
 }
 
 } // namespace
@@ -37,7 +36,6 @@ void kavoNodeDeleter::deleteNode(osg::UInt32 id, const kavoOpenScene &scene)
     for (const osg::UInt32 camera : kavoSceneCameras::nodeIds())
         forgetBeacon(kavoSceneCameras::at(camera), node);
     const osg::NodePtr parent = node->getParent();
-    osg::beginEditCP(parent, osg::Node::ChildrenFieldMask);
+    const osg::CPEditor edit(parent, osg::Node::ChildrenFieldMask);
     parent->subChild(node);
-    osg::endEditCP(parent, osg::Node::ChildrenFieldMask);
 }

@@ -7,6 +7,8 @@
 #include <OpenSG/OSGFieldContainer.h>
 #include <OpenSG/OSGFieldContainerFactory.h>
 
+#include <QCoreApplication>
+
 #include <string>
 
 void kavoFieldPrinter::print(const QString &address)
@@ -17,7 +19,8 @@ void kavoFieldPrinter::print(const QString &address)
     const osg::Field *field
         = container != osg::NullFC ? container->getField(name.c_str()) : nullptr;
     if (!field)
-        throw kavoTaskError(tr("There is no field '%1'").arg(address));
+        throw kavoTaskError(
+            QCoreApplication::translate("kavoFieldPrinter", "There is no field '%1'").arg(address));
     std::string text;
     field->getValueByStr(text);
     kavoStandardOutput::write(QByteArray::fromStdString(text + '\n'));
