@@ -84,7 +84,7 @@ int runWindow(const kavoCommandLine &commandLine)
     return jobs.exitCode() == Success ? printed : jobs.exitCode();
 }
 
-}
+} // namespace
 
 int main(int argc, char **argv)
 {

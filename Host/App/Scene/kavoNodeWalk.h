@@ -26,4 +26,4 @@ template <class Visit> bool forEachNode(const osg::NodePtr &root, Visit visit)
     return true;
 }
 
-}
+} // namespace kavoNodeWalk

@@ -38,7 +38,7 @@ bool isSaved(const osg::FieldDescription &field, const osg::FieldContainerPtr &c
     return !field.isInternal() && (!isVolume || node->getVolume(false).isStatic());
 }
 
-}
+} // namespace
 
 void kavoSceneEdits::reset()
 {

@@ -14,7 +14,7 @@ const QString screenshotOption = QStringLiteral("screenshot");
 const QString printWindowOption = QStringLiteral("print-window");
 const QString printFieldOption = QStringLiteral("print-field");
 
-}
+} // namespace
 
 QList<QCommandLineOption> kavoCommandLine::options()
 {

@@ -30,7 +30,7 @@ void settle()
     for (int round = 0; round < 100 && loop.processEvents(); ++round) { }
 }
 
-}
+} // namespace
 
 kavoJobs::kavoJobs(const kavoCommandLine &commandLine, kavoSession &session,
     QKAVODockWindowManager &docks, QWidget &window)

@@ -44,7 +44,7 @@ QStringList localFiles(const QMimeData *data)
     return files;
 }
 
-}
+} // namespace
 
 kavoMainWindow::kavoMainWindow(QWidget *parent)
     : QMainWindow(parent)

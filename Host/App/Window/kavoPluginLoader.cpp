@@ -20,7 +20,7 @@ bool skip(const QString &file, const QString &reason)
     return false;
 }
 
-}
+} // namespace
 
 QString kavoPluginLoader::defaultFolder()
 {

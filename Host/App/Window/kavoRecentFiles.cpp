@@ -9,7 +9,7 @@ namespace {
 constexpr int maxFiles = 10;
 const QString settingsKey = QStringLiteral("recentFiles");
 
-}
+} // namespace
 
 kavoRecentFiles::kavoRecentFiles(QWidget *parent)
     : QMenu(tr("Open &Recent"), parent)

@@ -17,7 +17,7 @@ struct WaitCursor
     ~WaitCursor() { QApplication::restoreOverrideCursor(); }
 };
 
-}
+} // namespace
 
 kavoSaveActions::kavoSaveActions(kavoDocument &document, QWidget *window, QMenu *fileMenu)
     : QObject(window)

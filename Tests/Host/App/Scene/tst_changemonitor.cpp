@@ -10,7 +10,7 @@
 
 #include <QtTest>
 
-class tst_changemonitor : public QObject
+class tst_ChangeMonitor : public QObject
 {
     Q_OBJECT
 
@@ -119,5 +119,5 @@ private:
     QVector<kavoChanges> m_rounds;
 };
 
-KAVO_TEST_MAIN(tst_changemonitor)
+KAVO_TEST_MAIN(tst_ChangeMonitor)
 #include "tst_changemonitor.moc"

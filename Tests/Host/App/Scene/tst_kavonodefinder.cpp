@@ -4,7 +4,7 @@
 
 #include <QTest>
 
-class tst_kavoNodeFinder : public QObject
+class tst_NodeFinder : public QObject
 {
     Q_OBJECT
 
@@ -18,14 +18,14 @@ private slots:
     void anEmptySceneHasNoNodes();
 };
 
-void tst_kavoNodeFinder::aNodeIsFoundByName()
+void tst_NodeFinder::aNodeIsFoundByName()
 {
     const kavoNodePtr truck = kavoTestScene::makeTruck();
     QVERIFY(kavoNodeFinder::find(truck, "Tyre") == truck->getChild(0)->getChild(0));
     QVERIFY(kavoNodeFinder::find(truck, "Root") == osg::NodePtr(truck));
 }
 
-void tst_kavoNodeFinder::ofTwoNodesOfANameTheFirstIsFound()
+void tst_NodeFinder::ofTwoNodesOfANameTheFirstIsFound()
 {
     const kavoNodePtr root(kavoTestScene::makeGroup("Root"));
     const osg::NodePtr branch = kavoTestScene::makeGroup("Branch", root);
@@ -34,14 +34,14 @@ void tst_kavoNodeFinder::ofTwoNodesOfANameTheFirstIsFound()
     QVERIFY(kavoNodeFinder::find(root, "Twin") == first);
 }
 
-void tst_kavoNodeFinder::aNodeIsFoundById()
+void tst_NodeFinder::aNodeIsFoundById()
 {
     const kavoNodePtr truck = kavoTestScene::makeTruck();
     const osg::NodePtr wheel = truck->getChild(0);
     QVERIFY(kavoNodeFinder::find(truck, QString::number(wheel.getFieldContainerId())) == wheel);
 }
 
-void tst_kavoNodeFinder::aNameThatLooksLikeAnIdWins()
+void tst_NodeFinder::aNameThatLooksLikeAnIdWins()
 {
     const kavoNodePtr root(kavoTestScene::makeGroup("Root"));
     const QString id = QString::number(osg::NodePtr(root).getFieldContainerId());
@@ -49,7 +49,7 @@ void tst_kavoNodeFinder::aNameThatLooksLikeAnIdWins()
     QVERIFY(kavoNodeFinder::find(root, id) == named);
 }
 
-void tst_kavoNodeFinder::anIdOutsideTheSceneIsNotFound()
+void tst_NodeFinder::anIdOutsideTheSceneIsNotFound()
 {
     const kavoNodePtr root(kavoTestScene::makeGroup("Root")), other(kavoTestScene::makeGroup("x"));
     const osg::UInt32 core = root->getCore().getFieldContainerId();
@@ -58,15 +58,15 @@ void tst_kavoNodeFinder::anIdOutsideTheSceneIsNotFound()
     QVERIFY(kavoNodeFinder::find(root, QString::number(outside)) == osg::NullFC);
 }
 
-void tst_kavoNodeFinder::anUnknownNameIsNotFound()
+void tst_NodeFinder::anUnknownNameIsNotFound()
 {
     QVERIFY(kavoNodeFinder::find(kavoTestScene::makeTruck(), "Sail") == osg::NullFC);
 }
 
-void tst_kavoNodeFinder::anEmptySceneHasNoNodes()
+void tst_NodeFinder::anEmptySceneHasNoNodes()
 {
     QVERIFY(kavoNodeFinder::find(osg::NullFC, "Root") == osg::NullFC);
 }
 
-KAVO_TEST_MAIN(tst_kavoNodeFinder)
+KAVO_TEST_MAIN(tst_NodeFinder)
 #include "tst_kavonodefinder.moc"

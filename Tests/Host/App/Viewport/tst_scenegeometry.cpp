@@ -44,7 +44,7 @@ osg::TransformPtr makeShift(float z)
 
 } // namespace
 
-class tst_scenegeometry : public QObject
+class tst_SceneGeometry : public QObject
 {
     Q_OBJECT
 
@@ -247,5 +247,5 @@ private slots:
     }
 };
 
-KAVO_TEST_MAIN(tst_scenegeometry)
+KAVO_TEST_MAIN(tst_SceneGeometry)
 #include "tst_scenegeometry.moc"

@@ -27,7 +27,7 @@ int difference(const QImage &one, const QImage &other)
 
 } // namespace
 
-class tst_viewport : public QObject
+class tst_Viewport : public QObject
 {
     Q_OBJECT
 
@@ -154,5 +154,5 @@ private:
     QImage m_empty;
 };
 
-KAVO_TEST_MAIN(tst_viewport)
+KAVO_TEST_MAIN(tst_Viewport)
 #include "tst_viewport.moc"

@@ -23,4 +23,4 @@ inline QVector<qint32> ids(const QAbstractItemView &view, const QModelIndexList 
     return ids;
 }
 
-}
+} // namespace kavoDragPayload

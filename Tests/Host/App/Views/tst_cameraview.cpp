@@ -16,7 +16,7 @@
 #include <QSignalSpy>
 #include <QtTest>
 
-class tst_cameraview : public QObject
+class tst_CameraView : public QObject
 {
     Q_OBJECT
 
@@ -111,5 +111,5 @@ private:
     std::unique_ptr<kavoListView> m_view;
 };
 
-KAVO_TEST_MAIN(tst_cameraview)
+KAVO_TEST_MAIN(tst_CameraView)
 #include "tst_cameraview.moc"

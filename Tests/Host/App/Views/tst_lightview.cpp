@@ -19,7 +19,7 @@
 
 using namespace kavoTestScene;
 
-class tst_lightview : public QObject
+class tst_LightView : public QObject
 {
     Q_OBJECT
 
@@ -147,5 +147,5 @@ private:
     std::unique_ptr<kavoListView> m_view;
 };
 
-KAVO_TEST_MAIN(tst_lightview)
+KAVO_TEST_MAIN(tst_LightView)
 #include "tst_lightview.moc"

@@ -50,7 +50,7 @@ osg::Color4f color(float red, float green, float blue)
 
 } // namespace
 
-class tst_materialview : public QObject
+class tst_MaterialView : public QObject
 {
     Q_OBJECT
 
@@ -272,5 +272,5 @@ private:
     std::unique_ptr<kavoListView> m_view;
 };
 
-KAVO_TEST_MAIN(tst_materialview)
+KAVO_TEST_MAIN(tst_MaterialView)
 #include "tst_materialview.moc"

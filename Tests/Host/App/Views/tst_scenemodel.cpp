@@ -17,7 +17,7 @@
 
 using namespace kavoTestScene;
 
-class tst_scenemodel : public QObject
+class tst_SceneModel : public QObject
 {
     Q_OBJECT
 
@@ -249,5 +249,5 @@ private:
     std::unique_ptr<QAbstractItemModelTester> m_tester;
 };
 
-KAVO_TEST_MAIN(tst_scenemodel)
+KAVO_TEST_MAIN(tst_SceneModel)
 #include "tst_scenemodel.moc"

@@ -19,7 +19,7 @@
 
 using namespace kavoTestScene;
 
-class tst_sceneview : public QObject
+class tst_SceneView : public QObject
 {
     Q_OBJECT
 
@@ -245,5 +245,5 @@ private:
     std::unique_ptr<kavoSceneView> m_view;
 };
 
-KAVO_TEST_MAIN(tst_sceneview)
+KAVO_TEST_MAIN(tst_SceneView)
 #include "tst_sceneview.moc"

@@ -5,7 +5,7 @@
 #include <QTest>
 
 // The application as users and scripts meet it: a process with arguments, output and exit code.
-class tst_kavo : public QObject
+class tst_Kavo : public QObject
 {
     Q_OBJECT
 
@@ -57,9 +57,9 @@ QString firstLine(const QString &text)
     return text.section('\n', 0, 0);
 }
 
-}
+} // namespace
 
-tst_kavo::Result tst_kavo::run(const QStringList &arguments, const QStringList &unsetVariables,
+tst_Kavo::Result tst_Kavo::run(const QStringList &arguments, const QStringList &unsetVariables,
     const QString &outputFile) const
 {
     QProcess process;
@@ -77,21 +77,21 @@ tst_kavo::Result tst_kavo::run(const QStringList &arguments, const QStringList &
         process.readAllStandardError() };
 }
 
-void tst_kavo::helpIsPrinted()
+void tst_Kavo::helpIsPrinted()
 {
     const Result result = run({ "--help" });
     QCOMPARE(result.exitCode, 0);
     QVERIFY(result.output.contains("--print-window <KEY>"));
 }
 
-void tst_kavo::theVersionIsPrinted()
+void tst_Kavo::theVersionIsPrinted()
 {
     const Result result = run({ "--version" });
     QCOMPARE(result.exitCode, 0);
     QCOMPARE(result.output, QStringLiteral("kavo " KAVO_VERSION "\n"));
 }
 
-void tst_kavo::wrongUsageExitsWithTwo()
+void tst_Kavo::wrongUsageExitsWithTwo()
 {
     const Result result = run({ "--colour" });
     QCOMPARE(result.exitCode, 2);
@@ -99,7 +99,7 @@ void tst_kavo::wrongUsageExitsWithTwo()
     QCOMPARE(run({ "--plugins", "/no/such/folder" }).exitCode, 2);
 }
 
-void tst_kavo::aFailedJobExitsWithOneAndSaysWhy_data()
+void tst_Kavo::aFailedJobExitsWithOneAndSaysWhy_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("reason");
@@ -120,7 +120,7 @@ void tst_kavo::aFailedJobExitsWithOneAndSaysWhy_data()
         << QStringList { "--save", "a.osg" } << "There is no scene to save";
 }
 
-void tst_kavo::aFailedJobExitsWithOneAndSaysWhy()
+void tst_Kavo::aFailedJobExitsWithOneAndSaysWhy()
 {
     QFETCH(QStringList, arguments);
     QFETCH(QString, reason);
@@ -129,7 +129,7 @@ void tst_kavo::aFailedJobExitsWithOneAndSaysWhy()
     QVERIFY2(result.errors.contains(reason), qPrintable(result.errors));
 }
 
-void tst_kavo::aFieldTypeThatThrowsFailsTheJob_data()
+void tst_Kavo::aFieldTypeThatThrowsFailsTheJob_data()
 {
     QTest::addColumn<QByteArray>("mark");
     QTest::addColumn<QString>("reason");
@@ -140,7 +140,7 @@ void tst_kavo::aFieldTypeThatThrowsFailsTheJob_data()
         << QByteArray("ThrowingMark { text \"1 when written\" }") << "kavo: unknown exception\n";
 }
 
-void tst_kavo::aFieldTypeThatThrowsFailsTheJob()
+void tst_Kavo::aFieldTypeThatThrowsFailsTheJob()
 {
     QFETCH(QByteArray, mark);
     QFETCH(QString, reason);
@@ -153,7 +153,7 @@ void tst_kavo::aFieldTypeThatThrowsFailsTheJob()
     QVERIFY2(result.errors.contains(reason), qPrintable(result.errors));
 }
 
-void tst_kavo::aJobThatIsNotDoneExitsWithOne()
+void tst_Kavo::aJobThatIsNotDoneExitsWithOne()
 {
     const QString picture = m_folder.filePath("never.png");
     const Result result
@@ -163,7 +163,7 @@ void tst_kavo::aJobThatIsNotDoneExitsWithOne()
     QVERIFY(!QFile::exists(picture));
 }
 
-void tst_kavo::aFullDiskFailsTheJob_data()
+void tst_Kavo::aFullDiskFailsTheJob_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::newRow("window") << QStringList { truck, "--print-window", "Scene" };
@@ -173,7 +173,7 @@ void tst_kavo::aFullDiskFailsTheJob_data()
     QTest::newRow("help") << QStringList { "--help" };
 }
 
-void tst_kavo::aFullDiskFailsTheJob()
+void tst_Kavo::aFullDiskFailsTheJob()
 {
     QFETCH(QStringList, arguments);
     const Result result = run(arguments, {}, "/dev/full");
@@ -181,14 +181,14 @@ void tst_kavo::aFullDiskFailsTheJob()
     QVERIFY2(result.errors.contains("No space left on device"), qPrintable(result.errors));
 }
 
-void tst_kavo::theSceneWindowIsPrinted()
+void tst_Kavo::theSceneWindowIsPrinted()
 {
     const Result result = run({ truck, "--print-window", "Scene" });
     QCOMPARE(result.exitCode, 0);
     QVERIFY2(result.output.contains(selected + "\tGeometry\t"), qPrintable(result.output));
 }
 
-void tst_kavo::theNodeEditorIsPrintedForTheSelectedNode()
+void tst_Kavo::theNodeEditorIsPrintedForTheSelectedNode()
 {
     const Result result = run({ truck, "--select", selected, "--print-window", "Node Editor" });
     QCOMPARE(result.exitCode, 0);
@@ -200,7 +200,7 @@ void tst_kavo::theNodeEditorIsPrintedForTheSelectedNode()
     QVERIFY(result.output.contains("\n       MaterialChunk ("));
 }
 
-void tst_kavo::nodesOfEveryFormatAreShownInTheNodeEditor_data()
+void tst_Kavo::nodesOfEveryFormatAreShownInTheNodeEditor_data()
 {
     QTest::addColumn<QString>("file");
     QTest::addColumn<QString>("node");
@@ -228,7 +228,7 @@ void tst_kavo::nodesOfEveryFormatAreShownInTheNodeEditor_data()
             + nodeRows + QStringList { R"(  core Transform \(\d+\)\t)", R"(    matrix\t.+)" };
 }
 
-void tst_kavo::nodesOfEveryFormatAreShownInTheNodeEditor()
+void tst_Kavo::nodesOfEveryFormatAreShownInTheNodeEditor()
 {
     QFETCH(QString, file);
     QFETCH(QString, node);
@@ -245,7 +245,7 @@ void tst_kavo::nodesOfEveryFormatAreShownInTheNodeEditor()
     }
 }
 
-void tst_kavo::aNodeCanBeSelectedByItsId()
+void tst_Kavo::aNodeCanBeSelectedByItsId()
 {
     const Result byName = run({ truck, "--select", selected, "--print-window", "Node Editor" });
     const QString id = firstLine(byName.output).section('(', 1).section(')', 0, 0);
@@ -253,7 +253,7 @@ void tst_kavo::aNodeCanBeSelectedByItsId()
     QCOMPARE(byId.output, byName.output);
 }
 
-void tst_kavo::aScreenshotIsWritten()
+void tst_Kavo::aScreenshotIsWritten()
 {
     const QString file = m_folder.filePath("picture.png");
     QCOMPARE(run({ truck, "--screenshot", file }).exitCode, 0);
@@ -261,7 +261,7 @@ void tst_kavo::aScreenshotIsWritten()
     QVERIFY(picture.width() >= 800 && picture.height() >= 600);
 }
 
-void tst_kavo::theSceneIsSavedAndOpensAgain()
+void tst_Kavo::theSceneIsSavedAndOpensAgain()
 {
     const QString box = QStringLiteral(KAVO_TEST_MODELS "/glTF/BoxTextured-glTF/BoxTextured.gltf");
     const QString file = m_folder.filePath("box.osg");
@@ -273,7 +273,7 @@ void tst_kavo::theSceneIsSavedAndOpensAgain()
     QCOMPARE(run({ file, "--print-window", "Scene" }).output.replace(id, "\n"), scene);
 }
 
-void tst_kavo::aSceneReadInPartIsSavedElsewhereOnly()
+void tst_Kavo::aSceneReadInPartIsSavedElsewhereOnly()
 {
     const QString file = m_folder.filePath("part.osg");
     const QByteArray text = "Node { attachments [ VendorNotes { text \"years of work\" } ] }";
@@ -288,7 +288,7 @@ void tst_kavo::aSceneReadInPartIsSavedElsewhereOnly()
     QCOMPARE(run({ file, "--save", m_folder.filePath("copy.osg") }).exitCode, 0);
 }
 
-void tst_kavo::severalScenesOpenAsOne()
+void tst_Kavo::severalScenesOpenAsOne()
 {
     const Result one = run({ truck, "--print-window", "Scene" });
     const Result two = run({ truck, truck, "--print-window", "Scene" });
@@ -296,7 +296,7 @@ void tst_kavo::severalScenesOpenAsOne()
     QCOMPARE(two.output.count(selected), 2 * one.output.count(selected));
 }
 
-void tst_kavo::badPluginsAreReportedAndSkipped()
+void tst_Kavo::badPluginsAreReportedAndSkipped()
 {
     const Result result = run({ "--plugins", KAVO_TEST_PLUGIN_DIR, "--print-window", "Scene" });
     QCOMPARE(result.exitCode, 0);
@@ -305,7 +305,7 @@ void tst_kavo::badPluginsAreReportedAndSkipped()
     QVERIFY(result.errors.contains("libWithoutEntryPlugin.so' skipped"));
 }
 
-void tst_kavo::jobsNeedNoDisplay()
+void tst_Kavo::jobsNeedNoDisplay()
 {
     const Result result
         = run({ "--print-window", "Scene" }, { "QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY" });
@@ -313,14 +313,14 @@ void tst_kavo::jobsNeedNoDisplay()
     QVERIFY(result.errors.contains("no display"));
 }
 
-void tst_kavo::aWindowWithoutADisplayIsRefused_data()
+void tst_Kavo::aWindowWithoutADisplayIsRefused_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::newRow("alone") << QStringList {};
     QTest::newRow("with options of Qt") << QStringList { "-style", "fusion", truck };
 }
 
-void tst_kavo::aWindowWithoutADisplayIsRefused()
+void tst_Kavo::aWindowWithoutADisplayIsRefused()
 {
     QFETCH(QStringList, arguments);
     const Result result = run(arguments, { "QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY" });
@@ -328,12 +328,12 @@ void tst_kavo::aWindowWithoutADisplayIsRefused()
     QVERIFY(result.errors.contains("no display"));
 }
 
-void tst_kavo::modulesLeaveInOrderAtTheEnd()
+void tst_Kavo::modulesLeaveInOrderAtTheEnd()
 {
     const Result result = run({ truck, "--select", selected, "--print-window", "Node Editor" });
     QCOMPARE(result.exitCode, 0);
     QVERIFY(result.output.endsWith("kavoNodeEditor::~kavoNodeEditor\n"));
 }
 
-QTEST_GUILESS_MAIN(tst_kavo)
+QTEST_GUILESS_MAIN(tst_Kavo)
 #include "tst_kavo.moc"

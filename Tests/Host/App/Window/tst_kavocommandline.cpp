@@ -2,7 +2,7 @@
 
 #include <QTest>
 
-class tst_kavoCommandLine : public QObject
+class tst_CommandLine : public QObject
 {
     Q_OBJECT
 
@@ -23,7 +23,7 @@ static QStringList arguments(const QStringList &rest)
     return QStringList { "kavo" } + rest;
 }
 
-void tst_kavoCommandLine::nothingAsksForNothing()
+void tst_CommandLine::nothingAsksForNothing()
 {
     const kavoCommandLine commandLine(arguments({}));
     QVERIFY(commandLine.error().isEmpty());
@@ -33,7 +33,7 @@ void tst_kavoCommandLine::nothingAsksForNothing()
     QVERIFY(commandLine.nodeToSelect().isEmpty());
 }
 
-void tst_kavoCommandLine::everyOptionIsRead()
+void tst_CommandLine::everyOptionIsRead()
 {
     const kavoCommandLine commandLine(arguments({ "a.gltf", "--select", "Wheel", "--plugins", ".",
         "--screenshot", "s.png", "--print-window", "Node Editor", "--save", "s.osg" }));
@@ -46,7 +46,7 @@ void tst_kavoCommandLine::everyOptionIsRead()
     QCOMPARE(commandLine.windowToPrint(), QStringLiteral("Node Editor"));
 }
 
-void tst_kavoCommandLine::scenesAndFoldersMayBeSeveral()
+void tst_CommandLine::scenesAndFoldersMayBeSeveral()
 {
     const kavoCommandLine commandLine(
         arguments({ "--plugins", ".", "a.gltf", "--plugins", "..", "b.fbx" }));
@@ -54,7 +54,7 @@ void tst_kavoCommandLine::scenesAndFoldersMayBeSeveral()
     QCOMPARE(commandLine.pluginFolders(), (QStringList { ".", ".." }));
 }
 
-void tst_kavoCommandLine::aPictureOrAPrintedWindowIsAJob()
+void tst_CommandLine::aPictureOrAPrintedWindowIsAJob()
 {
     QVERIFY(kavoCommandLine(arguments({ "--screenshot", "s.png" })).isJob());
     QVERIFY(kavoCommandLine(arguments({ "--save", "s.osg" })).isJob());
@@ -62,7 +62,7 @@ void tst_kavoCommandLine::aPictureOrAPrintedWindowIsAJob()
     QVERIFY(!kavoCommandLine(arguments({ "a.gltf", "--select", "Wheel" })).isJob());
 }
 
-void tst_kavoCommandLine::wrongUsageIsExplained_data()
+void tst_CommandLine::wrongUsageIsExplained_data()
 {
     QTest::addColumn<QStringList>("rest");
     QTest::newRow("unknown option") << QStringList { "--colour" };
@@ -71,13 +71,13 @@ void tst_kavoCommandLine::wrongUsageIsExplained_data()
     QTest::newRow("empty among others") << QStringList { "--plugins", ".", "--plugins", "" };
 }
 
-void tst_kavoCommandLine::wrongUsageIsExplained()
+void tst_CommandLine::wrongUsageIsExplained()
 {
     QFETCH(QStringList, rest);
     QVERIFY(!kavoCommandLine(arguments(rest)).error().isEmpty());
 }
 
-void tst_kavoCommandLine::helpNamesEveryOption_data()
+void tst_CommandLine::helpNamesEveryOption_data()
 {
     QTest::addColumn<QString>("option");
     for (const char *option :
@@ -85,7 +85,7 @@ void tst_kavoCommandLine::helpNamesEveryOption_data()
         QTest::newRow(option) << QString(option);
 }
 
-void tst_kavoCommandLine::helpNamesEveryOption()
+void tst_CommandLine::helpNamesEveryOption()
 {
     QFETCH(QString, option);
     const kavoCommandLine commandLine(arguments({ "--help" }));
@@ -93,12 +93,12 @@ void tst_kavoCommandLine::helpNamesEveryOption()
     QVERIFY(commandLine.helpText().contains(option));
 }
 
-void tst_kavoCommandLine::helpOffersNothingThatIsNotUnderstood()
+void tst_CommandLine::helpOffersNothingThatIsNotUnderstood()
 {
     QVERIFY(!kavoCommandLine(arguments({})).helpText().contains("--help-all"));
     QVERIFY(!kavoCommandLine(arguments({ "--help-all" })).error().isEmpty());
     QVERIFY(kavoCommandLine(arguments({ "-h" })).wantsHelp());
 }
 
-QTEST_GUILESS_MAIN(tst_kavoCommandLine)
+QTEST_GUILESS_MAIN(tst_CommandLine)
 #include "tst_kavocommandline.moc"

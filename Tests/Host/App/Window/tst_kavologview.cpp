@@ -8,7 +8,7 @@
 
 #include <thread>
 
-class tst_kavoLogView : public QObject
+class tst_LogView : public QObject
 {
     Q_OBJECT
 
@@ -25,28 +25,28 @@ static QStringList lines(const QWidget &view)
     return view.findChild<QPlainTextEdit *>()->toPlainText().split('\n', Qt::SkipEmptyParts);
 }
 
-void tst_kavoLogView::linesWrittenBeforeItExistedShow()
+void tst_LogView::linesWrittenBeforeItExistedShow()
 {
     kavoLog::warning("early");
     const kavoLogView view;
     QCOMPARE(lines(view).last(), QStringLiteral("warning: early"));
 }
 
-void tst_kavoLogView::newLinesShow()
+void tst_LogView::newLinesShow()
 {
     const kavoLogView view;
     kavoLog::info("new");
     QTRY_COMPARE(lines(view).last(), QStringLiteral("info: new"));
 }
 
-void tst_kavoLogView::linesOfOtherThreadsShow()
+void tst_LogView::linesOfOtherThreadsShow()
 {
     const kavoLogView view;
     std::thread([] { kavoLog::info("from afar"); }).join();
     QTRY_COMPARE(lines(view).last(), QStringLiteral("info: from afar"));
 }
 
-void tst_kavoLogView::theLevelFilterHidesAndShowsAgain()
+void tst_LogView::theLevelFilterHidesAndShowsAgain()
 {
     const kavoLogView view;
     kavoLog::error("bad");
@@ -59,7 +59,7 @@ void tst_kavoLogView::theLevelFilterHidesAndShowsAgain()
     QCOMPARE(lines(view).last(), QStringLiteral("info: harmless"));
 }
 
-void tst_kavoLogView::clearEmptiesItForGood()
+void tst_LogView::clearEmptiesItForGood()
 {
     kavoLog::info("old");
     const kavoLogView view;
@@ -70,5 +70,5 @@ void tst_kavoLogView::clearEmptiesItForGood()
     QCOMPARE(lines(view), QStringList());
 }
 
-KAVO_TEST_MAIN(tst_kavoLogView)
+KAVO_TEST_MAIN(tst_LogView)
 #include "tst_kavologview.moc"

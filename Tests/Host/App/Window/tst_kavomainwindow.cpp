@@ -52,9 +52,9 @@ public:
 
 const QString truck = QStringLiteral("glTF/CesiumMilkTruck/CesiumMilkTruck.gltf");
 
-}
+} // namespace
 
-class tst_kavoMainWindow : public QObject
+class tst_MainWindow : public QObject
 {
     Q_OBJECT
 
@@ -87,7 +87,7 @@ private:
     QTemporaryDir m_settings;
 };
 
-void tst_kavoMainWindow::initTestCase()
+void tst_MainWindow::initTestCase()
 {
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_settings.path());
     QCoreApplication::setOrganizationName(QStringLiteral("kavo-test"));
@@ -97,14 +97,14 @@ void tst_kavoMainWindow::initTestCase()
     QVERIFY(QTest::qWaitForWindowExposed(m_window));
 }
 
-void tst_kavoMainWindow::init()
+void tst_MainWindow::init()
 {
     kavoScenegraph::setRoot(kavoTestScene::makeTruck());
     kavoScenegraph::setSelectedNode(osg::NullFC);
     m_window->session().document().setFiles({});
 }
 
-QAction *tst_kavoMainWindow::action(const QString &text) const
+QAction *tst_MainWindow::action(const QString &text) const
 {
     for (QAction *action : m_window->findChildren<QAction *>()) {
         if (action->text().remove('&') == text)
@@ -113,20 +113,20 @@ QAction *tst_kavoMainWindow::action(const QString &text) const
     return nullptr;
 }
 
-bool tst_kavoMainWindow::open(const QString &file)
+bool tst_MainWindow::open(const QString &file)
 {
     QSignalSpy opened(&m_window->session(), &kavoSession::opened);
     m_window->session().open({ file });
     return QTest::qWaitFor([&] { return opened.count() == 1; }, 20000);
 }
 
-void tst_kavoMainWindow::itIsTheControllersWindow()
+void tst_MainWindow::itIsTheControllersWindow()
 {
     QCOMPARE(kavoController::getMainWindow(), m_window);
     QCOMPARE(kavoController::getDockWindowManager(), &m_window->docks());
 }
 
-void tst_kavoMainWindow::theViewMenuOffersEveryDockWindow()
+void tst_MainWindow::theViewMenuOffersEveryDockWindow()
 {
     for (const char *key : { "Scene", "Materials", "Lights", "Cameras", "Log" })
         QVERIFY2(m_window->docks().window(key), key);
@@ -135,7 +135,7 @@ void tst_kavoMainWindow::theViewMenuOffersEveryDockWindow()
         QVERIFY2(offered.contains(m_window->docks().toggleAction(key)), qPrintable(key));
 }
 
-void tst_kavoMainWindow::openingAnnouncesTheSceneBeforeAndAfter()
+void tst_MainWindow::openingAnnouncesTheSceneBeforeAndAfter()
 {
     Listener listener;
     const osg::NodePtr before = kavoScenegraph::getRoot();
@@ -146,7 +146,7 @@ void tst_kavoMainWindow::openingAnnouncesTheSceneBeforeAndAfter()
     QVERIFY(m_window->windowTitle().contains("CesiumMilkTruck.gltf"));
 }
 
-void tst_kavoMainWindow::aBrokenFileIsNamedWithTheReasonAndTheSceneStays()
+void tst_MainWindow::aBrokenFileIsNamedWithTheReasonAndTheSceneStays()
 {
     const osg::NodePtr before = kavoScenegraph::getRoot();
     QSignalSpy failed(&m_window->session(), &kavoSession::openFailed);
@@ -158,7 +158,7 @@ void tst_kavoMainWindow::aBrokenFileIsNamedWithTheReasonAndTheSceneStays()
     QVERIFY(kavoScenegraph::getRoot() == before);
 }
 
-void tst_kavoMainWindow::cancelingALoadKeepsTheScene()
+void tst_MainWindow::cancelingALoadKeepsTheScene()
 {
     const osg::NodePtr before = kavoScenegraph::getRoot();
     QSignalSpy canceled(&m_window->session(), &kavoSession::openCanceled);
@@ -171,7 +171,7 @@ void tst_kavoMainWindow::cancelingALoadKeepsTheScene()
     QVERIFY(kavoScenegraph::getRoot() == before);
 }
 
-void tst_kavoMainWindow::escapeInTheSceneTreeCancelsALoadFirst()
+void tst_MainWindow::escapeInTheSceneTreeCancelsALoadFirst()
 {
     m_window->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(m_window));
@@ -189,7 +189,7 @@ void tst_kavoMainWindow::escapeInTheSceneTreeCancelsALoadFirst()
     QVERIFY(kavoScenegraph::getSelectedNode() == osg::NullFC);
 }
 
-void tst_kavoMainWindow::theEditMenuDeletesNodes()
+void tst_MainWindow::theEditMenuDeletesNodes()
 {
     const QList<QAction *> offered = m_window->menuBar()->actions().at(1)->menu()->actions();
     QAction *deletion = action("Delete Node...");
@@ -201,7 +201,7 @@ void tst_kavoMainWindow::theEditMenuDeletesNodes()
     QTRY_VERIFY(!m_window->session().select("Tyre"));
 }
 
-void tst_kavoMainWindow::droppedFilesAreOpened()
+void tst_MainWindow::droppedFilesAreOpened()
 {
     QVERIFY(open(kavoTestLoad::model(truck))); // a scene without changes, so nothing is asked
     QMimeData data;
@@ -215,7 +215,7 @@ void tst_kavoMainWindow::droppedFilesAreOpened()
     QVERIFY(QTest::qWaitFor([&] { return opened.count() == 1; }, 20000));
 }
 
-void tst_kavoMainWindow::otherDropsAreRefused()
+void tst_MainWindow::otherDropsAreRefused()
 {
     QMimeData data;
     data.setText("just text");
@@ -225,7 +225,7 @@ void tst_kavoMainWindow::otherDropsAreRefused()
     QVERIFY(!enter.isAccepted());
 }
 
-void tst_kavoMainWindow::nodesAreSelectedByNameOrId()
+void tst_MainWindow::nodesAreSelectedByNameOrId()
 {
     QVERIFY(m_window->session().select("Tyre"));
     const osg::NodePtr tyre = kavoScenegraph::getSelectedNode();
@@ -236,7 +236,7 @@ void tst_kavoMainWindow::nodesAreSelectedByNameOrId()
     QVERIFY(!m_window->session().select("Sail"));
 }
 
-void tst_kavoMainWindow::theParentOfTheSelectionCanBeSelected()
+void tst_MainWindow::theParentOfTheSelectionCanBeSelected()
 {
     m_window->session().select("Tyre");
     for (const char *name : { "Wheel", "Root", "Root" }) {
@@ -245,14 +245,14 @@ void tst_kavoMainWindow::theParentOfTheSelectionCanBeSelected()
     }
 }
 
-void tst_kavoMainWindow::theNameOfTheSelectionCanBeCopied()
+void tst_MainWindow::theNameOfTheSelectionCanBeCopied()
 {
     m_window->session().select("Tyre");
     action("Copy Name of Selected Node")->trigger();
     QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("Tyre"));
 }
 
-void tst_kavoMainWindow::anErrorIsShownInABoxThatDoesNotBlock()
+void tst_MainWindow::anErrorIsShownInABoxThatDoesNotBlock()
 {
     m_window->reportError("Cannot open 'a': it is broken");
     auto *box = m_window->findChild<QMessageBox *>();
@@ -262,7 +262,7 @@ void tst_kavoMainWindow::anErrorIsShownInABoxThatDoesNotBlock()
     QTRY_VERIFY(!m_window->findChild<QMessageBox *>());
 }
 
-void tst_kavoMainWindow::modulesHearOfIdleTimeAndOfChanges()
+void tst_MainWindow::modulesHearOfIdleTimeAndOfChanges()
 {
     Listener listener;
     QEventLoop loop;
@@ -277,7 +277,7 @@ void tst_kavoMainWindow::modulesHearOfIdleTimeAndOfChanges()
     QTRY_VERIFY(listener.updates > 0);
 }
 
-void tst_kavoMainWindow::filesOpenedLastAreKept()
+void tst_MainWindow::filesOpenedLastAreKept()
 {
     m_window->useSettings();
     QVERIFY(open(kavoTestLoad::model(truck)));
@@ -286,7 +286,7 @@ void tst_kavoMainWindow::filesOpenedLastAreKept()
     QVERIFY(action(files.first()));
 }
 
-void tst_kavoMainWindow::layoutAndSizeAreKept()
+void tst_MainWindow::layoutAndSizeAreKept()
 {
     m_window->useSettings();
     m_window->resize(777, 555);
@@ -299,7 +299,7 @@ void tst_kavoMainWindow::layoutAndSizeAreKept()
     QVERIFY(!m_window->docks().toggleAction("Log")->isChecked());
 }
 
-void tst_kavoMainWindow::shuttingDownHidesTheWindowAndClosesTheScene()
+void tst_MainWindow::shuttingDownHidesTheWindowAndClosesTheScene()
 {
     Listener listener;
     m_window->shutDown();
@@ -308,5 +308,5 @@ void tst_kavoMainWindow::shuttingDownHidesTheWindowAndClosesTheScene()
     QVERIFY(kavoScenegraph::getRoot() == osg::NullFC);
 }
 
-KAVO_TEST_MAIN(tst_kavoMainWindow)
+KAVO_TEST_MAIN(tst_MainWindow)
 #include "tst_kavomainwindow.moc"

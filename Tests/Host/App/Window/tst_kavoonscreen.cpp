@@ -11,7 +11,7 @@
 #include <QWindow>
 
 // The main window with a real window system, by mouse and keyboard.
-class tst_kavoOnScreen : public QObject
+class tst_OnScreen : public QObject
 {
     Q_OBJECT
 
@@ -25,7 +25,7 @@ private:
     kavoMainWindow *m_window = nullptr;
 };
 
-void tst_kavoOnScreen::initTestCase()
+void tst_OnScreen::initTestCase()
 {
     static auto *const window = new kavoMainWindow;
     m_window = window;
@@ -33,7 +33,7 @@ void tst_kavoOnScreen::initTestCase()
     QVERIFY(QTest::qWaitForWindowExposed(m_window));
 }
 
-void tst_kavoOnScreen::aDockWindowClosesAndOpensThroughTheViewMenu()
+void tst_OnScreen::aDockWindowClosesAndOpensThroughTheViewMenu()
 {
     QMenuBar *bar = m_window->menuBar();
     QAction *view = bar->actions().at(2);
@@ -47,7 +47,7 @@ void tst_kavoOnScreen::aDockWindowClosesAndOpensThroughTheViewMenu()
     }
 }
 
-void tst_kavoOnScreen::theShortcutsOfTheEditMenuWork()
+void tst_OnScreen::theShortcutsOfTheEditMenuWork()
 {
     kavoScenegraph::setRoot(kavoTestScene::makeTruck());
     m_window->session().select("Tyre");
@@ -59,10 +59,10 @@ void tst_kavoOnScreen::theShortcutsOfTheEditMenuWork()
     QVERIFY(kavoScenegraph::getSelectedNode() == osg::NullFC);
 }
 
-void tst_kavoOnScreen::cleanupTestCase()
+void tst_OnScreen::cleanupTestCase()
 {
     m_window->shutDown();
 }
 
-KAVO_TEST_MAIN(tst_kavoOnScreen)
+KAVO_TEST_MAIN(tst_OnScreen)
 #include "tst_kavoonscreen.moc"

@@ -10,7 +10,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-class tst_kavoPluginLoader : public QObject
+class tst_PluginLoader : public QObject
 {
     Q_OBJECT
 
@@ -38,14 +38,14 @@ static bool isLogged(const QString &text)
     return false;
 }
 
-void tst_kavoPluginLoader::everyLibraryOfAFolderIsTriedAndTheGoodOnesStart()
+void tst_PluginLoader::everyLibraryOfAFolderIsTriedAndTheGoodOnesStart()
 {
     QCOMPARE(m_loader.load(KAVO_TEST_PLUGIN_DIR), 1);
     QCOMPARE(kavoModuleBase::modules().size(), std::size_t(1));
     QCOMPARE(kavoModuleBase::modules().front()->name(), std::string("Good Module"));
 }
 
-void tst_kavoPluginLoader::whatGoesWrongIsLogged_data()
+void tst_PluginLoader::whatGoesWrongIsLogged_data()
 {
     QTest::addColumn<QString>("line");
     QTest::newRow("success") << "libGoodPlugin.so' loaded";
@@ -57,13 +57,13 @@ void tst_kavoPluginLoader::whatGoesWrongIsLogged_data()
         << "libUnknownThrowingPlugin.so' skipped: initPlugin failed: unknown exception";
 }
 
-void tst_kavoPluginLoader::whatGoesWrongIsLogged()
+void tst_PluginLoader::whatGoesWrongIsLogged()
 {
     QFETCH(QString, line);
     QVERIFY(isLogged(line));
 }
 
-void tst_kavoPluginLoader::containerTypesOfAPluginCanBeMade()
+void tst_PluginLoader::containerTypesOfAPluginCanBeMade()
 {
     osg::FieldContainerPtr made
         = osg::FieldContainerFactory::the()->createFieldContainer("GoodMark");
@@ -71,13 +71,13 @@ void tst_kavoPluginLoader::containerTypesOfAPluginCanBeMade()
     osg::subRefCP(made);
 }
 
-void tst_kavoPluginLoader::theSameFolderAgainStartsNothingTwice()
+void tst_PluginLoader::theSameFolderAgainStartsNothingTwice()
 {
     QCOMPARE(m_loader.load(KAVO_TEST_PLUGIN_DIR), 0);
     QCOMPARE(kavoModuleBase::modules().size(), std::size_t(1));
 }
 
-void tst_kavoPluginLoader::aFileThatIsNoLibraryIsLoggedAndSkipped()
+void tst_PluginLoader::aFileThatIsNoLibraryIsLoggedAndSkipped()
 {
     QTemporaryDir folder;
     QFile file(folder.filePath("libBroken.so"));
@@ -88,7 +88,7 @@ void tst_kavoPluginLoader::aFileThatIsNoLibraryIsLoggedAndSkipped()
     QVERIFY(isLogged("libBroken.so' skipped: "));
 }
 
-void tst_kavoPluginLoader::otherFilesAreLeftAlone()
+void tst_PluginLoader::otherFilesAreLeftAlone()
 {
     QTemporaryDir folder;
     QFile file(folder.filePath("README.txt"));
@@ -97,17 +97,17 @@ void tst_kavoPluginLoader::otherFilesAreLeftAlone()
     QVERIFY(!isLogged("README.txt"));
 }
 
-void tst_kavoPluginLoader::aMissingFolderIsLogged()
+void tst_PluginLoader::aMissingFolderIsLogged()
 {
     QCOMPARE(m_loader.load("/no/such/folder"), 0);
     QVERIFY(isLogged("There is no plug-in folder '/no/such/folder'"));
 }
 
-void tst_kavoPluginLoader::theDefaultFolderIsBesideTheExecutablesFolder()
+void tst_PluginLoader::theDefaultFolderIsBesideTheExecutablesFolder()
 {
     QCOMPARE(kavoPluginLoader::defaultFolder(),
         QDir::cleanPath(QCoreApplication::applicationDirPath() + "/../plugins"));
 }
 
-KAVO_TEST_MAIN(tst_kavoPluginLoader)
+KAVO_TEST_MAIN(tst_PluginLoader)
 #include "tst_kavopluginloader.moc"

@@ -11,7 +11,7 @@
 #include <QTextStream>
 #include <QTreeView>
 
-class tst_kavoWindowPrinter : public QObject
+class tst_WindowPrinter : public QObject
 {
     Q_OBJECT
 
@@ -51,15 +51,15 @@ struct Browser
     QtVariantProperty *group, *value;
 };
 
-}
+} // namespace
 
-void tst_kavoWindowPrinter::aBrowserPrintsNamesAndValuesIndented()
+void tst_WindowPrinter::aBrowserPrintsNamesAndValuesIndented()
 {
     Browser browser;
     QCOMPARE(printed(browser.window), QStringLiteral("core Transform (7)\t\n  matrix\t1 0 0\n"));
 }
 
-void tst_kavoWindowPrinter::closedBranchesAreNotLeftOut()
+void tst_WindowPrinter::closedBranchesAreNotLeftOut()
 {
     Browser browser;
     const QString open = printed(browser.window);
@@ -67,7 +67,7 @@ void tst_kavoWindowPrinter::closedBranchesAreNotLeftOut()
     QCOMPARE(printed(browser.window), open);
 }
 
-void tst_kavoWindowPrinter::aTreeViewPrintsItsColumns()
+void tst_WindowPrinter::aTreeViewPrintsItsColumns()
 {
     QWidget window;
     QStandardItemModel model(0, 3);
@@ -79,7 +79,7 @@ void tst_kavoWindowPrinter::aTreeViewPrintsItsColumns()
     QCOMPARE(printed(window), QStringLiteral("Root\tGroup\t173\n  Wheel\tTransform\n"));
 }
 
-void tst_kavoWindowPrinter::aViewWithoutRowsPrintsNothing()
+void tst_WindowPrinter::aViewWithoutRowsPrintsNothing()
 {
     QWidget window;
     QStandardItemModel model;
@@ -88,7 +88,7 @@ void tst_kavoWindowPrinter::aViewWithoutRowsPrintsNothing()
     QCOMPARE(printed(window), QString());
 }
 
-void tst_kavoWindowPrinter::aValueOfSeveralLinesStaysOnOne()
+void tst_WindowPrinter::aValueOfSeveralLinesStaysOnOne()
 {
     QWidget window;
     QStandardItemModel model;
@@ -98,7 +98,7 @@ void tst_kavoWindowPrinter::aValueOfSeveralLinesStaysOnOne()
     QCOMPARE(printed(window), QStringLiteral("note\ta\\nb\n"));
 }
 
-void tst_kavoWindowPrinter::theListOfAComboBoxIsNoRow()
+void tst_WindowPrinter::theListOfAComboBoxIsNoRow()
 {
     QWidget window;
     QComboBox choice(&window);
@@ -107,11 +107,11 @@ void tst_kavoWindowPrinter::theListOfAComboBoxIsNoRow()
     QCOMPARE(printed(window), QStringLiteral("refused"));
 }
 
-void tst_kavoWindowPrinter::aWindowWithoutRowsIsRefused()
+void tst_WindowPrinter::aWindowWithoutRowsIsRefused()
 {
     QLabel window("just a label");
     QCOMPARE(printed(window), QStringLiteral("refused"));
 }
 
-KAVO_TEST_MAIN(tst_kavoWindowPrinter)
+KAVO_TEST_MAIN(tst_WindowPrinter)
 #include "tst_kavowindowprinter.moc"

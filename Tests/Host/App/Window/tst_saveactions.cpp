@@ -29,7 +29,7 @@ const QStringList question { "'ship.osg' has changes that are not saved." };
 } // namespace
 
 // Saving by keys and dialogs of the main window.
-class tst_saveactions : public QObject
+class tst_SaveActions : public QObject
 {
     Q_OBJECT
 
@@ -70,7 +70,7 @@ private:
     QString m_file;
 };
 
-void tst_saveactions::initTestCase()
+void tst_SaveActions::initTestCase()
 {
     static auto *const window = new kavoMainWindow;
     m_window = window;
@@ -79,7 +79,7 @@ void tst_saveactions::initTestCase()
     QVERIFY(QTest::qWaitForWindowExposed(m_window));
 }
 
-void tst_saveactions::init()
+void tst_SaveActions::init()
 {
     m_user = std::make_unique<kavoDialogUser>();
     m_folder = std::make_unique<QTemporaryDir>();
@@ -93,39 +93,39 @@ void tst_saveactions::init()
     QVERIFY(QTest::qWaitForWindowActive(m_window));
 }
 
-void tst_saveactions::edit()
+void tst_SaveActions::edit()
 {
     const osg::NodePtr root = kavoScenegraph::getRoot();
     osg::setName(root, "Boat");
     QTRY_VERIFY(m_window->isWindowModified());
 }
 
-void tst_saveactions::drainChanges()
+void tst_SaveActions::drainChanges()
 {
     QCoreApplication::processEvents();
     m_window->session().scene().drainChanges();
 }
 
-void tst_saveactions::writeScene(const QString &file, const QByteArray &rootName) const
+void tst_SaveActions::writeScene(const QString &file, const QByteArray &rootName) const
 {
     QFile scene(file);
     QVERIFY(scene.open(QIODevice::WriteOnly));
     scene.write("DEF " + rootName + " Node { }");
 }
 
-QByteArray tst_saveactions::saved() const
+QByteArray tst_SaveActions::saved() const
 {
     QFile file(m_file);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-QString tst_saveactions::takeMessage() const
+QString tst_SaveActions::takeMessage() const
 {
     const std::unique_ptr<QMessageBox> box(m_window->findChild<QMessageBox *>());
     return box ? box->text() : QString();
 }
 
-void tst_saveactions::drop(const QString &file)
+void tst_SaveActions::drop(const QString &file)
 {
     QMimeData data;
     data.setUrls({ QUrl::fromLocalFile(file) });
@@ -135,7 +135,7 @@ void tst_saveactions::drop(const QString &file)
     QCoreApplication::sendEvent(m_window, &drop);
 }
 
-void tst_saveactions::theTitleMarksUnsavedChanges()
+void tst_SaveActions::theTitleMarksUnsavedChanges()
 {
     drainChanges();
     QVERIFY(!m_window->isWindowModified());
@@ -144,7 +144,7 @@ void tst_saveactions::theTitleMarksUnsavedChanges()
 }
 
 // Views make pictures, volumes and states of it.
-void tst_saveactions::lookingAtAModelIsNoChange()
+void tst_SaveActions::lookingAtAModelIsNoChange()
 {
     QSignalSpy opened(&m_window->session(), &kavoSession::opened);
     m_window->session().open({ KAVO_TEST_MODELS "/glTF/BoxTextured-glTF/BoxTextured.gltf" });
@@ -159,7 +159,7 @@ void tst_saveactions::lookingAtAModelIsNoChange()
     QVERIFY(!m_window->isWindowModified());
 }
 
-void tst_saveactions::ctrlSSavesAnOpenedSceneFile()
+void tst_SaveActions::ctrlSSavesAnOpenedSceneFile()
 {
     edit();
     QTest::keyClick(m_window, Qt::Key_S, Qt::ControlModifier);
@@ -167,7 +167,7 @@ void tst_saveactions::ctrlSSavesAnOpenedSceneFile()
     QVERIFY(saved().contains("name \"Boat\""));
 }
 
-void tst_saveactions::ctrlSAsksForAnotherFileIfNotAllWasRead()
+void tst_SaveActions::ctrlSAsksForAnotherFileIfNotAllWasRead()
 {
     writeScene(m_file, "Ship Oar { } DEF Boat");
     QSignalSpy opened(&m_window->session(), &kavoSession::opened);
@@ -180,7 +180,7 @@ void tst_saveactions::ctrlSAsksForAnotherFileIfNotAllWasRead()
     QCOMPARE(saved(), before);
 }
 
-void tst_saveactions::saveAsAsksForTheFileAndAddsTheSuffix()
+void tst_SaveActions::saveAsAsksForTheFileAndAddsTheSuffix()
 {
     edit();
     m_user->willChooseFile(m_folder->filePath("copy"));
@@ -190,7 +190,7 @@ void tst_saveactions::saveAsAsksForTheFileAndAddsTheSuffix()
     QVERIFY(saved().contains("DEF Ship"));
 }
 
-void tst_saveactions::anotherSceneWaitsUntilTheSaveDialogIsGone()
+void tst_SaveActions::anotherSceneWaitsUntilTheSaveDialogIsGone()
 {
     const QString tank = m_folder->filePath("tank.osg");
     writeScene(tank, "Tank");
@@ -203,13 +203,13 @@ void tst_saveactions::anotherSceneWaitsUntilTheSaveDialogIsGone()
     QCOMPARE(m_window->session().document().file(), tank);
 }
 
-void tst_saveactions::quittingWithoutChangesAsksNothing()
+void tst_SaveActions::quittingWithoutChangesAsksNothing()
 {
     drainChanges();
     QVERIFY(m_window->close());
 }
 
-void tst_saveactions::quittingAsksAboutUnsavedChanges_data()
+void tst_SaveActions::quittingAsksAboutUnsavedChanges_data()
 {
     QTest::addColumn<int>("button");
     QTest::addColumn<bool>("closes");
@@ -219,7 +219,7 @@ void tst_saveactions::quittingAsksAboutUnsavedChanges_data()
     QTest::newRow("cancel") << int(QMessageBox::Cancel) << false << false;
 }
 
-void tst_saveactions::quittingAsksAboutUnsavedChanges()
+void tst_SaveActions::quittingAsksAboutUnsavedChanges()
 {
     QFETCH(int, button);
     QFETCH(bool, saves);
@@ -229,7 +229,7 @@ void tst_saveactions::quittingAsksAboutUnsavedChanges()
     QCOMPARE(saved().contains("Boat"), saves);
 }
 
-void tst_saveactions::openingAnotherSceneAsksToo()
+void tst_SaveActions::openingAnotherSceneAsksToo()
 {
     edit();
     m_user->willPress(QMessageBox::Cancel);
@@ -238,7 +238,7 @@ void tst_saveactions::openingAnotherSceneAsksToo()
     QVERIFY(m_window->isWindowModified());
 }
 
-void tst_saveactions::editsMadeWhileAnotherSceneLoadsAreAskedAbout_data()
+void tst_SaveActions::editsMadeWhileAnotherSceneLoadsAreAskedAbout_data()
 {
     QTest::addColumn<int>("button");
     QTest::addColumn<bool>("opens");
@@ -246,7 +246,7 @@ void tst_saveactions::editsMadeWhileAnotherSceneLoadsAreAskedAbout_data()
     QTest::newRow("cancel") << int(QMessageBox::Cancel) << false;
 }
 
-void tst_saveactions::editsMadeWhileAnotherSceneLoadsAreAskedAbout()
+void tst_SaveActions::editsMadeWhileAnotherSceneLoadsAreAskedAbout()
 {
     QFETCH(int, button);
     const osg::NodePtr before = kavoScenegraph::getRoot();
@@ -261,7 +261,7 @@ void tst_saveactions::editsMadeWhileAnotherSceneLoadsAreAskedAbout()
     QCOMPARE(kavoScenegraph::getRoot() == before, canceled.count() == 1);
 }
 
-void tst_saveactions::editsMadeAfterDiscardingAreAskedAbout()
+void tst_SaveActions::editsMadeAfterDiscardingAreAskedAbout()
 {
     edit();
     QSignalSpy canceled(&m_window->session(), &kavoSession::openCanceled);
@@ -274,7 +274,7 @@ void tst_saveactions::editsMadeAfterDiscardingAreAskedAbout()
     QVERIFY(m_window->isWindowModified());
 }
 
-void tst_saveactions::aCanceledLoadKeepsDiscardedEdits()
+void tst_SaveActions::aCanceledLoadKeepsDiscardedEdits()
 {
     edit();
     m_user->willPress(QMessageBox::Discard);
@@ -284,7 +284,7 @@ void tst_saveactions::aCanceledLoadKeepsDiscardedEdits()
     QVERIFY(m_window->isWindowModified());
 }
 
-void tst_saveactions::aSaveThatFailsIsShownAndKeepsTheWindow()
+void tst_SaveActions::aSaveThatFailsIsShownAndKeepsTheWindow()
 {
     edit();
     QVERIFY(m_folder->remove());
@@ -294,7 +294,7 @@ void tst_saveactions::aSaveThatFailsIsShownAndKeepsTheWindow()
     QVERIFY(takeMessage().contains(m_file));
 }
 
-void tst_saveactions::aFieldTypeThatThrowsFailsTheSave_data()
+void tst_SaveActions::aFieldTypeThatThrowsFailsTheSave_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("message");
@@ -304,7 +304,7 @@ void tst_saveactions::aFieldTypeThatThrowsFailsTheSave_data()
                               << "unknown exception";
 }
 
-void tst_saveactions::aFieldTypeThatThrowsFailsTheSave()
+void tst_SaveActions::aFieldTypeThatThrowsFailsTheSave()
 {
     QFETCH(QString, text);
     const QByteArray before = saved();
@@ -317,10 +317,10 @@ void tst_saveactions::aFieldTypeThatThrowsFailsTheSave()
     QTEST(takeMessage(), "message");
 }
 
-void tst_saveactions::cleanupTestCase()
+void tst_SaveActions::cleanupTestCase()
 {
     m_window->shutDown();
 }
 
-KAVO_TEST_MAIN(tst_saveactions)
+KAVO_TEST_MAIN(tst_SaveActions)
 #include "tst_saveactions.moc"

@@ -53,7 +53,7 @@ public:
     }
 };
 
-}
+} // namespace
 
 extern "C" __attribute__((visibility("default"))) void initPlugin()
 {
