@@ -12,7 +12,7 @@
 #include <QtTest>
 
 // The host's views and the built plug-in in one window, and the X server's mouse between them.
-class tst_draganddrop : public QObject
+class tst_DragAndDrop : public QObject
 {
     Q_OBJECT
 
@@ -56,7 +56,7 @@ void drag(const QPoint &from, const QPoint &to)
 
 }
 
-void tst_draganddrop::initTestCase()
+void tst_DragAndDrop::initTestCase()
 {
     static auto *const window = new kavoMainWindow;
     m_window = window;
@@ -67,7 +67,7 @@ void tst_draganddrop::initTestCase()
     QVERIFY(m_window->docks().window("Node Editor"));
 }
 
-void tst_draganddrop::open(const QString &file)
+void tst_DragAndDrop::open(const QString &file)
 {
     QSignalSpy opened(&m_window->session(), &kavoSession::opened);
     m_window->session().open({ QStringLiteral(KAVO_TEST_MODELS "/") + file });
@@ -75,7 +75,7 @@ void tst_draganddrop::open(const QString &file)
 }
 
 // The first line of the editor, empty while it shows nothing.
-QString tst_draganddrop::editorTitle()
+QString tst_DragAndDrop::editorTitle()
 {
     QString rows;
     QTextStream out(&rows);
@@ -83,7 +83,7 @@ QString tst_draganddrop::editorTitle()
     return rows.section('\n', 0, 0);
 }
 
-void tst_draganddrop::theEditorShowsWhatIsDraggedOntoIt_data()
+void tst_DragAndDrop::theEditorShowsWhatIsDraggedOntoIt_data()
 {
     QTest::addColumn<QString>("file");
     QTest::addColumn<QString>("view");
@@ -99,7 +99,7 @@ void tst_draganddrop::theEditorShowsWhatIsDraggedOntoIt_data()
                             << "\\S+ Node \\(\\d+\\)\t";
 }
 
-void tst_draganddrop::theEditorShowsWhatIsDraggedOntoIt()
+void tst_DragAndDrop::theEditorShowsWhatIsDraggedOntoIt()
 {
     QFETCH(QString, file);
     QFETCH(QString, view);
@@ -117,10 +117,10 @@ void tst_draganddrop::theEditorShowsWhatIsDraggedOntoIt()
     QTRY_VERIFY2(expected.match(editorTitle()).hasMatch(), qPrintable(editorTitle()));
 }
 
-void tst_draganddrop::cleanupTestCase()
+void tst_DragAndDrop::cleanupTestCase()
 {
     m_window->shutDown();
 }
 
-KAVO_TEST_MAIN(tst_draganddrop)
+KAVO_TEST_MAIN(tst_DragAndDrop)
 #include "tst_draganddrop.moc"

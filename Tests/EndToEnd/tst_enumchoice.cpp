@@ -4,7 +4,7 @@
 #include <QtTest>
 
 // The shipped binaries from a user's side: kavo, its plug-in, a model, and the mouse.
-class tst_enumchoice : public QObject
+class tst_EnumChoice : public QObject
 {
     Q_OBJECT
 
@@ -30,7 +30,7 @@ QByteArray contents(const QString &path)
 
 // Runs kavo with the textured geometry of a scene selected. Returns what it prints, nothing if it
 // fails.
-QByteArray tst_enumchoice::run(const QString &scene, const QStringList &arguments)
+QByteArray tst_EnumChoice::run(const QString &scene, const QStringList &arguments)
 {
     QProcess kavo;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -43,7 +43,7 @@ QByteArray tst_enumchoice::run(const QString &scene, const QStringList &argument
     return ended && kavo.exitCode() == 0 ? kavo.readAllStandardOutput() : QByteArray();
 }
 
-void tst_enumchoice::theEntryChosenWithTheMouseReachesTheField()
+void tst_EnumChoice::theEntryChosenWithTheMouseReachesTheField()
 {
     const QString rows = run(KAVO_TRUCK, { "--print-window", "Node Editor" });
     const auto chunk = QRegularExpression("TextureChunk \\((\\d+)\\)").match(rows);
@@ -55,7 +55,7 @@ void tst_enumchoice::theEntryChosenWithTheMouseReachesTheField()
     QVERIFY2(output.contains("\n9729\n"), output);
 }
 
-void tst_enumchoice::theEntryChosenWithTheMouseIsInTheSavedFile()
+void tst_EnumChoice::theEntryChosenWithTheMouseIsInTheSavedFile()
 {
     const QString scene = m_settings.filePath("box.osg");
     QVERIFY(!run(KAVO_BOX, { "--save", scene }).isEmpty());
@@ -65,5 +65,5 @@ void tst_enumchoice::theEntryChosenWithTheMouseIsInTheSavedFile()
     QVERIFY(!contents(scene).contains("minFilter 9987\n"));
 }
 
-QTEST_GUILESS_MAIN(tst_enumchoice)
+QTEST_GUILESS_MAIN(tst_EnumChoice)
 #include "tst_enumchoice.moc"

@@ -1,7 +1,7 @@
 #include "Files/kavoDocument.h"
 
 #include "Basics/kavoTaskError.h"
-#include "Files/kavoSceneSaver.h"
+#include "Files/kavoOsgWriter.h"
 #include "Scene/kavoOpenScene.h"
 
 #include <kavoLog.h>
@@ -34,7 +34,7 @@ void kavoDocument::setFiles(const QStringList &files, const QStringList &partlyR
 
 void kavoDocument::beginWith(const QStringList &files)
 {
-    const bool isSaved = files.size() == 1 && kavoSceneSaver::canSave(files.first())
+    const bool isSaved = files.size() == 1 && kavoOsgWriter::canSave(files.first())
         && !wasPartlyRead(files.first());
     m_files = files;
     m_file = isSaved ? files.first() : QString();
@@ -59,7 +59,7 @@ QString kavoDocument::suggestedFile() const
     const QFileInfo first(m_files.value(0, tr("Scene")));
     const QString name
         = m_partlyRead.isEmpty() ? QStringLiteral("%1.%2") : QStringLiteral("%1-copy.%2");
-    return first.dir().filePath(name.arg(first.completeBaseName(), kavoSceneSaver::suffix()));
+    return first.dir().filePath(name.arg(first.completeBaseName(), kavoOsgWriter::suffix()));
 }
 
 void kavoDocument::discardEdits()
@@ -83,7 +83,7 @@ void kavoDocument::save(const QString &file)
                                "would destroy the rest. Save the scene in another file.")
                                 .arg(file));
     }
-    kavoSceneSaver::save(kavoScenegraph::getRoot(), file);
+    kavoOsgWriter::save(kavoScenegraph::getRoot(), file);
     beginWith({ file });
 }
 

@@ -2,7 +2,7 @@
 
 #include "Basics/kavoTry.h"
 #include "Files/kavoDocument.h"
-#include "Files/kavoSceneSaver.h"
+#include "Files/kavoOsgWriter.h"
 
 #include <QApplication>
 #include <QFileDialog>
@@ -48,9 +48,9 @@ bool kavoSaveActions::save()
 bool kavoSaveActions::saveAs()
 {
     QFileDialog dialog(m_window, tr("Save Scene"), m_document.suggestedFile(),
-        tr("Scenes (*.%1)").arg(kavoSceneSaver::suffix()));
+        tr("Scenes (*.%1)").arg(kavoOsgWriter::suffix()));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(kavoSceneSaver::suffix());
+    dialog.setDefaultSuffix(kavoOsgWriter::suffix());
     dialog.selectFile(m_document.suggestedFile());
     return dialog.exec() == QDialog::Accepted && saveTo(dialog.selectedFiles().first());
 }

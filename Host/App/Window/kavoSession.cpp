@@ -1,7 +1,7 @@
 #include "Window/kavoSession.h"
 
+#include "Files/kavoBackgroundLoader.h"
 #include "Files/kavoDocument.h"
-#include "Files/kavoSceneLoader.h"
 #include "Scene/kavoNodeFinder.h"
 #include "Scene/kavoOpenScene.h"
 
@@ -30,7 +30,7 @@ kavoSession::kavoSession(QObject *parent)
     : QObject(parent)
     , m_scene(new kavoOpenScene(this))
     , m_document(new kavoDocument(*m_scene, this))
-    , m_loader(new kavoSceneLoader(this))
+    , m_loader(new kavoBackgroundLoader(this))
 {
     connectLoader();
 }
@@ -41,12 +41,12 @@ void kavoSession::connectLoader()
         m_scene->drainChanges(); // the document must know the edits of this round
         return m_mayReplaceScene();
     });
-    connect(m_loader, &kavoSceneLoader::progress, this, &kavoSession::opening);
-    connect(m_loader, &kavoSceneLoader::loaded, this, &kavoSession::showScene);
-    connect(m_loader, &kavoSceneLoader::canceled, m_document, &kavoDocument::keepEdits);
-    connect(m_loader, &kavoSceneLoader::failed, m_document, &kavoDocument::keepEdits);
-    connect(m_loader, &kavoSceneLoader::canceled, this, &kavoSession::openCanceled);
-    connect(m_loader, &kavoSceneLoader::failed, this,
+    connect(m_loader, &kavoBackgroundLoader::progress, this, &kavoSession::opening);
+    connect(m_loader, &kavoBackgroundLoader::loaded, this, &kavoSession::showScene);
+    connect(m_loader, &kavoBackgroundLoader::canceled, m_document, &kavoDocument::keepEdits);
+    connect(m_loader, &kavoBackgroundLoader::failed, m_document, &kavoDocument::keepEdits);
+    connect(m_loader, &kavoBackgroundLoader::canceled, this, &kavoSession::openCanceled);
+    connect(m_loader, &kavoBackgroundLoader::failed, this,
         [this](const QString &file, const QString &reason) {
             emit openFailed(tr("Cannot open '%1': %2").arg(file, reason));
         });

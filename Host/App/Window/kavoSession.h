@@ -9,7 +9,7 @@
 
 class kavoDocument;
 class kavoOpenScene;
-class kavoSceneLoader;
+class kavoBackgroundLoader;
 
 /// The scene that is open, the document that it is saved as, and the way from one scene to the
 /// next. It needs no windows.
@@ -56,7 +56,7 @@ private:
 
     kavoOpenScene *m_scene;
     kavoDocument *m_document;
-    kavoSceneLoader *m_loader;
+    kavoBackgroundLoader *m_loader;
     std::function<bool()> m_mayReplaceScene = [] { return true; };
     QStringList m_files;
 };

@@ -1,7 +1,7 @@
 #include "kavoTestLoad.h"
 
-#include "Files/kavoSceneLoader.h"
-#include "Import/kavoSceneBuilder.h"
+#include "Files/kavoBackgroundLoader.h"
+#include "Import/kavoIncrementalBuilder.h"
 #include <kavoTestHost.h>
 
 #include <QSignalSpy>
@@ -32,12 +32,12 @@ QStringList tenTrucks()
 
 /// Waits until the worker is through with what was canceled.
 /// \returns whether nothing can come of it any more: no scene is under construction
-bool isAtRest(kavoSceneLoader &loader)
+bool isAtRest(kavoBackgroundLoader &loader)
 {
     loader.shutDown();
     QCoreApplication::processEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    return !loader.findChild<kavoSceneBuilder *>();
+    return !loader.findChild<kavoIncrementalBuilder *>();
 }
 
 /// A pipe that keeps its readers waiting for a moment, then is empty whenever they look.
@@ -76,7 +76,7 @@ private:
 } // namespace
 
 // Loads that end before their scene is there.
-class tst_canceledload : public QObject
+class tst_CanceledLoad : public QObject
 {
     Q_OBJECT
 
@@ -85,13 +85,13 @@ private slots:
 
     void cancelingEndsTheLoadAtOnceAndForGood()
     {
-        kavoSceneLoader loader;
-        QSignalSpy progress(&loader, &kavoSceneLoader::progress);
-        QSignalSpy canceled(&loader, &kavoSceneLoader::canceled);
-        QSignalSpy failed(&loader, &kavoSceneLoader::failed);
-        QSignalSpy loaded(&loader, &kavoSceneLoader::loaded);
+        kavoBackgroundLoader loader;
+        QSignalSpy progress(&loader, &kavoBackgroundLoader::progress);
+        QSignalSpy canceled(&loader, &kavoBackgroundLoader::canceled);
+        QSignalSpy failed(&loader, &kavoBackgroundLoader::failed);
+        QSignalSpy loaded(&loader, &kavoBackgroundLoader::loaded);
         bool endedAtOnce = false;
-        connect(&loader, &kavoSceneLoader::progress, [&] {
+        connect(&loader, &kavoBackgroundLoader::progress, [&] {
             if (progress.count() == 2) { // the worker is in the midst of it
                 loader.cancel();
                 endedAtOnce = canceled.count() == 1 && !loader.isLoading();
@@ -111,7 +111,7 @@ private slots:
         const std::string pipe = folder.filePath("pipe.obj").toStdString();
         QCOMPARE(mkfifo(pipe.c_str(), 0600), 0);
         const SlowPipe writer(pipe);
-        kavoSceneLoader loader;
+        kavoBackgroundLoader loader;
         loader.load({ QString::fromStdString(pipe) });
         loader.shutDown();
         QVERIFY(writer.isReleased());
@@ -119,10 +119,10 @@ private slots:
 
     void aSceneUnderConstructionCanBeCanceled()
     {
-        kavoSceneLoader loader;
-        QSignalSpy canceled(&loader, &kavoSceneLoader::canceled);
-        QSignalSpy loaded(&loader, &kavoSceneLoader::loaded);
-        connect(&loader, &kavoSceneLoader::progress, [&](int percent) {
+        kavoBackgroundLoader loader;
+        QSignalSpy canceled(&loader, &kavoBackgroundLoader::canceled);
+        QSignalSpy loaded(&loader, &kavoBackgroundLoader::loaded);
+        connect(&loader, &kavoBackgroundLoader::progress, [&](int percent) {
             if (percent > 75)
                 loader.cancel();
         });
@@ -134,15 +134,15 @@ private slots:
 
     void nothingIsToldOfACanceledSceneWhileAReceiverWaits()
     {
-        kavoSceneLoader loader;
-        QSignalSpy progress(&loader, &kavoSceneLoader::progress);
-        QSignalSpy canceled(&loader, &kavoSceneLoader::canceled);
-        connect(&loader, &kavoSceneLoader::progress, [&](int percent) {
+        kavoBackgroundLoader loader;
+        QSignalSpy progress(&loader, &kavoBackgroundLoader::progress);
+        QSignalSpy canceled(&loader, &kavoBackgroundLoader::canceled);
+        connect(&loader, &kavoBackgroundLoader::progress, [&](int percent) {
             if (percent > 75)
-                QTimer::singleShot(0, &loader, &kavoSceneLoader::cancel); // between two slices
+                QTimer::singleShot(0, &loader, &kavoBackgroundLoader::cancel); // between two slices
         });
         int toldBefore = 0, toldAfter = 0;
-        connect(&loader, &kavoSceneLoader::canceled, [&] {
+        connect(&loader, &kavoBackgroundLoader::canceled, [&] {
             toldBefore = progress.count();
             for (int round = 0; round < 20; ++round) // a slice each
                 QCoreApplication::processEvents();
@@ -155,9 +155,9 @@ private slots:
 
     void loadingAgainCancelsTheLoadBefore()
     {
-        kavoSceneLoader loader;
-        QSignalSpy canceled(&loader, &kavoSceneLoader::canceled);
-        QSignalSpy loaded(&loader, &kavoSceneLoader::loaded);
+        kavoBackgroundLoader loader;
+        QSignalSpy canceled(&loader, &kavoBackgroundLoader::canceled);
+        QSignalSpy loaded(&loader, &kavoBackgroundLoader::loaded);
         loader.load({ model(house) });
         loader.load({ model(truck) });
         QTRY_COMPARE(loaded.count(), 1);
@@ -168,9 +168,9 @@ private slots:
 
     void aLoadCanceledByItsConfirmationIsOver()
     {
-        kavoSceneLoader loader;
-        QSignalSpy canceled(&loader, &kavoSceneLoader::canceled);
-        QSignalSpy loaded(&loader, &kavoSceneLoader::loaded);
+        kavoBackgroundLoader loader;
+        QSignalSpy canceled(&loader, &kavoBackgroundLoader::canceled);
+        QSignalSpy loaded(&loader, &kavoBackgroundLoader::loaded);
         loader.setConfirmation([&] {
             loader.cancel();
             return true;
@@ -183,8 +183,8 @@ private slots:
 
     void aLoadReplacedByItsConfirmationIsOver()
     {
-        kavoSceneLoader loader;
-        connect(&loader, &kavoSceneLoader::loaded, &kavoTestLoad::show);
+        kavoBackgroundLoader loader;
+        connect(&loader, &kavoBackgroundLoader::loaded, &kavoTestLoad::show);
         bool isAsked = false;
         loader.setConfirmation([&] {
             if (!std::exchange(isAsked, true))
@@ -198,5 +198,5 @@ private slots:
     }
 };
 
-KAVO_TEST_MAIN(tst_canceledload)
+KAVO_TEST_MAIN(tst_CanceledLoad)
 #include "tst_canceledload.moc"

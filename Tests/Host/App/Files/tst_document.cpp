@@ -21,7 +21,7 @@
 
 using namespace kavoTestLoad;
 
-class tst_document : public QObject
+class tst_Document : public QObject
 {
     Q_OBJECT
 
@@ -63,7 +63,7 @@ private:
 using Edit = void (*)(const osg::NodePtr &root, const osg::ChunkMaterialPtr &material);
 Q_DECLARE_METATYPE(Edit)
 
-void tst_document::init()
+void tst_Document::init()
 {
     osg::MaterialGroupPtr core;
     m_root = osg::makeCoredNode<osg::MaterialGroup>(&core);
@@ -79,25 +79,25 @@ void tst_document::init()
     m_document->setFiles({ "/models/ship.osg" });
 }
 
-void tst_document::cleanup()
+void tst_Document::cleanup()
 {
     m_document.reset();
     m_scene.reset();
 }
 
-void tst_document::edit()
+void tst_Document::edit()
 {
     osg::endEditCP(m_root, osg::Node::TravMaskFieldMask);
     m_scene->drainChanges();
 }
 
-void tst_document::anOpenedSceneIsNotModified()
+void tst_Document::anOpenedSceneIsNotModified()
 {
     m_scene->drainChanges();
     QVERIFY(!m_document->isModified());
 }
 
-void tst_document::anEditModifiesIt_data()
+void tst_Document::anEditModifiesIt_data()
 {
     QTest::addColumn<Edit>("edit");
     QTest::newRow("of a node") << Edit([](const osg::NodePtr &root, const osg::ChunkMaterialPtr &) {
@@ -135,7 +135,7 @@ void tst_document::anEditModifiesIt_data()
         });
 }
 
-void tst_document::anEditModifiesIt()
+void tst_Document::anEditModifiesIt()
 {
     QFETCH(Edit, edit);
     edit(m_root, m_material);
@@ -143,7 +143,7 @@ void tst_document::anEditModifiesIt()
     QVERIFY(m_document->isModified());
 }
 
-void tst_document::itIsNotModifiedBy_data()
+void tst_Document::itIsNotModifiedBy_data()
 {
     QTest::addColumn<Edit>("edit");
     QTest::newRow("volumes") << Edit([](const osg::NodePtr &root, const osg::ChunkMaterialPtr &) {
@@ -173,7 +173,7 @@ void tst_document::itIsNotModifiedBy_data()
            });
 }
 
-void tst_document::itIsNotModifiedBy()
+void tst_Document::itIsNotModifiedBy()
 {
     QFETCH(Edit, edit);
     edit(m_root, m_material);
@@ -181,7 +181,7 @@ void tst_document::itIsNotModifiedBy()
     QVERIFY(!m_document->isModified());
 }
 
-void tst_document::withoutASceneNothingIsModified()
+void tst_Document::withoutASceneNothingIsModified()
 {
     show(osg::NullFC);
     osg::setName(osg::makeCoredNode<osg::Group>(), "Loading");
@@ -189,7 +189,7 @@ void tst_document::withoutASceneNothingIsModified()
     QVERIFY(!m_document->isModified());
 }
 
-void tst_document::modifyingIsToldOnce()
+void tst_Document::modifyingIsToldOnce()
 {
     QSignalSpy changed(m_document.get(), &kavoDocument::changed);
     for (int i = 0; i < 3; ++i)
@@ -197,7 +197,7 @@ void tst_document::modifyingIsToldOnce()
     QCOMPARE(changed.size(), 1);
 }
 
-void tst_document::savingMakesItUnmodified()
+void tst_Document::savingMakesItUnmodified()
 {
     edit();
     m_document->save(m_folder.filePath("ship.osg"));
@@ -207,7 +207,7 @@ void tst_document::savingMakesItUnmodified()
     QCOMPARE(m_document->title(), QStringLiteral("ship.osg"));
 }
 
-void tst_document::discardedEditsAreBackWhenTheSceneStays()
+void tst_Document::discardedEditsAreBackWhenTheSceneStays()
 {
     m_document->discardEdits();
     m_document->keepEdits();
@@ -219,7 +219,7 @@ void tst_document::discardedEditsAreBackWhenTheSceneStays()
     QVERIFY(m_document->isModified());
 }
 
-void tst_document::discardedEditsThatAreSavedAreNotBack()
+void tst_Document::discardedEditsThatAreSavedAreNotBack()
 {
     edit();
     m_document->discardEdits();
@@ -228,7 +228,7 @@ void tst_document::discardedEditsThatAreSavedAreNotBack()
     QVERIFY(!m_document->isModified());
 }
 
-void tst_document::editsAfterDiscardingModifyIt()
+void tst_Document::editsAfterDiscardingModifyIt()
 {
     edit();
     m_document->discardEdits();
@@ -238,7 +238,7 @@ void tst_document::editsAfterDiscardingModifyIt()
     QVERIFY(m_document->isModified());
 }
 
-void tst_document::aFailedSaveKeepsItModified()
+void tst_Document::aFailedSaveKeepsItModified()
 {
     edit();
     QVERIFY_EXCEPTION_THROWN(
@@ -247,13 +247,13 @@ void tst_document::aFailedSaveKeepsItModified()
     QCOMPARE(m_document->file(), QStringLiteral("/models/ship.osg"));
 }
 
-void tst_document::theTitleNamesAllFiles()
+void tst_Document::theTitleNamesAllFiles()
 {
     m_document->setFiles({ "/models/ship.osg", "/others/tank.fbx" });
     QCOMPARE(m_document->title(), QStringLiteral("ship.osg, tank.fbx"));
 }
 
-void tst_document::onlySceneFilesAreSavedInPlace_data()
+void tst_Document::onlySceneFilesAreSavedInPlace_data()
 {
     QTest::addColumn<QStringList>("files");
     QTest::addColumn<QString>("file");
@@ -264,20 +264,20 @@ void tst_document::onlySceneFilesAreSavedInPlace_data()
     QTest::newRow("none") << QStringList {} << "";
 }
 
-void tst_document::onlySceneFilesAreSavedInPlace()
+void tst_Document::onlySceneFilesAreSavedInPlace()
 {
     QFETCH(QStringList, files);
     m_document->setFiles(files);
     QTEST(m_document->file(), "file");
 }
 
-void tst_document::theSuggestedFileIsBesideTheOpenedOne()
+void tst_Document::theSuggestedFileIsBesideTheOpenedOne()
 {
     m_document->setFiles({ "/models/truck.v2.gltf" });
     QCOMPARE(m_document->suggestedFile(), QStringLiteral("/models/truck.v2.osg"));
 }
 
-void tst_document::aFileThatWasReadInPartIsLeftAlone()
+void tst_Document::aFileThatWasReadInPartIsLeftAlone()
 {
     const QString file = m_folder.filePath("part.osg");
     QVERIFY(QFile(file).open(QIODevice::WriteOnly));
@@ -290,7 +290,7 @@ void tst_document::aFileThatWasReadInPartIsLeftAlone()
     QCOMPARE(m_document->file(), m_folder.filePath("copy.osg"));
 }
 
-void tst_document::itIsLeftAloneAfterSavingElsewhere()
+void tst_Document::itIsLeftAloneAfterSavingElsewhere()
 {
     const QString file = m_folder.filePath("damaged.osg");
     const QString copy = m_folder.filePath("whole.osg");
@@ -306,7 +306,7 @@ void tst_document::itIsLeftAloneAfterSavingElsewhere()
     QCOMPARE(m_document->file(), file);
 }
 
-void tst_document::anotherNameOfItIsNoWayAround()
+void tst_Document::anotherNameOfItIsNoWayAround()
 {
     const QString file = m_folder.filePath("linked.osg");
     QVERIFY(QFile(file).open(QIODevice::WriteOnly));
@@ -315,5 +315,5 @@ void tst_document::anotherNameOfItIsNoWayAround()
     QVERIFY_EXCEPTION_THROWN(m_document->save(m_folder.filePath("link.osg")), kavoTaskError);
 }
 
-KAVO_TEST_MAIN(tst_document)
+KAVO_TEST_MAIN(tst_Document)
 #include "tst_document.moc"

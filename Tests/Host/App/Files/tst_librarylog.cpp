@@ -4,7 +4,7 @@
 
 #include <QTest>
 
-class tst_librarylog : public QObject
+class tst_LibraryLog : public QObject
 {
     Q_OBJECT
 
@@ -14,7 +14,7 @@ private slots:
     void aLineWithoutAnEndIsLogged();
 };
 
-void tst_librarylog::whatIsMoreThanInformationIsAComplaint_data()
+void tst_LibraryLog::whatIsMoreThanInformationIsAComplaint_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<bool>("isComplaint");
@@ -26,7 +26,7 @@ void tst_librarylog::whatIsMoreThanInformationIsAComplaint_data()
     QTest::newRow("a warning without an end") << QByteArray("WARNING:  damaged") << true;
 }
 
-void tst_librarylog::whatIsMoreThanInformationIsAComplaint()
+void tst_LibraryLog::whatIsMoreThanInformationIsAComplaint()
 {
     QFETCH(QByteArray, text);
     const kavoConsoleCapture errors(kavoConsoleCapture::StandardError);
@@ -35,7 +35,7 @@ void tst_librarylog::whatIsMoreThanInformationIsAComplaint()
     QTEST(log.hasComplaints(), "isComplaint");
 }
 
-void tst_librarylog::aLineWithoutAnEndIsLogged()
+void tst_LibraryLog::aLineWithoutAnEndIsLogged()
 {
     kavoConsoleCapture errors(kavoConsoleCapture::StandardError);
     {
@@ -45,5 +45,5 @@ void tst_librarylog::aLineWithoutAnEndIsLogged()
     QCOMPARE(errors.text(), QByteArray("warning: damaged\n"));
 }
 
-KAVO_TEST_MAIN(tst_librarylog)
+KAVO_TEST_MAIN(tst_LibraryLog)
 #include "tst_librarylog.moc"

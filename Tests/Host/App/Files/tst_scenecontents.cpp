@@ -1,6 +1,6 @@
 #include "kavoTestLoad.h"
 
-#include "Files/kavoSceneLoader.h"
+#include "Files/kavoBackgroundLoader.h"
 #include "Scene/kavoContainers.h"
 #include "Scene/kavoSceneCameras.h"
 #include <kavoLog.h>
@@ -63,7 +63,7 @@ void countNames(const aiNode &node, QHash<QString, int> &names)
 
 } // namespace
 
-class tst_scenecontents : public QObject
+class tst_SceneContents : public QObject
 {
     Q_OBJECT
 
@@ -252,8 +252,8 @@ private slots:
         QTemporaryDir folder;
         QFile::copy(model(spider), folder.filePath("spider.fbx"));
         QFile::copy(model("OBJ/wal67ar_small.jpg"), folder.filePath("wal67ar_small.jpg"));
-        kavoSceneLoader loader;
-        connect(&loader, &kavoSceneLoader::loaded, &kavoTestLoad::show);
+        kavoBackgroundLoader loader;
+        connect(&loader, &kavoBackgroundLoader::loaded, &kavoTestLoad::show);
         loader.load({ folder.filePath("spider.fbx") });
         QTRY_VERIFY(!loader.isLoading());
         QVERIFY(chunk<osg::TextureChunk>(material("Skin")) != osg::NullFC);
@@ -273,5 +273,5 @@ private slots:
     }
 };
 
-KAVO_TEST_MAIN(tst_scenecontents)
+KAVO_TEST_MAIN(tst_SceneContents)
 #include "tst_scenecontents.moc"

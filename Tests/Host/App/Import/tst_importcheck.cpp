@@ -83,7 +83,7 @@ QString refusal(const aiScene &scene)
 
 } // namespace
 
-class tst_importcheck : public QObject
+class tst_ImportCheck : public QObject
 {
     Q_OBJECT
 
@@ -130,5 +130,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_importcheck)
+QTEST_GUILESS_MAIN(tst_ImportCheck)
 #include "tst_importcheck.moc"

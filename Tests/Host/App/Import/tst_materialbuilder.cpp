@@ -43,7 +43,7 @@ QImage twoRows(QImage::Format format)
 
 } // namespace
 
-class tst_materialbuilder : public QObject
+class tst_MaterialBuilder : public QObject
 {
     Q_OBJECT
 
@@ -164,5 +164,5 @@ private slots:
     }
 };
 
-KAVO_TEST_MAIN(tst_materialbuilder)
+KAVO_TEST_MAIN(tst_MaterialBuilder)
 #include "tst_materialbuilder.moc"

@@ -1,6 +1,6 @@
 #include "kavoTestLoad.h"
 
-#include "Files/kavoSceneLoader.h"
+#include "Files/kavoBackgroundLoader.h"
 #include "Scene/kavoNodeFinder.h"
 #include <kavoController.h>
 #include <kavoMessage.h>
@@ -16,10 +16,10 @@ QString kavoTestLoad::model(const QString &relativePath)
 
 osg::NodePtr kavoTestLoad::open(const QString &relativePath)
 {
-    kavoSceneLoader loader;
-    QObject::connect(&loader, &kavoSceneLoader::loaded, &loader, &kavoTestLoad::show);
-    QObject::connect(
-        &loader, &kavoSceneLoader::failed, &loader, [](const QString &file, const QString &reason) {
+    kavoBackgroundLoader loader;
+    QObject::connect(&loader, &kavoBackgroundLoader::loaded, &loader, &kavoTestLoad::show);
+    QObject::connect(&loader, &kavoBackgroundLoader::failed, &loader,
+        [](const QString &file, const QString &reason) {
             show(osg::NullFC);
             QWARN(qPrintable(file + ": " + reason));
         });

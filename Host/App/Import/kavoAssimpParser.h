@@ -5,19 +5,19 @@
 #include <QThreadPool>
 #include <memory>
 
-struct kavoImportedScene;
+struct kavoParsedFile;
 
 /// Parses one scene file at a time on a worker thread. It knows nothing of OpenSG, whose containers
 /// belong to the GUI thread. Signals arrive on the thread that owns the importer.
-class kavoSceneImporter : public QObject
+class kavoAssimpParser : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit kavoSceneImporter(QObject *parent = nullptr);
+    explicit kavoAssimpParser(QObject *parent = nullptr);
 
     /// Waits until the worker has noticed that nobody wants its result any more.
-    ~kavoSceneImporter() override;
+    ~kavoAssimpParser() override;
 
     /// Begins to parse; an unfinished job is canceled first. Ends in exactly one of `finished`
     /// and `failed`, unless it is canceled.
@@ -31,7 +31,7 @@ public:
 
 signals:
     void progress(int percent);
-    void finished(const std::shared_ptr<kavoImportedScene> &scene);
+    void finished(const std::shared_ptr<kavoParsedFile> &scene);
     void failed(const QString &fileName, const QString &reason);
 
 private:

@@ -11,7 +11,7 @@ struct aiScene;
 
 /// What a file holds once it is parsed: Assimp's own tree, and the images that its materials name.
 /// Made on a worker thread, then handed over whole to the GUI thread.
-struct kavoImportedScene
+struct kavoParsedFile
 {
     QString fileName;
     std::unique_ptr<Assimp::Importer> importer; ///< owns `scene`

@@ -16,7 +16,7 @@
 struct aiCamera;
 struct aiLight;
 struct aiNode;
-struct kavoImportedScene;
+struct kavoParsedFile;
 
 /// Builds the containers of one parsed file, in steps that are each done in a moment. GUI thread.
 ///
@@ -25,12 +25,12 @@ struct kavoImportedScene;
 /// light's node holds the light and, as a child, its beacon, which carries all that the node
 /// carries in the file. The beacon of a camera is the node of the camera's name. Lights and cameras
 /// whose node is missing get one.
-class kavoFileBuilder
+class kavoGraphBuilder
 {
 public:
     /// \param root gets the file's root node as a child
     /// \param library gets a node with a MaterialGroup for each material of the file
-    kavoFileBuilder(std::shared_ptr<kavoImportedScene> file, const osg::NodePtr &root,
+    kavoGraphBuilder(std::shared_ptr<kavoParsedFile> file, const osg::NodePtr &root,
         const osg::NodePtr &library);
 
     int stepCount() const;
@@ -61,7 +61,7 @@ private:
     void buildCamera(const aiCamera &camera, const osg::NodePtr &place);
     void addMeshes(const aiNode &source, const osg::NodePtr &place, unsigned int first);
 
-    std::shared_ptr<kavoImportedScene> m_file;
+    std::shared_ptr<kavoParsedFile> m_file;
     osg::NodePtr m_root, m_library;
     QMap<QByteArray, const aiLight *> m_lightsByName;
     QMap<QByteArray, const aiCamera *> m_camerasByName;

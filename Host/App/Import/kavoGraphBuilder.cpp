@@ -1,12 +1,12 @@
-#include "Import/kavoFileBuilder.h"
+#include "Import/kavoGraphBuilder.h"
 
 #include "Import/kavoAssimpTypes.h"
 #include "Import/kavoCameraBuilder.h"
 #include "Import/kavoGeometryBuilder.h"
-#include "Import/kavoImportedScene.h"
 #include "Import/kavoLightBuilder.h"
 #include "Import/kavoMaterialBuilder.h"
 #include "Import/kavoMetadataReader.h"
+#include "Import/kavoParsedFile.h"
 #include "Import/kavoTextureSlot.h"
 
 #include <OpenSG/OSGGroup.h>
@@ -71,8 +71,8 @@ int countNodes(const aiNode &node)
 
 } // namespace
 
-kavoFileBuilder::kavoFileBuilder(
-    std::shared_ptr<kavoImportedScene> file, const osg::NodePtr &root, const osg::NodePtr &library)
+kavoGraphBuilder::kavoGraphBuilder(
+    std::shared_ptr<kavoParsedFile> file, const osg::NodePtr &root, const osg::NodePtr &library)
     : m_file(std::move(file))
     , m_root(root)
     , m_library(library)
@@ -82,20 +82,20 @@ kavoFileBuilder::kavoFileBuilder(
     index();
 }
 
-int kavoFileBuilder::stepCount() const
+int kavoGraphBuilder::stepCount() const
 {
     const aiScene &scene = *m_file->scene;
     return std::max(m_stepsDone, int(scene.mNumMaterials + scene.mNumMeshes) + m_nodeCount);
 }
 
-bool kavoFileBuilder::step()
+bool kavoGraphBuilder::step()
 {
     const bool done = buildNextMaterial() || buildNextMesh() || buildNextNode() || buildNextStray();
     m_stepsDone += done;
     return done;
 }
 
-void kavoFileBuilder::index()
+void kavoGraphBuilder::index()
 {
     const aiScene &scene = *m_file->scene;
     for (unsigned int i = 0; i < scene.mNumLights; ++i)
@@ -104,7 +104,7 @@ void kavoFileBuilder::index()
         m_camerasByName.insert(key(scene.mCameras[i]->mName), scene.mCameras[i]);
 }
 
-bool kavoFileBuilder::buildNextMaterial()
+bool kavoGraphBuilder::buildNextMaterial()
 {
     if (m_materials.size() == m_file->scene->mNumMaterials)
         return false;
@@ -120,7 +120,7 @@ bool kavoFileBuilder::buildNextMaterial()
 }
 
 /// Materials that name the same file share its image. Null without a path and for a missing file.
-osg::ImagePtr kavoFileBuilder::image(const QString &path)
+osg::ImagePtr kavoGraphBuilder::image(const QString &path)
 {
     const QImage pixels = m_file->textures.value(path);
     if (pixels.isNull())
@@ -131,7 +131,7 @@ osg::ImagePtr kavoFileBuilder::image(const QString &path)
     return image.get();
 }
 
-bool kavoFileBuilder::buildNextMesh()
+bool kavoGraphBuilder::buildNextMesh()
 {
     if (m_geometries.size() == m_file->scene->mNumMeshes)
         return false;
@@ -144,7 +144,7 @@ bool kavoFileBuilder::buildNextMesh()
     return true;
 }
 
-bool kavoFileBuilder::buildNextNode()
+bool kavoGraphBuilder::buildNextNode()
 {
     if (m_pendingNodes.empty())
         return false;
@@ -154,7 +154,7 @@ bool kavoFileBuilder::buildNextNode()
     return true;
 }
 
-bool kavoFileBuilder::buildNextStray()
+bool kavoGraphBuilder::buildNextStray()
 {
     if (m_lightsByName.isEmpty() && m_camerasByName.isEmpty())
         return false;
@@ -165,7 +165,7 @@ bool kavoFileBuilder::buildNextStray()
     return true;
 }
 
-void kavoFileBuilder::buildNode(const aiNode &source, const osg::NodePtr &parent)
+void kavoGraphBuilder::buildNode(const aiNode &source, const osg::NodePtr &parent)
 {
     const aiLight *light = m_lightsByName.take(key(source.mName));
     const aiCamera *camera = m_camerasByName.take(key(source.mName));
@@ -178,7 +178,7 @@ void kavoFileBuilder::buildNode(const aiNode &source, const osg::NodePtr &parent
         m_pendingNodes.push_back({ *child, place });
 }
 
-osg::NodePtr kavoFileBuilder::buildPlace(const aiNode &source, const osg::NodePtr &parent)
+osg::NodePtr kavoGraphBuilder::buildPlace(const aiNode &source, const osg::NodePtr &parent)
 {
     const osg::NodePtr node = addChild(parent, source.mName.C_Str());
     kavoMetadataReader::attach(node, source.mMetaData);
@@ -194,7 +194,7 @@ osg::NodePtr kavoFileBuilder::buildPlace(const aiNode &source, const osg::NodePt
     return node;
 }
 
-osg::NodePtr kavoFileBuilder::buildLight(
+osg::NodePtr kavoGraphBuilder::buildLight(
     const aiLight &light, const aiNode &source, const osg::NodePtr &parent)
 {
     const osg::NodePtr node = addChild(parent, source.mName.C_Str());
@@ -210,7 +210,7 @@ osg::NodePtr kavoFileBuilder::buildLight(
     return beacon;
 }
 
-void kavoFileBuilder::buildCamera(const aiCamera &camera, const osg::NodePtr &place)
+void kavoGraphBuilder::buildCamera(const aiCamera &camera, const osg::NodePtr &place)
 {
     const osg::Matrix placement = kavoCameraBuilder::placement(camera);
     osg::NodePtr beacon = place;
@@ -225,7 +225,8 @@ void kavoFileBuilder::buildCamera(const aiCamera &camera, const osg::NodePtr &pl
     osg::endEditCP(result, osg::Camera::BeaconFieldMask);
 }
 
-void kavoFileBuilder::addMeshes(const aiNode &source, const osg::NodePtr &place, unsigned int first)
+void kavoGraphBuilder::addMeshes(
+    const aiNode &source, const osg::NodePtr &place, unsigned int first)
 {
     for (unsigned int i = first; i < source.mNumMeshes; ++i) {
         const unsigned int mesh = source.mMeshes[i];

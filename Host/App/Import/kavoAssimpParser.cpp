@@ -1,9 +1,9 @@
-#include "Import/kavoSceneImporter.h"
+#include "Import/kavoAssimpParser.h"
 
 #include "Basics/kavoTry.h"
 #include "Import/kavoImportCheck.h"
 #include "Import/kavoImportProgress.h"
-#include "Import/kavoImportedScene.h"
+#include "Import/kavoParsedFile.h"
 #include "Import/kavoTextureReader.h"
 #include "Import/kavoTextureSlot.h"
 
@@ -38,26 +38,26 @@ void requireScene(const aiScene *scene, const Assimp::Importer &importer)
 
 } // namespace
 
-struct kavoSceneImporter::Job
+struct kavoAssimpParser::Job
 {
-    std::shared_ptr<kavoImportedScene> result = std::make_shared<kavoImportedScene>();
+    std::shared_ptr<kavoParsedFile> result = std::make_shared<kavoParsedFile>();
     std::optional<QString> reason; // of a failure
     std::atomic_bool canceled { false };
 };
 
-kavoSceneImporter::kavoSceneImporter(QObject *parent)
+kavoAssimpParser::kavoAssimpParser(QObject *parent)
     : QObject(parent)
 {
     m_workers.setStackSize(stackBytes);
 }
 
-kavoSceneImporter::~kavoSceneImporter()
+kavoAssimpParser::~kavoAssimpParser()
 {
     cancel();
     wait();
 }
 
-void kavoSceneImporter::start(const QString &fileName)
+void kavoAssimpParser::start(const QString &fileName)
 {
     cancel();
     m_job = std::make_shared<Job>();
@@ -65,7 +65,7 @@ void kavoSceneImporter::start(const QString &fileName)
     m_workers.start([this, job = m_job] { run(job); });
 }
 
-void kavoSceneImporter::cancel()
+void kavoAssimpParser::cancel()
 {
     if (m_job) {
         m_job->canceled = true;
@@ -73,7 +73,7 @@ void kavoSceneImporter::cancel()
     }
 }
 
-void kavoSceneImporter::run(const std::shared_ptr<Job> &job)
+void kavoAssimpParser::run(const std::shared_ptr<Job> &job)
 {
     const auto failure = kavoTry([&] {
         parse(*job);
@@ -88,7 +88,7 @@ void kavoSceneImporter::run(const std::shared_ptr<Job> &job)
         this, [this, job] { conclude(job); }, Qt::QueuedConnection);
 }
 
-void kavoSceneImporter::parse(Job &job)
+void kavoAssimpParser::parse(Job &job)
 {
     const auto report = [this, id = &job](int percent) {
         const auto tell = [this, id, percent] {
@@ -97,7 +97,7 @@ void kavoSceneImporter::parse(Job &job)
         };
         QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
     };
-    kavoImportedScene &result = *job.result;
+    kavoParsedFile &result = *job.result;
     result.importer = makeImporter(new kavoImportProgress(job.canceled, report));
     Assimp::Importer &importer = *result.importer;
     requireScene(importer.ReadFile(result.fileName.toStdString(), 0), importer);
@@ -106,9 +106,9 @@ void kavoSceneImporter::parse(Job &job)
     requireScene(result.scene, importer);
 }
 
-void kavoSceneImporter::readTextures(Job &job)
+void kavoAssimpParser::readTextures(Job &job)
 {
-    kavoImportedScene &result = *job.result;
+    kavoParsedFile &result = *job.result;
     const kavoTextureReader reader(*result.scene, result.fileName);
     for (unsigned int i = 0; i < result.scene->mNumMaterials && !job.canceled; ++i) {
         const QString path = kavoTextureSlot::of(*result.scene->mMaterials[i]).path;
@@ -120,7 +120,7 @@ void kavoSceneImporter::readTextures(Job &job)
     }
 }
 
-void kavoSceneImporter::conclude(const std::shared_ptr<Job> &job)
+void kavoAssimpParser::conclude(const std::shared_ptr<Job> &job)
 {
     if (job != m_job)
         return; // canceled meanwhile

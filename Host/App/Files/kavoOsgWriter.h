@@ -7,9 +7,9 @@
 
 /// Saves scenes in OpenSG's ASCII format, with what is in them and the cameras of the open scene.
 /// GUI thread.
-class kavoSceneSaver
+class kavoOsgWriter
 {
-    Q_DECLARE_TR_FUNCTIONS(kavoSceneSaver)
+    Q_DECLARE_TR_FUNCTIONS(kavoOsgWriter)
 
 public:
     /// The suffix of files that can be saved, without the dot.

@@ -1,10 +1,10 @@
-#include "Files/kavoSceneLoader.h"
+#include "Files/kavoBackgroundLoader.h"
 
 #include "Basics/kavoTry.h"
-#include "Files/kavoSceneReader.h"
-#include "Import/kavoImportedScene.h"
-#include "Import/kavoSceneBuilder.h"
-#include "Import/kavoSceneImporter.h"
+#include "Files/kavoOsgReader.h"
+#include "Import/kavoAssimpParser.h"
+#include "Import/kavoIncrementalBuilder.h"
+#include "Import/kavoParsedFile.h"
 #include "Scene/kavoSceneCameras.h"
 
 #include <kavoLog.h>
@@ -25,86 +25,86 @@ QString baseName(const QString &file)
 
 } // namespace
 
-kavoSceneLoader::kavoSceneLoader(QObject *parent)
+kavoBackgroundLoader::kavoBackgroundLoader(QObject *parent)
     : QObject(parent)
-    , m_importer(new kavoSceneImporter(this))
+    , m_parser(new kavoAssimpParser(this))
 {
     qRegisterMetaType<osg::NodePtr>();
     m_retry.setSingleShot(true);
     m_retry.setInterval(retryMilliseconds);
-    connect(&m_retry, &QTimer::timeout, this, &kavoSceneLoader::conclude);
-    connect(m_importer, &kavoSceneImporter::finished, this, &kavoSceneLoader::addFile);
-    connect(m_importer, &kavoSceneImporter::failed, this, &kavoSceneLoader::fail);
-    connect(m_importer, &kavoSceneImporter::progress, this, [this](int percent) {
+    connect(&m_retry, &QTimer::timeout, this, &kavoBackgroundLoader::conclude);
+    connect(m_parser, &kavoAssimpParser::finished, this, &kavoBackgroundLoader::addFile);
+    connect(m_parser, &kavoAssimpParser::failed, this, &kavoBackgroundLoader::fail);
+    connect(m_parser, &kavoAssimpParser::progress, this, [this](int percent) {
         const int files = m_files.size();
-        const int done = 100 * int(m_imported.size()) + percent;
+        const int done = 100 * int(m_parsed.size()) + percent;
         emit progress(parsingShare * done / (100 * files),
-            tr("Reading %1").arg(baseName(m_files[int(m_imported.size())])));
+            tr("Reading %1").arg(baseName(m_files[int(m_parsed.size())])));
     });
 }
 
-void kavoSceneLoader::load(const QStringList &files)
+void kavoBackgroundLoader::load(const QStringList &files)
 {
     cancel();
     for (const QString &file : files)
-        (kavoSceneReader::canRead(file) ? m_sceneFiles : m_files) << file;
+        (kavoOsgReader::canRead(file) ? m_sceneFiles : m_files) << file;
     if (!m_files.isEmpty())
-        importNext();
+        parseNext();
     else if (!m_sceneFiles.isEmpty())
         build();
 }
 
-void kavoSceneLoader::cancel()
+void kavoBackgroundLoader::cancel()
 {
     if (!isLoading())
         return;
-    m_importer->cancel();
+    m_parser->cancel();
     reset();
     emit canceled();
 }
 
-void kavoSceneLoader::shutDown()
+void kavoBackgroundLoader::shutDown()
 {
     cancel();
-    m_importer->wait();
+    m_parser->wait();
 }
 
-bool kavoSceneLoader::isLoading() const
+bool kavoBackgroundLoader::isLoading() const
 {
     return !m_files.isEmpty() || !m_sceneFiles.isEmpty();
 }
 
-void kavoSceneLoader::importNext()
+void kavoBackgroundLoader::parseNext()
 {
-    const QString &file = m_files[int(m_imported.size())];
-    emit progress(parsingShare * int(m_imported.size()) / m_files.size(),
-        tr("Reading %1").arg(baseName(file)));
-    m_importer->start(file);
+    const QString &file = m_files[int(m_parsed.size())];
+    emit progress(
+        parsingShare * int(m_parsed.size()) / m_files.size(), tr("Reading %1").arg(baseName(file)));
+    m_parser->start(file);
 }
 
-void kavoSceneLoader::addFile(const std::shared_ptr<kavoImportedScene> &file)
+void kavoBackgroundLoader::addFile(const std::shared_ptr<kavoParsedFile> &file)
 {
     for (const QString &warning : qAsConst(file->warnings))
         kavoLog::warning("%s: %s", qUtf8Printable(file->fileName), qUtf8Printable(warning));
-    m_imported.push_back(file);
-    if (int(m_imported.size()) < m_files.size())
-        importNext();
+    m_parsed.push_back(file);
+    if (int(m_parsed.size()) < m_files.size())
+        parseNext();
     else
         build();
 }
 
-void kavoSceneLoader::build()
+void kavoBackgroundLoader::build()
 {
-    m_builder = new kavoSceneBuilder(m_imported, this);
-    connect(m_builder, &kavoSceneBuilder::finished, this, &kavoSceneLoader::conclude);
-    connect(m_builder, &kavoSceneBuilder::progress, this, [this](int percent) {
+    m_builder = new kavoIncrementalBuilder(m_parsed, this);
+    connect(m_builder, &kavoIncrementalBuilder::finished, this, &kavoBackgroundLoader::conclude);
+    connect(m_builder, &kavoIncrementalBuilder::progress, this, [this](int percent) {
         emit progress(
             parsingShare + percent * (100 - parsingShare) / 100, tr("Building the scene"));
     });
     m_builder->start();
 }
 
-void kavoSceneLoader::conclude()
+void kavoBackgroundLoader::conclude()
 {
     if (QApplication::activeModalWidget())
         return m_retry.start();
@@ -124,9 +124,9 @@ void kavoSceneLoader::conclude()
 }
 
 // The confirmation may run an event loop, in which this load ends or another begins.
-bool kavoSceneLoader::mayReplaceScene()
+bool kavoBackgroundLoader::mayReplaceScene()
 {
-    const QPointer<kavoSceneBuilder> builder = m_builder;
+    const QPointer<kavoIncrementalBuilder> builder = m_builder;
     const bool mayReplace = m_mayReplaceScene();
     const bool isSameLoad = builder && builder == m_builder;
     if (isSameLoad && !mayReplace)
@@ -135,10 +135,10 @@ bool kavoSceneLoader::mayReplaceScene()
 }
 
 // Below what was built of other files; a scene file on its own is the scene.
-kavoNodePtr kavoSceneLoader::withSceneFile(const kavoNodePtr &root, const QString &file)
+kavoNodePtr kavoBackgroundLoader::withSceneFile(const kavoNodePtr &root, const QString &file)
 {
     emit progress(parsingShare, tr("Reading %1").arg(baseName(file)));
-    const kavoSceneReader::Scene scene = kavoSceneReader::read(file);
+    const kavoOsgReader::Scene scene = kavoOsgReader::read(file);
     if (!scene.isWhole)
         m_partlyRead << file;
     m_cameras.insert(m_cameras.end(), scene.cameras.begin(), scene.cameras.end());
@@ -148,20 +148,20 @@ kavoNodePtr kavoSceneLoader::withSceneFile(const kavoNodePtr &root, const QStrin
     return root;
 }
 
-void kavoSceneLoader::fail(const QString &file, const QString &reason)
+void kavoBackgroundLoader::fail(const QString &file, const QString &reason)
 {
     reset();
     emit failed(file, reason);
 }
 
-void kavoSceneLoader::reset()
+void kavoBackgroundLoader::reset()
 {
     m_retry.stop();
     m_files.clear();
     m_sceneFiles.clear();
     m_partlyRead.clear();
     m_cameras.clear();
-    m_imported.clear();
+    m_parsed.clear();
     if (m_builder) { // perhaps in the midst of a signal
         m_builder->disconnect(this);
         m_builder->deleteLater();

@@ -1,9 +1,9 @@
-#include "Files/kavoSceneSaver.h"
+#include "Files/kavoOsgWriter.h"
 
 #include "Basics/kavoOutputFile.h"
 #include "Basics/kavoTaskError.h"
+#include "Files/kavoCameraAttachment.h"
 #include "Files/kavoLibraryLog.h"
-#include "Files/kavoSavedCameras.h"
 
 #include <OpenSG/OSGSceneFileHandler.h>
 
@@ -18,7 +18,7 @@ namespace {
 void write(const osg::NodePtr &root, const kavoOutputFile &file)
 {
     const kavoLibraryLog log;
-    const kavoSavedCameras cameras(root);
+    const kavoCameraAttachment cameras(root);
     std::ofstream stream(QFile::encodeName(file.path()).toStdString(), std::ios::binary);
     errno = 0;
     const bool written = osg::SceneFileHandler::the().write(root, stream, "osg");
@@ -27,27 +27,27 @@ void write(const osg::NodePtr &root, const kavoOutputFile &file)
     if (!isWhole || !stream.good())
         file.fail(errno != 0 ? errno : EIO);
     if (!written)
-        throw kavoTaskError(kavoSceneSaver::tr("The scene cannot be saved; the log says why"));
+        throw kavoTaskError(kavoOsgWriter::tr("The scene cannot be saved; the log says why"));
 }
 
 }
 
-QString kavoSceneSaver::suffix()
+QString kavoOsgWriter::suffix()
 {
     return QStringLiteral("osg");
 }
 
-bool kavoSceneSaver::canSave(const QString &file)
+bool kavoOsgWriter::canSave(const QString &file)
 {
     return QFileInfo(file).suffix().compare(suffix(), Qt::CaseInsensitive) == 0;
 }
 
-void kavoSceneSaver::useFaithfulFormat()
+void kavoOsgWriter::useFaithfulFormat()
 {
     osg::SceneFileHandler::the().setOptions("osg", "whitespace=keep lists=replace");
 }
 
-void kavoSceneSaver::save(const osg::NodePtr &root, const QString &file)
+void kavoOsgWriter::save(const osg::NodePtr &root, const QString &file)
 {
     if (root == osg::NullFC)
         throw kavoTaskError(tr("There is no scene to save"));

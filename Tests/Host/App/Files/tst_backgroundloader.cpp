@@ -1,6 +1,6 @@
 #include "kavoTestLoad.h"
 
-#include "Files/kavoSceneLoader.h"
+#include "Files/kavoBackgroundLoader.h"
 #include "Scene/kavoContainers.h"
 #include <kavoNodeUtils.h>
 #include <kavoScenegraph.h>
@@ -63,7 +63,7 @@ QString damagedFile(const QTemporaryDir &folder, Damage damage)
 
 Q_DECLARE_METATYPE(Damage)
 
-class tst_sceneloader : public QObject
+class tst_BackgroundLoader : public QObject
 {
     Q_OBJECT
 
@@ -73,8 +73,8 @@ private slots:
     void aDeeplyNestedFileIsLoaded()
     {
         const QTemporaryDir folder;
-        kavoSceneLoader loader;
-        connect(&loader, &kavoSceneLoader::loaded, &kavoTestLoad::show);
+        kavoBackgroundLoader loader;
+        connect(&loader, &kavoBackgroundLoader::loaded, &kavoTestLoad::show);
         loader.load({ deepFile(folder, 5000) });
         QTRY_VERIFY_WITH_TIMEOUT(!loader.isLoading(), 20000);
         QVERIFY(find("Last") != osg::NullFC);
@@ -84,8 +84,8 @@ private slots:
     void aFileNestedTooDeeplyIsRefused()
     {
         const QTemporaryDir folder;
-        kavoSceneLoader loader;
-        QSignalSpy failed(&loader, &kavoSceneLoader::failed);
+        kavoBackgroundLoader loader;
+        QSignalSpy failed(&loader, &kavoBackgroundLoader::failed);
         loader.load({ deepFile(folder, 20000) });
         QTRY_COMPARE_WITH_TIMEOUT(failed.count(), 1, 20000);
         QCOMPARE(failed[0][1].toString(), QString("the nodes of the file are nested too deeply"));
@@ -93,8 +93,8 @@ private slots:
 
     void severalFilesBecomeOneScene()
     {
-        kavoSceneLoader loader;
-        connect(&loader, &kavoSceneLoader::loaded, &kavoTestLoad::show);
+        kavoBackgroundLoader loader;
+        connect(&loader, &kavoBackgroundLoader::loaded, &kavoTestLoad::show);
         loader.load({ model(truck), model(lights) });
         QTRY_VERIFY(!loader.isLoading());
         QCOMPARE(kavoNodeUtils::getName(kavoScenegraph::getRoot()), "Scene");
@@ -105,9 +105,9 @@ private slots:
 
     void aSceneThatNobodyTakesIsGone()
     {
-        kavoSceneLoader loader;
+        kavoBackgroundLoader loader;
         osg::UInt32 root = 0;
-        connect(&loader, &kavoSceneLoader::loaded,
+        connect(&loader, &kavoBackgroundLoader::loaded,
             [&](const osg::NodePtr &node) { root = kavoContainers::id(node); });
         loader.load({ model(truck) });
         QTRY_VERIFY(root != 0);
@@ -118,9 +118,9 @@ private slots:
     {
         const QTemporaryDir folder;
         const osg::NodePtr before = open(truck);
-        kavoSceneLoader loader;
-        QSignalSpy failed(&loader, &kavoSceneLoader::failed);
-        QSignalSpy loaded(&loader, &kavoSceneLoader::loaded);
+        kavoBackgroundLoader loader;
+        QSignalSpy failed(&loader, &kavoBackgroundLoader::failed);
+        QSignalSpy loaded(&loader, &kavoBackgroundLoader::loaded);
         loader.load({ brokenFile(folder) });
         QTRY_COMPARE(failed.count(), 1);
         QCOMPARE(failed.first().at(0).toString(), brokenFile(folder));
@@ -133,9 +133,9 @@ private slots:
     void oneBrokenFileOfSeveralEndsTheLoad()
     {
         const QTemporaryDir folder;
-        kavoSceneLoader loader;
-        QSignalSpy failed(&loader, &kavoSceneLoader::failed);
-        QSignalSpy loaded(&loader, &kavoSceneLoader::loaded);
+        kavoBackgroundLoader loader;
+        QSignalSpy failed(&loader, &kavoBackgroundLoader::failed);
+        QSignalSpy loaded(&loader, &kavoBackgroundLoader::loaded);
         loader.load({ model(truck), brokenFile(folder) });
         QTRY_COMPARE(failed.count(), 1);
         QCOMPARE(loaded.count(), 0);
@@ -163,9 +163,9 @@ private slots:
         QFETCH(Damage, damage);
         QFETCH(QString, reason);
         const QTemporaryDir folder;
-        kavoSceneLoader loader;
+        kavoBackgroundLoader loader;
         QString refusal;
-        connect(&loader, &kavoSceneLoader::failed,
+        connect(&loader, &kavoBackgroundLoader::failed,
             [&](const QString &, const QString &why) { refusal = why; });
         loader.load({ damagedFile(folder, damage) });
         QTRY_VERIFY(!loader.isLoading());
@@ -174,8 +174,8 @@ private slots:
 
     void aMissingFileFails()
     {
-        kavoSceneLoader loader;
-        QSignalSpy failed(&loader, &kavoSceneLoader::failed);
+        kavoBackgroundLoader loader;
+        QSignalSpy failed(&loader, &kavoBackgroundLoader::failed);
         loader.load({ QStringLiteral("no such file.obj") });
         QTRY_COMPARE(failed.count(), 1);
         QCOMPARE(failed.first().first().toString(), QString("no such file.obj"));
@@ -183,16 +183,16 @@ private slots:
 
     void anEmptyListLoadsNothing()
     {
-        kavoSceneLoader loader;
+        kavoBackgroundLoader loader;
         loader.load({});
         QVERIFY(!loader.isLoading());
     }
 
     void progressRisesToAHundred()
     {
-        kavoSceneLoader loader;
-        QSignalSpy progress(&loader, &kavoSceneLoader::progress);
-        QSignalSpy loaded(&loader, &kavoSceneLoader::loaded);
+        kavoBackgroundLoader loader;
+        QSignalSpy progress(&loader, &kavoBackgroundLoader::progress);
+        QSignalSpy loaded(&loader, &kavoBackgroundLoader::loaded);
         loader.load({ model(house) });
         QTRY_COMPARE(loaded.count(), 1);
         int last = 0;
@@ -205,8 +205,8 @@ private slots:
 
     void theEventLoopKeepsRunningWhileABigSceneIsBuilt()
     {
-        kavoSceneLoader loader;
-        QSignalSpy loaded(&loader, &kavoSceneLoader::loaded);
+        kavoBackgroundLoader loader;
+        QSignalSpy loaded(&loader, &kavoBackgroundLoader::loaded);
         int rounds = 0;
         QTimer ticker;
         connect(&ticker, &QTimer::timeout, [&] { ++rounds; });
@@ -235,10 +235,10 @@ private slots:
     void everyModelLoadsOrSaysWhyNot()
     {
         QFETCH(QString, file);
-        kavoSceneLoader loader;
-        QSignalSpy failed(&loader, &kavoSceneLoader::failed);
-        QSignalSpy loaded(&loader, &kavoSceneLoader::loaded);
-        connect(&loader, &kavoSceneLoader::loaded, &kavoTestLoad::show);
+        kavoBackgroundLoader loader;
+        QSignalSpy failed(&loader, &kavoBackgroundLoader::failed);
+        QSignalSpy loaded(&loader, &kavoBackgroundLoader::loaded);
+        connect(&loader, &kavoBackgroundLoader::loaded, &kavoTestLoad::show);
         loader.load({ model(file) });
         QTRY_VERIFY_WITH_TIMEOUT(!loader.isLoading(), 20000);
         QCOMPARE(failed.count() + loaded.count(), 1);
@@ -250,5 +250,5 @@ private slots:
     }
 };
 
-KAVO_TEST_MAIN(tst_sceneloader)
-#include "tst_sceneloader.moc"
+KAVO_TEST_MAIN(tst_BackgroundLoader)
+#include "tst_backgroundloader.moc"

@@ -1,9 +1,9 @@
 #include "kavoTestLoad.h"
 
 #include "Basics/kavoTaskError.h"
-#include "Files/kavoSceneLoader.h"
-#include "Files/kavoSceneReader.h"
-#include "Files/kavoSceneSaver.h"
+#include "Files/kavoBackgroundLoader.h"
+#include "Files/kavoOsgReader.h"
+#include "Files/kavoOsgWriter.h"
 #include "Scene/kavoSceneCameras.h"
 #include <kavoLog.h>
 #include <kavoScenegraph.h>
@@ -24,7 +24,7 @@
 
 using namespace kavoTestLoad;
 
-class tst_scenesaver : public QObject
+class tst_OsgWriter : public QObject
 {
     Q_OBJECT
 
@@ -111,30 +111,30 @@ QByteArray contents(const QString &file)
 
 }
 
-void tst_scenesaver::init()
+void tst_OsgWriter::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
     kavoSceneCameras::set({});
     show(osg::NullFC);
 }
 
-void tst_scenesaver::write(const QString &file, const QByteArray &text) const
+void tst_OsgWriter::write(const QString &file, const QByteArray &text) const
 {
     QFile output(file);
     QVERIFY(output.open(QIODevice::WriteOnly));
     output.write(text);
 }
 
-osg::NodePtr tst_scenesaver::reload(const QString &file)
+osg::NodePtr tst_OsgWriter::reload(const QString &file)
 {
-    kavoSceneSaver::save(kavoScenegraph::getRoot(), file);
-    const kavoSceneReader::Scene scene = kavoSceneReader::read(file);
+    kavoOsgWriter::save(kavoScenegraph::getRoot(), file);
+    const kavoOsgReader::Scene scene = kavoOsgReader::read(file);
     kavoSceneCameras::set(scene.cameras);
     show(osg::NodePtr(scene.root));
     return kavoScenegraph::getRoot();
 }
 
-void tst_scenesaver::aModelComesBackNodeByNode_data()
+void tst_OsgWriter::aModelComesBackNodeByNode_data()
 {
     QTest::addColumn<QString>("model");
     QTest::newRow("geometries and textures") << "glTF/BoxTextured-glTF/BoxTextured.gltf";
@@ -142,7 +142,7 @@ void tst_scenesaver::aModelComesBackNodeByNode_data()
     QTest::newRow("cameras") << "Collada/cameras.dae";
 }
 
-void tst_scenesaver::aModelComesBackNodeByNode()
+void tst_OsgWriter::aModelComesBackNodeByNode()
 {
     QFETCH(QString, model);
     const osg::NodePtr scene = open(model);
@@ -151,7 +151,7 @@ void tst_scenesaver::aModelComesBackNodeByNode()
     QCOMPARE(withoutIds(names(reload(path("model.osg")))), withoutIds(before));
 }
 
-void tst_scenesaver::camerasComeBackWithTheirNodes()
+void tst_OsgWriter::camerasComeBackWithTheirNodes()
 {
     open("Collada/cameras.dae");
     const auto count = kavoSceneCameras::nodeIds().size();
@@ -165,19 +165,19 @@ void tst_scenesaver::camerasComeBackWithTheirNodes()
     QVERIFY(names(scene).filter(beacon).size() > 0);
 }
 
-void tst_scenesaver::savingLeavesNoTraceInTheScene()
+void tst_OsgWriter::savingLeavesNoTraceInTheScene()
 {
     const osg::NodePtr scene = open("Collada/cameras.dae");
     const auto before = scene->getSFAttachments()->getValue().size();
     const osg::CameraPtr camera = kavoSceneCameras::at(kavoSceneCameras::nodeIds().front());
     const osg::Int32 references = camera.getRefCount();
-    kavoSceneSaver::save(scene, path("a.osg"));
+    kavoOsgWriter::save(scene, path("a.osg"));
     QCOMPARE(scene->getSFAttachments()->getValue().size(), before);
     QCOMPARE(camera.getRefCount(), references);
     QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files), QStringList("a.osg"));
 }
 
-void tst_scenesaver::valuePairsComeBack()
+void tst_OsgWriter::valuePairsComeBack()
 {
     const std::string value = "two\nlines with \"quotes\" and \xc3\xbc" + std::string(70, 'x');
     const osg::ValuePairBasePtr pairs = osg::ValuePairBase::create();
@@ -189,7 +189,7 @@ void tst_scenesaver::valuePairsComeBack()
     QCOMPARE(read->getMFValues()->getValue(0), value);
 }
 
-void tst_scenesaver::animationsComeBackWithTheirNodes()
+void tst_OsgWriter::animationsComeBackWithTheirNodes()
 {
     const osg::AnimNodeBasePtr animation = osg::AnimNodeBase::create();
     const osg::NodePtr root = groupWith(animation);
@@ -204,7 +204,7 @@ void tst_scenesaver::animationsComeBackWithTheirNodes()
     QVERIFY(read->getMFNodes()->getValue(1) == copy->getChild(0));
 }
 
-void tst_scenesaver::variantsComeBackReferenced()
+void tst_OsgWriter::variantsComeBackReferenced()
 {
     const osg::TransformVariantListPtr variants = osg::TransformVariantList::create();
     const osg::TransformVariantPtr variant = osg::TransformVariant::create();
@@ -219,7 +219,7 @@ void tst_scenesaver::variantsComeBackReferenced()
     QCOMPARE(copy.getRefCount(), 2);
 }
 
-void tst_scenesaver::textsComeBackAsTheyWere()
+void tst_OsgWriter::textsComeBackAsTheyWere()
 {
     const osg::NodePtr node = osg::makeCoredNode<osg::Group>();
     osg::setName(node, "tab\t  blanks\n\\path\\ \"quote\"");
@@ -229,43 +229,43 @@ void tst_scenesaver::textsComeBackAsTheyWere()
 }
 
 // A new chunk of this kind has values in its lists.
-void tst_scenesaver::listsComeBackAsTheyWere()
+void tst_OsgWriter::listsComeBackAsTheyWere()
 {
     show(groupWith(osg::RegisterCombinersChunk::create()));
     const auto read = attachment<osg::RegisterCombinersChunk>(reload(path("a.osg")));
     QCOMPARE(read->getMFVariableArgb()->size(), 27u);
 }
 
-void tst_scenesaver::otherSuffixesAreRefused()
+void tst_OsgWriter::otherSuffixesAreRefused()
 {
     show(osg::makeCoredNode<osg::Group>());
     QVERIFY_EXCEPTION_THROWN(
-        kavoSceneSaver::save(kavoScenegraph::getRoot(), path("a.gltf")), kavoTaskError);
+        kavoOsgWriter::save(kavoScenegraph::getRoot(), path("a.gltf")), kavoTaskError);
     QVERIFY(!QFile::exists(path("a.gltf")));
 }
 
-void tst_scenesaver::withoutASceneNothingIsSaved()
+void tst_OsgWriter::withoutASceneNothingIsSaved()
 {
-    QVERIFY_EXCEPTION_THROWN(kavoSceneSaver::save(osg::NullFC, path("a.osg")), kavoTaskError);
+    QVERIFY_EXCEPTION_THROWN(kavoOsgWriter::save(osg::NullFC, path("a.osg")), kavoTaskError);
     QVERIFY(!QFile::exists(path("a.osg")));
 }
 
-void tst_scenesaver::aFailedSaveLeavesTheFileAsItWas()
+void tst_OsgWriter::aFailedSaveLeavesTheFileAsItWas()
 {
     write(path("a.osg"), "Node { }");
     show(chain(2000));
     QVERIFY_EXCEPTION_THROWN(
-        kavoSceneSaver::save(kavoScenegraph::getRoot(), path("a.osg")), kavoTaskError);
+        kavoOsgWriter::save(kavoScenegraph::getRoot(), path("a.osg")), kavoTaskError);
     QCOMPARE(contents(path("a.osg")), QByteArray("Node { }"));
     QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files), QStringList("a.osg"));
 }
 
-void tst_scenesaver::aSceneFileIsTheSceneItself()
+void tst_OsgWriter::aSceneFileIsTheSceneItself()
 {
     write(path("a.osg"), "DEF Ship Node { children Node { } }");
-    kavoSceneLoader loader;
+    kavoBackgroundLoader loader;
     QStringList loaded;
-    connect(&loader, &kavoSceneLoader::loaded, this,
+    connect(&loader, &kavoBackgroundLoader::loaded, this,
         [&](const osg::NodePtr &root) { loaded = names(root); });
     loader.load({ path("a.osg") });
     QTRY_VERIFY(!loader.isLoading());
@@ -273,13 +273,13 @@ void tst_scenesaver::aSceneFileIsTheSceneItself()
     QCOMPARE(loaded.first(), QStringLiteral("Ship Group"));
 }
 
-void tst_scenesaver::severalFilesAreBelowOneRoot()
+void tst_OsgWriter::severalFilesAreBelowOneRoot()
 {
     write(path("a.osg"), "DEF Ship Node { }");
     write(path("b.osg"), "DEF Boat Node { } DEF Raft Node { }");
-    kavoSceneLoader loader;
+    kavoBackgroundLoader loader;
     QStringList loaded;
-    connect(&loader, &kavoSceneLoader::loaded, this,
+    connect(&loader, &kavoBackgroundLoader::loaded, this,
         [&](const osg::NodePtr &root) { loaded = names(root); });
     loader.load({ path("a.osg"), model("Collada/lights.dae"), path("b.osg") });
     QTRY_VERIFY(!loader.isLoading());
@@ -287,7 +287,7 @@ void tst_scenesaver::severalFilesAreBelowOneRoot()
         QVERIFY2(loaded.contains(name), name);
 }
 
-void tst_scenesaver::aSceneFileThatCannotBeReadIsNamed_data()
+void tst_OsgWriter::aSceneFileThatCannotBeReadIsNamed_data()
 {
     QTest::addColumn<QString>("name");
     QTest::newRow("missing") << "missing.osg";
@@ -296,14 +296,14 @@ void tst_scenesaver::aSceneFileThatCannotBeReadIsNamed_data()
     QTest::newRow("a field that throws") << "throwing.osg";
 }
 
-void tst_scenesaver::aSceneFileThatCannotBeReadIsNamed()
+void tst_OsgWriter::aSceneFileThatCannotBeReadIsNamed()
 {
     QFETCH(QString, name);
     QDir(m_folder->path()).mkdir("folder.osg");
     write(path("prose.osg"), "It was a dark and stormy night");
     write(path("throwing.osg"), "Node { attachments [ ThrowingMark { text \"a\" } ] }");
-    kavoSceneLoader loader;
-    QSignalSpy failed(&loader, &kavoSceneLoader::failed);
+    kavoBackgroundLoader loader;
+    QSignalSpy failed(&loader, &kavoBackgroundLoader::failed);
     loader.load({ m_folder->filePath(name) });
     QTRY_COMPARE(failed.size(), 1);
     QCOMPARE(failed[0][0].toString(), m_folder->filePath(name));
@@ -311,7 +311,7 @@ void tst_scenesaver::aSceneFileThatCannotBeReadIsNamed()
     QVERIFY(!loader.isLoading());
 }
 
-void tst_scenesaver::whatCannotBeReadIsInTheLog_data()
+void tst_OsgWriter::whatCannotBeReadIsInTheLog_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<QString>("line");
@@ -321,7 +321,7 @@ void tst_scenesaver::whatCannotBeReadIsInTheLog_data()
         << QByteArray("#VRML V1.0\nNode { }") << "info: File begins with '#VRML V1.0'";
 }
 
-void tst_scenesaver::whatCannotBeReadIsInTheLog()
+void tst_OsgWriter::whatCannotBeReadIsInTheLog()
 {
     QFETCH(QByteArray, text);
     write(path("a.osg"), text);
@@ -330,13 +330,13 @@ void tst_scenesaver::whatCannotBeReadIsInTheLog()
         logged += QString("%1: %2\n")
                       .arg(kavoLog::levelName(entry.level), QString::fromStdString(entry.text));
     });
-    kavoSceneReader::read(path("a.osg"));
+    kavoOsgReader::read(path("a.osg"));
     kavoLog::removeObserver(observer);
     QFETCH(QString, line);
     QVERIFY2(logged.startsWith(line), qPrintable(logged));
 }
 
-void tst_scenesaver::aFileIsWholeIfAllWasUnderstood_data()
+void tst_OsgWriter::aFileIsWholeIfAllWasUnderstood_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<bool>("isWhole");
@@ -349,16 +349,16 @@ void tst_scenesaver::aFileIsWholeIfAllWasUnderstood_data()
         << QByteArray("Node { core MaterialGroup { material USE Chrome } }") << false;
 }
 
-void tst_scenesaver::aFileIsWholeIfAllWasUnderstood()
+void tst_OsgWriter::aFileIsWholeIfAllWasUnderstood()
 {
     QFETCH(QByteArray, text);
     write(path("a.osg"), text);
     osg::osgLog().setLogLevel(osg::LOG_FATAL, true);
-    const bool isWhole = kavoSceneReader::read(path("a.osg")).isWhole;
+    const bool isWhole = kavoOsgReader::read(path("a.osg")).isWhole;
     QCOMPARE(osg::osgLog().getLogLevel(), osg::LOG_FATAL);
     osg::osgLog().setLogLevel(osg::LOG_WARNING, true);
     QTEST(isWhole, "isWhole");
 }
 
-KAVO_TEST_MAIN(tst_scenesaver)
-#include "tst_scenesaver.moc"
+KAVO_TEST_MAIN(tst_OsgWriter)
+#include "tst_osgwriter.moc"

@@ -1,4 +1,4 @@
-#include "Files/kavoSavedCameras.h"
+#include "Files/kavoCameraAttachment.h"
 
 #include "Scene/kavoSceneCameras.h"
 
@@ -51,7 +51,7 @@ osg::AttachmentPtr findOrAddMap(const osg::NodePtr &root)
 
 }
 
-kavoSavedCameras::kavoSavedCameras(const osg::NodePtr &root)
+kavoCameraAttachment::kavoCameraAttachment(const osg::NodePtr &root)
     : m_root(root)
 {
     const std::vector<osg::UInt32> nodes = kavoSceneCameras::nodeIds();
@@ -64,12 +64,12 @@ kavoSavedCameras::kavoSavedCameras(const osg::NodePtr &root)
     osg::endEditCP(map);
 }
 
-kavoSavedCameras::~kavoSavedCameras()
+kavoCameraAttachment::~kavoCameraAttachment()
 {
     take(m_root);
 }
 
-kavoSavedCameras::List kavoSavedCameras::take(const osg::NodePtr &root)
+kavoCameraAttachment::List kavoCameraAttachment::take(const osg::NodePtr &root)
 {
     List cameras;
     const osg::AttachmentPtr map = findMap(root);

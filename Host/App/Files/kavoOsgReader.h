@@ -1,22 +1,22 @@
 #pragma once
 
-#include "Files/kavoSavedCameras.h"
+#include "Files/kavoCameraAttachment.h"
 
 #include <kavoNodePtr.h>
 
 #include <QCoreApplication>
 #include <QString>
 
-/// Reads what kavoSceneSaver saved, and OpenSG's ASCII files of other programs. GUI thread.
-class kavoSceneReader
+/// Reads what kavoOsgWriter saved, and OpenSG's ASCII files of other programs. GUI thread.
+class kavoOsgReader
 {
-    Q_DECLARE_TR_FUNCTIONS(kavoSceneReader)
+    Q_DECLARE_TR_FUNCTIONS(kavoOsgReader)
 
 public:
     struct Scene
     {
         kavoNodePtr root;
-        kavoSavedCameras::List cameras;
+        kavoCameraAttachment::List cameras;
         bool isWhole = false; ///< all that is in the file was understood
     };
 

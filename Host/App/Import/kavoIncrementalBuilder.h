@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Import/kavoFileBuilder.h"
+#include "Import/kavoGraphBuilder.h"
 
 #include <kavoNodePtr.h>
 
@@ -12,15 +12,15 @@
 ///
 /// The root is a group with a child for each file and, last, the material library: a node
 /// "Materials" with a child for each material, whose core is a MaterialGroup.
-class kavoSceneBuilder : public QObject
+class kavoIncrementalBuilder : public QObject
 {
     Q_OBJECT
 
 public:
-    using Files = std::vector<std::shared_ptr<kavoImportedScene>>;
+    using Files = std::vector<std::shared_ptr<kavoParsedFile>>;
     using Cameras = std::vector<osg::RefPtr<osg::CameraPtr>>;
 
-    explicit kavoSceneBuilder(const Files &files, QObject *parent = nullptr);
+    explicit kavoIncrementalBuilder(const Files &files, QObject *parent = nullptr);
 
     void start();
 
@@ -39,6 +39,6 @@ private:
 
     kavoNodePtr m_root;
     kavoNodePtr m_library; // below the root when all files are
-    std::vector<kavoFileBuilder> m_files;
+    std::vector<kavoGraphBuilder> m_files;
     QTimer m_timer;
 };

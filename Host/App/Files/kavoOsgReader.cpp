@@ -1,8 +1,8 @@
-#include "Files/kavoSceneReader.h"
+#include "Files/kavoOsgReader.h"
 
 #include "Basics/kavoTaskError.h"
 #include "Files/kavoLibraryLog.h"
-#include "Files/kavoSceneSaver.h"
+#include "Files/kavoOsgWriter.h"
 
 #include <OpenSG/OSGSceneFileHandler.h>
 #include <OpenSG/OSGSimpleAttachments.h>
@@ -22,7 +22,7 @@ QString reasonOfFailure(const QString &fileName)
         return qt_error_string(EISDIR);
     if (!file.open(QIODevice::ReadOnly))
         return file.errorString();
-    return kavoSceneReader::tr("the file holds no scene");
+    return kavoOsgReader::tr("the file holds no scene");
 }
 
 // Files of several scenes keep the group that the library put them in.
@@ -39,23 +39,23 @@ kavoNodePtr withoutNewRoot(const kavoNodePtr &root, const QString &fileName)
 
 }
 
-bool kavoSceneReader::canRead(const QString &file)
+bool kavoOsgReader::canRead(const QString &file)
 {
-    return kavoSceneSaver::canSave(file);
+    return kavoOsgWriter::canSave(file);
 }
 
-kavoSceneReader::Scene kavoSceneReader::read(const QString &file)
+kavoOsgReader::Scene kavoOsgReader::read(const QString &file)
 {
     const kavoLibraryLog log;
     const QByteArray path = QFile::encodeName(file);
-    kavoSceneSaver::useFaithfulFormat();
+    kavoOsgWriter::useFaithfulFormat();
     const kavoNodePtr root(osg::SceneFileHandler::the().read(path.constData(), nullptr));
     if (root == osg::NullFC)
         throw kavoTaskError(reasonOfFailure(file));
     Scene scene;
     scene.isWhole = !log.hasComplaints();
     scene.root = withoutNewRoot(root, file);
-    scene.cameras = kavoSavedCameras::take(osg::NodePtr(scene.root));
+    scene.cameras = kavoCameraAttachment::take(osg::NodePtr(scene.root));
     scene.root->updateVolume();
     return scene;
 }

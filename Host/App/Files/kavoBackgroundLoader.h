@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Files/kavoSavedCameras.h"
+#include "Files/kavoCameraAttachment.h"
 
 #include <kavoNodePtr.h>
 
@@ -13,21 +13,21 @@
 #include <memory>
 #include <vector>
 
-class kavoSceneBuilder;
-class kavoSceneImporter;
-struct kavoImportedScene;
+class kavoIncrementalBuilder;
+class kavoAssimpParser;
+struct kavoParsedFile;
 
 Q_DECLARE_METATYPE(osg::NodePtr)
 
 /// Loads scene files in the background: parses them one by one on a worker thread, then builds one
 /// scene of all of them in slices on the GUI thread. OpenSG's own files are read on the GUI thread
 /// at the end, since only that may make containers; the one file loaded is then the scene itself.
-class kavoSceneLoader : public QObject
+class kavoBackgroundLoader : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit kavoSceneLoader(QObject *parent = nullptr);
+    explicit kavoBackgroundLoader(QObject *parent = nullptr);
 
     /// Begins to load; a load under way is canceled first. Ends in exactly one of `loaded`,
     /// `failed` and `canceled`; an empty list loads nothing. The open scene is not touched. As
@@ -62,8 +62,8 @@ signals:
     void canceled();
 
 private:
-    void importNext();
-    void addFile(const std::shared_ptr<kavoImportedScene> &file);
+    void parseNext();
+    void addFile(const std::shared_ptr<kavoParsedFile> &file);
     void build();
     void conclude();
     bool mayReplaceScene();
@@ -74,10 +74,10 @@ private:
     QStringList m_files; ///< to be parsed and built
     QStringList m_sceneFiles; ///< of OpenSG
     QStringList m_partlyRead;
-    kavoSavedCameras::List m_cameras;
-    std::vector<std::shared_ptr<kavoImportedScene>> m_imported;
+    kavoCameraAttachment::List m_cameras;
+    std::vector<std::shared_ptr<kavoParsedFile>> m_parsed;
     std::function<bool()> m_mayReplaceScene = [] { return true; };
-    kavoSceneImporter *m_importer;
-    kavoSceneBuilder *m_builder = nullptr;
+    kavoAssimpParser *m_parser;
+    kavoIncrementalBuilder *m_builder = nullptr;
     QTimer m_retry; ///< of concluding
 };

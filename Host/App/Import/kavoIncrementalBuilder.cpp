@@ -1,6 +1,6 @@
-#include "Import/kavoSceneBuilder.h"
+#include "Import/kavoIncrementalBuilder.h"
 
-#include "Import/kavoImportedScene.h"
+#include "Import/kavoParsedFile.h"
 
 #include <OpenSG/OSGGroup.h>
 #include <OpenSG/OSGSimpleAttachments.h>
@@ -20,37 +20,37 @@ osg::NodePtr makeGroup(const QString &name)
     return node;
 }
 
-QString rootName(const kavoSceneBuilder::Files &files)
+QString rootName(const kavoIncrementalBuilder::Files &files)
 {
     return files.size() == 1 ? QFileInfo(files[0]->fileName).fileName() : QStringLiteral("Scene");
 }
 
 } // namespace
 
-kavoSceneBuilder::kavoSceneBuilder(const Files &files, QObject *parent)
+kavoIncrementalBuilder::kavoIncrementalBuilder(const Files &files, QObject *parent)
     : QObject(parent)
     , m_root(makeGroup(rootName(files)))
     , m_library(makeGroup(QStringLiteral("Materials")))
 {
     for (const auto &file : files)
         m_files.emplace_back(file, m_root, m_library);
-    connect(&m_timer, &QTimer::timeout, this, &kavoSceneBuilder::buildSlice);
+    connect(&m_timer, &QTimer::timeout, this, &kavoIncrementalBuilder::buildSlice);
 }
 
-void kavoSceneBuilder::start()
+void kavoIncrementalBuilder::start()
 {
     m_timer.start(0);
 }
 
-kavoSceneBuilder::Cameras kavoSceneBuilder::cameras() const
+kavoIncrementalBuilder::Cameras kavoIncrementalBuilder::cameras() const
 {
     Cameras all;
-    for (const kavoFileBuilder &file : m_files)
+    for (const kavoGraphBuilder &file : m_files)
         all.insert(all.end(), file.cameras().begin(), file.cameras().end());
     return all;
 }
 
-void kavoSceneBuilder::buildSlice()
+void kavoIncrementalBuilder::buildSlice()
 {
     QElapsedTimer elapsed;
     elapsed.start();
@@ -66,16 +66,16 @@ void kavoSceneBuilder::buildSlice()
     emit progress(percentDone());
 }
 
-bool kavoSceneBuilder::buildStep()
+bool kavoIncrementalBuilder::buildStep()
 {
     return std::any_of(
-        m_files.begin(), m_files.end(), [](kavoFileBuilder &file) { return file.step(); });
+        m_files.begin(), m_files.end(), [](kavoGraphBuilder &file) { return file.step(); });
 }
 
-int kavoSceneBuilder::percentDone() const
+int kavoIncrementalBuilder::percentDone() const
 {
     int done = 0, all = 0;
-    for (const kavoFileBuilder &file : m_files) {
+    for (const kavoGraphBuilder &file : m_files) {
         done += file.stepsDone();
         all += file.stepCount();
     }

@@ -9,16 +9,16 @@
 
 /// Cameras on their way through a scene file. No node holds a camera, so in files they hang on the
 /// root, as the containers of an FCPtrAttributeMap.
-class kavoSavedCameras
+class kavoCameraAttachment
 {
 public:
     using List = std::vector<osg::RefPtr<osg::CameraPtr>>;
 
     /// Hangs the cameras of the open scene on a root, for as long as this lives.
-    explicit kavoSavedCameras(const osg::NodePtr &root);
-    ~kavoSavedCameras();
-    kavoSavedCameras(const kavoSavedCameras &) = delete;
-    kavoSavedCameras &operator=(const kavoSavedCameras &) = delete;
+    explicit kavoCameraAttachment(const osg::NodePtr &root);
+    ~kavoCameraAttachment();
+    kavoCameraAttachment(const kavoCameraAttachment &) = delete;
+    kavoCameraAttachment &operator=(const kavoCameraAttachment &) = delete;
 
     /// Takes from a root what was hung on it.
     static List take(const osg::NodePtr &root);
