@@ -7,6 +7,7 @@
 #include <OpenSG/OSGSceneFileHandler.h>
 #include <OpenSG/OSGSimpleAttachments.h>
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 
@@ -22,7 +23,7 @@ QString reasonOfFailure(const QString &fileName)
         return qt_error_string(EISDIR);
     if (!file.open(QIODevice::ReadOnly))
         return file.errorString();
-    return kavoOsgReader::tr("the file holds no scene");
+    return QCoreApplication::translate("kavoOsgReader", "the file holds no scene");
 }
 
 // Files of several scenes keep the group that the library put them in.

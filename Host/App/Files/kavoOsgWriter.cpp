@@ -7,6 +7,7 @@
 
 #include <OpenSG/OSGSceneFileHandler.h>
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 
@@ -27,7 +28,8 @@ void write(const osg::NodePtr &root, const kavoOutputFile &file)
     if (!isWhole || !stream.good())
         file.fail(errno != 0 ? errno : EIO);
     if (!written)
-        throw kavoTaskError(kavoOsgWriter::tr("The scene cannot be saved; the log says why"));
+        throw kavoTaskError(QCoreApplication::translate(
+            "kavoOsgWriter", "The scene cannot be saved; the log says why"));
 }
 
 }
@@ -50,9 +52,12 @@ void kavoOsgWriter::useFaithfulFormat()
 void kavoOsgWriter::save(const osg::NodePtr &root, const QString &file)
 {
     if (root == osg::NullFC)
-        throw kavoTaskError(tr("There is no scene to save"));
+        throw kavoTaskError(
+            QCoreApplication::translate("kavoOsgWriter", "There is no scene to save"));
     if (!canSave(file))
-        throw kavoTaskError(tr("Cannot save '%1': scenes are saved in .osg files").arg(file));
+        throw kavoTaskError(QCoreApplication::translate(
+            "kavoOsgWriter", "Cannot save '%1': scenes are saved in .osg files")
+                                .arg(file));
     useFaithfulFormat();
     kavoOutputFile output(file);
     write(root, output);

@@ -5,10 +5,10 @@
 struct aiLight;
 
 /// Turns a light of a file into a light core. GUI thread.
-class kavoLightBuilder
-{
-public:
-    /// The new light without a beacon; its reference count is 0. OpenSG has no ambient and no
-    /// area lights: they become point lights.
-    static osg::LightPtr build(const aiLight &light);
-};
+namespace kavoLightBuilder {
+
+/// The new light without a beacon; its reference count is 0. OpenSG has no ambient and no
+/// area lights: they become point lights.
+osg::LightPtr build(const aiLight &light);
+
+} // namespace kavoLightBuilder

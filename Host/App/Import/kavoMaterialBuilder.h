@@ -9,13 +9,13 @@
 struct aiMaterial;
 
 /// Turns a material of a file into a ChunkMaterial with explicit chunks. GUI thread.
-class kavoMaterialBuilder
-{
-public:
-    /// The new material, named as in the file; its reference count is 0.
-    /// \param texture image of the base colour, or null for none
-    static osg::ChunkMaterialPtr build(const aiMaterial &material, osg::ImagePtr texture);
+namespace kavoMaterialBuilder {
 
-    /// A new image with the pixels of \p source, bottom row first, and \p path as its name.
-    static osg::ImagePtr buildImage(const QImage &source, const QString &path);
-};
+/// The new material, named as in the file; its reference count is 0.
+/// \param texture image of the base colour, or null for none
+osg::ChunkMaterialPtr build(const aiMaterial &material, osg::ImagePtr texture);
+
+/// A new image with the pixels of \p source, bottom row first, and \p path as its name.
+osg::ImagePtr buildImage(const QImage &source, const QString &path);
+
+} // namespace kavoMaterialBuilder
