@@ -49,33 +49,16 @@ osg::AttachmentPtr findOrAddMap(const osg::NodePtr &root)
     return map;
 }
 
+bool isEmpty(const osg::AttachmentPtr &map)
+{
+    const Entries entries(map);
+    return entries.keys.empty() && entries.values.empty();
 }
 
-kavoCameraAttachment::kavoCameraAttachment(const osg::NodePtr &root)
-    : m_root(root)
+kavoCameraAttachment::List takeCameras(const osg::AttachmentPtr &map)
 {
-    const std::vector<osg::UInt32> nodes = kavoSceneCameras::nodeIds();
-    if (nodes.empty())
-        return;
-    const osg::AttachmentPtr map = findOrAddMap(root);
-    osg::beginEditCP(map);
-    for (const osg::UInt32 node : nodes)
-        Entries(map).add(kavoSceneCameras::at(node));
-    osg::endEditCP(map);
-}
-
-kavoCameraAttachment::~kavoCameraAttachment()
-{
-    take(m_root);
-}
-
-kavoCameraAttachment::List kavoCameraAttachment::take(const osg::NodePtr &root)
-{
-    List cameras;
-    const osg::AttachmentPtr map = findMap(root);
-    if (map == osg::NullFC)
-        return cameras;
-    osg::beginEditCP(map);
+    kavoCameraAttachment::List cameras;
+    const osg::CPEditor edit(map);
     Entries entries(map);
     for (osg::UInt32 i = std::min(entries.keys.size(), entries.values.size()); i-- > 0;) {
         const auto camera = osg::CameraPtr::dcast(entries.values[i]);
@@ -86,8 +69,35 @@ kavoCameraAttachment::List kavoCameraAttachment::take(const osg::NodePtr &root)
         entries.keys.erase(entries.keys.begin() + i);
         entries.values.erase(entries.values.begin() + i);
     }
-    osg::endEditCP(map);
-    if (entries.keys.empty() && entries.values.empty())
+    return cameras;
+}
+
+} // namespace
+
+kavoCameraAttachment::kavoCameraAttachment(const osg::NodePtr &root)
+    : m_root(root)
+{
+    const std::vector<osg::UInt32> nodes = kavoSceneCameras::nodeIds();
+    if (nodes.empty())
+        return;
+    const osg::AttachmentPtr map = findOrAddMap(root);
+    const osg::CPEditor edit(map);
+    for (const osg::UInt32 node : nodes)
+        Entries(map).add(kavoSceneCameras::at(node));
+}
+
+kavoCameraAttachment::~kavoCameraAttachment()
+{
+    take(m_root);
+}
+
+kavoCameraAttachment::List kavoCameraAttachment::take(const osg::NodePtr &root)
+{
+    const osg::AttachmentPtr map = findMap(root);
+    if (map == osg::NullFC)
+        return {};
+    const List cameras = takeCameras(map);
+    if (isEmpty(map))
         root->subAttachment(map);
     return cameras;
 }

@@ -20,12 +20,11 @@ float verticalFov(const aiCamera &camera)
 osg::PerspectiveCameraPtr kavoCameraBuilder::build(const aiCamera &camera)
 {
     auto result = osg::PerspectiveCamera::create();
-    osg::beginEditCP(result);
+    const osg::CPEditor edit(result);
     osg::setName(result, camera.mName.C_Str());
     result->setNear(camera.mClipPlaneNear);
     result->setFar(camera.mClipPlaneFar);
     result->setFov(verticalFov(camera));
-    osg::endEditCP(result);
     return result;
 }
 

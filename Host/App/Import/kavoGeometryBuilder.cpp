@@ -18,11 +18,10 @@ template <class Property, class Source, class Convert>
 typename Property::PtrType property(const Source *sources, unsigned int count, Convert convert)
 {
     auto result = Property::create();
-    osg::beginEditCP(result);
+    const osg::CPEditor edit(result);
     auto &values = result->getField();
     values.resize(count);
     std::transform(sources, sources + count, values.begin(), convert);
-    osg::endEditCP(result);
     return result;
 }
 
@@ -78,9 +77,8 @@ void setVertices(osg::Geometry &geometry, const aiMesh &mesh)
 osg::GeometryPtr kavoGeometryBuilder::build(const aiMesh &mesh)
 {
     auto geometry = osg::Geometry::create();
-    osg::beginEditCP(geometry);
+    const osg::CPEditor edit(geometry);
     setPrimitives(*geometry, mesh);
     setVertices(*geometry, mesh);
-    osg::endEditCP(geometry);
     return geometry;
 }

@@ -29,26 +29,38 @@ osg::NodePtr addChild(const osg::NodePtr &parent, const std::string &name)
     osg::NodePtr node = osg::Node::create();
     if (!name.empty())
         osg::setName(node, name);
-    osg::beginEditCP(parent, osg::Node::ChildrenFieldMask);
+    const osg::CPEditor edit(parent, osg::Node::ChildrenFieldMask);
     parent->addChild(node);
-    osg::endEditCP(parent, osg::Node::ChildrenFieldMask);
     return node;
 }
 
 void setCore(const osg::NodePtr &node, const osg::NodeCorePtr &core)
 {
-    osg::beginEditCP(node, osg::Node::CoreFieldMask);
+    const osg::CPEditor edit(node, osg::Node::CoreFieldMask);
     node->setCore(core);
-    osg::endEditCP(node, osg::Node::CoreFieldMask);
 }
 
 osg::NodeCorePtr makeTransform(const osg::Matrix &matrix)
 {
     auto transform = osg::Transform::create();
-    osg::beginEditCP(transform, osg::Transform::MatrixFieldMask);
+    const osg::CPEditor edit(transform, osg::Transform::MatrixFieldMask);
     transform->setMatrix(matrix);
-    osg::endEditCP(transform, osg::Transform::MatrixFieldMask);
     return transform;
+}
+
+osg::NodeCorePtr makeMaterialGroup(const osg::MaterialPtr &material)
+{
+    auto group = osg::MaterialGroup::create();
+    const osg::CPEditor edit(group);
+    group->setMaterial(material);
+    return group;
+}
+
+template <class LightOrCamera>
+void setBeacon(const LightOrCamera &carried, const osg::NodePtr &node)
+{
+    const osg::CPEditor edit(carried, carried->BeaconFieldMask);
+    carried->setBeacon(node);
 }
 
 /// A node's children without the holes that some of Assimp's readers leave among them.
@@ -111,11 +123,7 @@ bool kavoGraphBuilder::buildNextMaterial()
     const aiMaterial &source = *m_file->scene->mMaterials[m_materials.size()];
     m_materials.push_back(
         kavoMaterialBuilder::build(source, image(kavoTextureSlot::of(source).path)));
-    auto group = osg::MaterialGroup::create();
-    osg::beginEditCP(group);
-    group->setMaterial(m_materials.back());
-    osg::endEditCP(group);
-    setCore(addChild(m_library, source.GetName().C_Str()), group);
+    setCore(addChild(m_library, source.GetName().C_Str()), makeMaterialGroup(m_materials.back()));
     return true;
 }
 
@@ -138,9 +146,8 @@ bool kavoGraphBuilder::buildNextMesh()
     const aiMesh &source = *m_file->scene->mMeshes[m_geometries.size()];
     m_geometries.emplace_back(kavoGeometryBuilder::build(source));
     const osg::GeometryPtr geometry = m_geometries.back().get();
-    osg::beginEditCP(geometry, osg::Geometry::MaterialFieldMask);
+    const osg::CPEditor edit(geometry, osg::Geometry::MaterialFieldMask);
     geometry->setMaterial(m_materials[source.mMaterialIndex]);
-    osg::endEditCP(geometry, osg::Geometry::MaterialFieldMask);
     return true;
 }
 
@@ -203,9 +210,7 @@ osg::NodePtr kavoGraphBuilder::buildLight(
     setCore(node, core);
     const osg::NodePtr beacon = addChild(node, std::string(source.mName.C_Str()) + "-beacon");
     setCore(beacon, makeTransform(kavoAssimpTypes::toMatrix(source.mTransformation)));
-    osg::beginEditCP(core, osg::Light::BeaconFieldMask);
-    core->setBeacon(beacon);
-    osg::endEditCP(core, osg::Light::BeaconFieldMask);
+    setBeacon(core, beacon);
     addMeshes(source, beacon, 0);
     return beacon;
 }
@@ -220,9 +225,7 @@ void kavoGraphBuilder::buildCamera(const aiCamera &camera, const osg::NodePtr &p
     }
     const osg::CameraPtr result = kavoCameraBuilder::build(camera);
     m_cameras.emplace_back(result);
-    osg::beginEditCP(result, osg::Camera::BeaconFieldMask);
-    result->setBeacon(beacon);
-    osg::endEditCP(result, osg::Camera::BeaconFieldMask);
+    setBeacon(result, beacon);
 }
 
 void kavoGraphBuilder::addMeshes(

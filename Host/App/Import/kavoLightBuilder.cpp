@@ -51,13 +51,12 @@ osg::LightPtr buildKind(const aiLight &light)
 osg::LightPtr kavoLightBuilder::build(const aiLight &light)
 {
     osg::LightPtr result = buildKind(light);
-    osg::beginEditCP(result);
+    const osg::CPEditor edit(result);
     result->setAmbient(toColor(light.mColorAmbient));
     result->setDiffuse(toColor(light.mColorDiffuse));
     result->setSpecular(toColor(light.mColorSpecular));
     result->setConstantAttenuation(light.mAttenuationConstant);
     result->setLinearAttenuation(light.mAttenuationLinear);
     result->setQuadraticAttenuation(light.mAttenuationQuadratic);
-    osg::endEditCP(result);
     return result;
 }

@@ -56,7 +56,7 @@ osg::StateChunkPtr buildMaterialChunk(const aiMaterial &material)
     const int shading = read(material, int(aiShadingMode_Phong), AI_MATKEY_SHADING_MODEL);
     const float shininess = read(material, 10.0f, AI_MATKEY_SHININESS);
     auto chunk = osg::MaterialChunk::create();
-    osg::beginEditCP(chunk);
+    const osg::CPEditor edit(chunk);
     chunk->setDiffuse(
         toColor(read(material, white, AI_MATKEY_COLOR_DIFFUSE), 1, opacity(material)));
     chunk->setAmbient(toColor(read(material, grey, AI_MATKEY_COLOR_AMBIENT), 1, 1));
@@ -64,7 +64,6 @@ osg::StateChunkPtr buildMaterialChunk(const aiMaterial &material)
     chunk->setEmission(toColor(read(material, black, AI_MATKEY_COLOR_EMISSIVE), 1, 1));
     chunk->setShininess(std::clamp(shininess, 0.0f, maxShininess));
     chunk->setLit(shading != aiShadingMode_NoShading);
-    osg::endEditCP(chunk);
     return chunk;
 }
 
@@ -86,22 +85,20 @@ osg::StateChunkPtr buildTextureChunk(const aiMaterial &material, osg::ImagePtr i
 {
     const kavoTextureSlot slot = kavoTextureSlot::of(material);
     auto chunk = osg::TextureChunk::create();
-    osg::beginEditCP(chunk);
+    const osg::CPEditor edit(chunk);
     chunk->setImage(image);
     chunk->setWrapS(wrapMode(slot.wrapS));
     chunk->setWrapT(wrapMode(slot.wrapT));
     chunk->setEnvMode(GL_MODULATE);
-    osg::endEditCP(chunk);
     return chunk;
 }
 
 osg::StateChunkPtr buildBlendChunk()
 {
     auto chunk = osg::BlendChunk::create();
-    osg::beginEditCP(chunk);
+    const osg::CPEditor edit(chunk);
     chunk->setSrcFactor(GL_SRC_ALPHA);
     chunk->setDestFactor(GL_ONE_MINUS_SRC_ALPHA);
-    osg::endEditCP(chunk);
     return chunk;
 }
 
@@ -110,9 +107,8 @@ osg::StateChunkPtr buildPolygonChunk(const aiMaterial &material)
     // Back faces are culled only where the file says that there is nothing to see.
     const bool oneSided = read(material, 1, AI_MATKEY_TWOSIDED) == 0;
     auto chunk = osg::PolygonChunk::create();
-    osg::beginEditCP(chunk);
+    const osg::CPEditor edit(chunk);
     chunk->setCullFace(oneSided ? GL_BACK : GL_NONE);
-    osg::endEditCP(chunk);
     return chunk;
 }
 
@@ -121,7 +117,7 @@ osg::StateChunkPtr buildPolygonChunk(const aiMaterial &material)
 osg::ChunkMaterialPtr kavoMaterialBuilder::build(const aiMaterial &material, osg::ImagePtr texture)
 {
     auto result = osg::ChunkMaterial::create();
-    osg::beginEditCP(result);
+    const osg::CPEditor edit(result);
     osg::setName(result, material.GetName().C_Str());
     result->addChunk(buildMaterialChunk(material));
     if (texture != osg::NullFC)
@@ -131,7 +127,6 @@ osg::ChunkMaterialPtr kavoMaterialBuilder::build(const aiMaterial &material, osg
     result->addChunk(buildPolygonChunk(material));
     if (isTwoSided(material))
         result->addChunk(osg::TwoSidedLightingChunk::create());
-    osg::endEditCP(result);
     return result;
 }
 
@@ -142,13 +137,12 @@ osg::ImagePtr kavoMaterialBuilder::buildImage(const QImage &source, const QStrin
         = source.convertToFormat(alpha ? QImage::Format_RGBA8888 : QImage::Format_RGB888);
     const int rowBytes = image.width() * (alpha ? 4 : 3);
     auto result = osg::Image::create();
-    osg::beginEditCP(result);
+    const osg::CPEditor edit(result);
     result->set(
         alpha ? osg::Image::OSG_RGBA_PF : osg::Image::OSG_RGB_PF, image.width(), image.height());
     for (int row = 0; row < image.height(); ++row) // QImage pads its rows, OpenSG does not
         std::copy_n(image.constScanLine(image.height() - 1 - row), rowBytes,
             result->getData() + row * rowBytes);
     result->setName(path.toUtf8().constData());
-    osg::endEditCP(result);
     return result;
 }

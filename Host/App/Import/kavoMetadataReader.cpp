@@ -52,20 +52,23 @@ std::string toText(const aiMetadataEntry &entry)
     }
 }
 
+osg::ValuePairBasePtr makePairs(const aiMetadata &metadata)
+{
+    auto pairs = osg::ValuePairBase::create();
+    const osg::CPEditor edit(pairs);
+    for (unsigned int i = 0; i < metadata.mNumProperties; ++i) {
+        pairs->getKeys().push_back(metadata.mKeys[i].C_Str());
+        pairs->getValues().push_back(toText(metadata.mValues[i]));
+    }
+    return pairs;
+}
+
 } // namespace
 
 void kavoMetadataReader::attach(const osg::NodePtr &node, const aiMetadata *metadata)
 {
     if (!metadata || metadata->mNumProperties == 0)
         return;
-    auto pairs = osg::ValuePairBase::create();
-    osg::beginEditCP(pairs);
-    for (unsigned int i = 0; i < metadata->mNumProperties; ++i) {
-        pairs->getKeys().push_back(metadata->mKeys[i].C_Str());
-        pairs->getValues().push_back(toText(metadata->mValues[i]));
-    }
-    osg::endEditCP(pairs);
-    osg::beginEditCP(node, osg::Node::AttachmentsFieldMask);
-    node->addAttachment(pairs);
-    osg::endEditCP(node, osg::Node::AttachmentsFieldMask);
+    const osg::CPEditor edit(node, osg::Node::AttachmentsFieldMask);
+    node->addAttachment(makePairs(*metadata));
 }
