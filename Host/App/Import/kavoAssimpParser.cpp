@@ -7,6 +7,7 @@
 #include "Import/kavoTextureReader.h"
 #include "Import/kavoTextureSlot.h"
 
+#include <assimp/Importer.hpp>
 #include <assimp/config.h>
 #include <assimp/postprocess.h>
 #include <assimp/scene.h>
