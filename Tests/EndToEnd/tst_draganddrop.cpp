@@ -11,7 +11,7 @@
 #include <QTextStream>
 #include <QtTest>
 
-// The host's views and the built plug-in in one window, and the X server's mouse between them.
+// Drags from the host's views to the plug-in with the mouse of the X server.
 class tst_DragAndDrop : public QObject
 {
     Q_OBJECT
@@ -42,7 +42,7 @@ QString at(const QPoint &point)
     return QStringLiteral("mousemove %1 %2 sleep 0.2").arg(point.x()).arg(point.y());
 }
 
-// Runs beside the event loop, for a drag has a loop of its own.
+// xdotool runs in its own process, because a drag blocks in an event loop of its own.
 void drag(const QPoint &from, const QPoint &to)
 {
     const QPoint nudge(15, 15);
@@ -54,7 +54,7 @@ void drag(const QPoint &from, const QPoint &to)
     QCOMPARE(mouse.exitCode(), 0);
 }
 
-}
+} // namespace
 
 void tst_DragAndDrop::initTestCase()
 {
@@ -74,7 +74,7 @@ void tst_DragAndDrop::open(const QString &file)
     QVERIFY(opened.wait(20000));
 }
 
-// The first line of the editor, empty while it shows nothing.
+// The first line of the editor, empty if it shows nothing.
 QString tst_DragAndDrop::editorTitle()
 {
     QString rows;

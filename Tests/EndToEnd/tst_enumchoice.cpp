@@ -3,7 +3,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-// The shipped binaries from a user's side: kavo, its plug-in, a model, and the mouse.
+// Edits a field with the mouse in the shipped binaries.
 class tst_EnumChoice : public QObject
 {
     Q_OBJECT
@@ -26,10 +26,9 @@ QByteArray contents(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-}
+} // namespace
 
-// Runs kavo with the textured geometry of a scene selected. Returns what it prints, nothing if it
-// fails.
+// Runs kavo with the textured geometry of a scene selected. Returns its output, empty if it fails.
 QByteArray tst_EnumChoice::run(const QString &scene, const QStringList &arguments)
 {
     QProcess kavo;

@@ -23,9 +23,9 @@ mode_t permissionsOf(const QString &file)
     return 0666 & ~mask;
 }
 
-constexpr int maximumOfLinks = 40; // as the system allows
+constexpr int maximumOfLinks = 40; // the system's limit
 
-// Links stay links, also those to a file that is not there yet.
+// Links are followed, also to a file that does not exist yet.
 QString linkedFile(const QString &file)
 {
     QFileInfo info(file);
@@ -34,7 +34,7 @@ QString linkedFile(const QString &file)
     return info.filePath();
 }
 
-// Such as /dev/stdout, which leads through /proc to the file that it is redirected to.
+// /dev/stdout, for example, is a link through /proc to the file that it is redirected to.
 bool isOpenStream(const QString &file)
 {
     QFileInfo info(file);
@@ -46,7 +46,7 @@ bool isOpenStream(const QString &file)
     return false;
 }
 
-}
+} // namespace
 
 kavoOutputFile::kavoOutputFile(const QString &target)
     : m_target(target)
@@ -70,7 +70,7 @@ kavoOutputFile::kavoOutputFile(const QString &target)
 
 void kavoOutputFile::createTemporary()
 {
-    // The name is a short one: that of the target may be as long as names can be.
+    // A short name: the target's name may already have the greatest possible length.
     m_temporary.setFileTemplate(QFileInfo(m_target).path() + QStringLiteral("/.kavo-XXXXXX"));
     if (!m_temporary.open())
         fail(m_temporary.errorString());
@@ -90,8 +90,8 @@ void kavoOutputFile::commit()
     m_temporary.setAutoRemove(false);
 }
 
-// Else the name may reach the disk before what is in the file, and a power failure in between
-// leaves it empty. Some file systems have nothing to flush and say so.
+// Without it, a power failure after the renaming may leave an empty file. EINVAL means that the
+// file system has nothing to flush.
 void kavoOutputFile::flush(const QByteArray &path) const
 {
     const int file = ::open(path, O_RDONLY | O_CLOEXEC);

@@ -4,31 +4,31 @@
 #include <QString>
 #include <QTemporaryFile>
 
-/// A file that comes into being as a whole or not at all: it is written under another name in the
-/// folder of the target, which it replaces at the end.
+/// An output file that is written completely or not at all. The content goes to a temporary file in
+/// the target's folder, which replaces the target at the end.
 ///
-/// A target that is no regular file, such as a pipe or a device, is written to directly. A stream
-/// that is redirected to a regular file, such as /dev/stdout, is refused: what others write there
-/// would be lost.
+/// A target that is not a regular file, such as a pipe or a device, is written directly. A standard
+/// stream that is redirected to a regular file (/dev/stdout) is rejected, because replacing that
+/// file would lose other output.
 class kavoOutputFile
 {
     Q_DECLARE_TR_FUNCTIONS(kavoOutputFile)
 
 public:
-    /// \throws kavoTaskError if there cannot be such a file
+    /// \throws kavoTaskError if the target cannot be written
     explicit kavoOutputFile(const QString &target);
-    /// Removes what was not committed.
+    /// Removes the temporary file unless it was committed.
     ~kavoOutputFile() = default;
 
-    /// Where to write; the file exists and is empty.
+    /// The path to write to. A temporary file exists there and is empty.
     QString path() const { return m_path; }
 
-    /// Puts what was written in the place of the target, whose permissions it takes over. It is on
-    /// the disk by then, so that a power failure leaves the one or the other.
+    /// Flushes the temporary file to disk and replaces the target with it, so that a power failure
+    /// leaves either the old or the new content. The permissions of the target stay.
     /// \throws kavoTaskError
     void commit();
 
-    /// For writers that found out themselves. \param error as errno
+    /// Reports an error that the writer detected. \param error an errno value
     [[noreturn]] void fail(int error) const;
 
 private:

@@ -2,11 +2,11 @@
 
 class QByteArray;
 
-/// Where jobs print to.
+/// The standard output of jobs.
 namespace kavoStandardOutput {
 
-/// Returns when the text is where it belongs.
-/// \throws kavoTaskError if not all of it can be written, to a full disk for one
+/// Writes the text and flushes the stream.
+/// \throws kavoTaskError if not all of it could be written, for example to a full disk
 void write(const QByteArray &text);
 
 } // namespace kavoStandardOutput

@@ -3,7 +3,7 @@
 #include <QString>
 #include <stdexcept>
 
-/// Why a task failed, in words for the user.
+/// The reason why a task failed, as a message for the user.
 class kavoTaskError : public std::runtime_error
 {
 public:

@@ -6,8 +6,8 @@
 #include <exception>
 #include <optional>
 
-/// Runs a function that may throw anything, as the field types and callbacks of plug-ins do.
-/// \returns why it failed, in words for the user; nothing if it did not
+/// Calls a function that may throw anything, such as a plug-in's callback.
+/// \returns the reason of a failure as a message for the user, empty after success
 template <class Function> std::optional<QString> kavoTry(Function function)
 {
     try {

@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr int parsingShare = 70; // per cent of a load, as far as the progress shows
+constexpr int parsingShare = 70; // percentage of the progress
 constexpr int retryMilliseconds = 100;
 
 QString baseName(const QString &file)
@@ -123,7 +123,7 @@ void kavoBackgroundLoader::conclude()
     emit loaded(root, partlyRead);
 }
 
-// The confirmation may run an event loop, in which this load ends or another begins.
+// The confirmation may run an event loop. Meanwhile this load may end or another one start.
 bool kavoBackgroundLoader::mayReplaceScene()
 {
     const QPointer<kavoIncrementalBuilder> builder = m_builder;
@@ -134,7 +134,7 @@ bool kavoBackgroundLoader::mayReplaceScene()
     return isSameLoad && mayReplace;
 }
 
-// Below what was built of other files; a scene file on its own is the scene.
+// Adds the scene to the root. If it is the only file, its root is the scene.
 kavoNodePtr kavoBackgroundLoader::withSceneFile(const kavoNodePtr &root, const QString &file)
 {
     emit progress(parsingShare, tr("Reading %1").arg(baseName(file)));
@@ -162,7 +162,7 @@ void kavoBackgroundLoader::reset()
     m_partlyRead.clear();
     m_cameras.clear();
     m_parsed.clear();
-    if (m_builder) { // perhaps in the midst of a signal
+    if (m_builder) { // it may be emitting a signal
         m_builder->disconnect(this);
         m_builder->deleteLater();
         m_builder = nullptr;

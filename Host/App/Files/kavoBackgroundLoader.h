@@ -19,9 +19,9 @@ struct kavoParsedFile;
 
 Q_DECLARE_METATYPE(osg::NodePtr)
 
-/// Loads scene files in the background: parses them one by one on a worker thread, then builds one
-/// scene of all of them in slices on the GUI thread. OpenSG's own files are read on the GUI thread
-/// at the end, since only that may make containers; the one file loaded is then the scene itself.
+/// Loads scene files in the background. It parses them one by one on a worker thread, then builds
+/// one scene graph of all files in slices on the GUI thread. Files of OpenSG's own format are read
+/// at the end, on the GUI thread, because only that thread may create containers.
 class kavoBackgroundLoader : public QObject
 {
     Q_OBJECT
@@ -29,20 +29,21 @@ class kavoBackgroundLoader : public QObject
 public:
     explicit kavoBackgroundLoader(QObject *parent = nullptr);
 
-    /// Begins to load; a load under way is canceled first. Ends in exactly one of `loaded`,
-    /// `failed` and `canceled`; an empty list loads nothing. The open scene is not touched. As
-    /// long as a modal dialog is open, which is about that scene, the new one waits.
+    /// Starts to load, and cancels a load in progress first. Each load emits exactly one of
+    /// `loaded`, `failed` and `canceled`. With an empty list nothing happens. The loader does not
+    /// touch the open scene, and waits with `loaded` while a modal dialog is open.
     void load(const QStringList &files);
 
-    /// Ends a load under way at once, with `canceled`; otherwise nothing happens.
+    /// Ends a load in progress at once and emits `canceled`.
     void cancel();
 
-    /// Cancels and waits until the worker is at rest, so that the process may end.
+    /// Cancels and blocks until the worker is idle, so that the process can end.
     void shutDown();
 
     bool isLoading() const;
 
-    /// Asked when the new scene is ready; a load that it refuses is canceled.
+    /// Sets a function that is called when the new scene is ready. If it returns false, the load is
+    /// canceled.
     void setConfirmation(const std::function<bool()> &mayReplaceScene)
     {
         m_mayReplaceScene = mayReplaceScene;
@@ -51,12 +52,12 @@ public:
 signals:
     void progress(int percent, const QString &what);
 
-    /// The new scene. Receivers that want to keep it reference its root (kavoScenegraph::setRoot
-    /// does); otherwise it is gone when they return. The cameras of the files are in
-    /// kavoSceneCameras. Of some of the files perhaps only a part could be read.
+    /// Emitted with the new scene. It is destroyed after the signal unless a receiver references
+    /// the root, as kavoScenegraph::setRoot does. Its cameras are in kavoSceneCameras.
+    /// \param partlyRead files of which only a part could be read
     void loaded(osg::NodePtr root, const QStringList &partlyRead);
 
-    /// One of the files cannot be read; nothing comes of the others either.
+    /// Emitted when a file cannot be read. The other files are not loaded either.
     void failed(const QString &file, const QString &reason);
 
     void canceled();
@@ -71,13 +72,13 @@ private:
     void fail(const QString &file, const QString &reason);
     void reset();
 
-    QStringList m_files; ///< to be parsed and built
-    QStringList m_sceneFiles; ///< of OpenSG
+    QStringList m_files; ///< of other formats, which Assimp parses
+    QStringList m_sceneFiles; ///< of OpenSG's own format
     QStringList m_partlyRead;
     kavoCameraAttachment::List m_cameras;
     std::vector<std::shared_ptr<kavoParsedFile>> m_parsed;
     std::function<bool()> m_mayReplaceScene = [] { return true; };
     kavoAssimpParser *m_parser;
     kavoIncrementalBuilder *m_builder = nullptr;
-    QTimer m_retry; ///< of concluding
+    QTimer m_retry; ///< calls conclude() again after a modal dialog
 };

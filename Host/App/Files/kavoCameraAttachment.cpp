@@ -13,7 +13,7 @@ namespace {
 const char *const mapType = "FCPtrAttributeMap";
 const char *const cameraKey = "kavo camera";
 
-/// The two lists of an attribute map, which belong together.
+/// The two parallel lists of an attribute map.
 struct Entries
 {
     explicit Entries(const osg::FieldContainerPtr &map)

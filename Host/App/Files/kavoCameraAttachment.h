@@ -7,20 +7,20 @@
 
 #include <vector>
 
-/// Cameras on their way through a scene file. No node holds a camera, so in files they hang on the
-/// root, as the containers of an FCPtrAttributeMap.
+/// Attaches the cameras of the open scene to its root while the scene is saved. No node references
+/// a camera, so a file stores the cameras in an FCPtrAttributeMap of the root.
 class kavoCameraAttachment
 {
 public:
     using List = std::vector<osg::RefPtr<osg::CameraPtr>>;
 
-    /// Hangs the cameras of the open scene on a root, for as long as this lives.
+    /// Attaches the cameras; the destructor detaches them.
     explicit kavoCameraAttachment(const osg::NodePtr &root);
     ~kavoCameraAttachment();
     kavoCameraAttachment(const kavoCameraAttachment &) = delete;
     kavoCameraAttachment &operator=(const kavoCameraAttachment &) = delete;
 
-    /// Takes from a root what was hung on it.
+    /// Detaches the cameras from a root that was read from a file, and returns them.
     static List take(const osg::NodePtr &root);
 
 private:

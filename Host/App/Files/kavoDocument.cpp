@@ -38,7 +38,7 @@ void kavoDocument::beginWith(const QStringList &files)
         && !wasPartlyRead(files.first());
     m_files = files;
     m_file = isSaved ? files.first() : QString();
-    m_scene.drainChanges(); // of what is in the files
+    m_scene.drainChanges(); // entries that loading has made
     m_edits.reset();
     m_hasDiscardedEdits = false;
     setModified(false);

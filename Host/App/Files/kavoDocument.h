@@ -8,7 +8,7 @@
 
 class kavoOpenScene;
 
-/// The open scene as a document: the file that it is saved in, and whether it has changed since.
+/// The open scene as a document: its file, and whether it was modified since it was saved.
 class kavoDocument : public QObject
 {
     Q_OBJECT
@@ -16,30 +16,31 @@ class kavoDocument : public QObject
 public:
     explicit kavoDocument(kavoOpenScene &scene, QObject *parent = nullptr);
 
-    /// Another scene is open, which came of these files. Some of them may hold more than what could
-    /// be read, which saving the scene there would destroy, also after it was saved elsewhere.
+    /// To be called when another scene was opened from these files.
+    /// \param partlyRead files of which only a part could be read. The scene is never saved in
+    ///     them, because that would destroy the rest.
     void setFiles(const QStringList &files, const QStringList &partlyRead = {});
 
-    /// Where it is saved; empty as long as it is not: files of other formats, and those that were
-    /// read in part, are never written to.
+    /// The file that the scene is saved in. Empty if it was opened from another format, from
+    /// several files or from a file that was only partly read.
     QString file() const { return m_file; }
-    /// What to call it: the names of its files.
+    /// The names of the files that the scene was opened from.
     QString title() const;
-    /// A name for the file to save it in.
+    /// A default file name for a save dialog.
     QString suggestedFile() const;
     bool isModified() const { return m_isModified; }
 
-    /// The scene makes way for another, with its edits so far: it counts as unmodified until it is
-    /// edited again.
+    /// To be called before another scene replaces this one. The document counts as unmodified until
+    /// the next edit.
     void discardEdits();
-    /// It stays after all, and so do the edits, unless they have been saved meanwhile.
+    /// Undoes discardEdits() because the scene stays. Saving in between ends its effect.
     void keepEdits();
 
-    /// \throws kavoTaskError, also for a file that was read in part; then everything is as before
+    /// \throws kavoTaskError, also for a partly read file. Scene and file are then unchanged.
     void save(const QString &file);
 
 signals:
-    /// Title, file or modification.
+    /// Emitted when title, file or modification changes.
     void changed();
 
 private:
@@ -50,7 +51,7 @@ private:
     kavoOpenScene &m_scene;
     kavoSceneEdits m_edits;
     QStringList m_files;
-    QStringList m_partlyRead; ///< of the files opened, whatever the scene is saved in since
+    QStringList m_partlyRead; ///< kept when the scene is saved elsewhere
     QString m_file;
     bool m_isModified = false;
     bool m_hasDiscardedEdits = false;

@@ -22,7 +22,7 @@ constexpr Level levels[] = {
     { "LOG:  ", kavoLog::info },
 };
 
-// The host's log has levels of its own. Lines without a header may be anything.
+// Lines without a header of a level count as warnings.
 void write(const QByteArray &line)
 {
     for (const Level &level : levels) {
@@ -32,7 +32,7 @@ void write(const QByteArray &line)
     kavoLog::warning("%s", line.constData());
 }
 
-// A foreign first line of a file is remarked upon, but costs nothing.
+// A message about an unusual first line of a file is harmless: everything is read.
 bool isComplaint(const QByteArray &line)
 {
     constexpr const char *harmless[] = { "NOTICE:", "INFO:", "DEBUG:", "LOG:  File begins with " };
@@ -40,7 +40,7 @@ bool isComplaint(const QByteArray &line)
         [&](const char *start) { return line.startsWith(start); });
 }
 
-}
+} // namespace
 
 kavoLibraryLog::kavoLibraryLog()
     : m_level(osg::osgLog().getLogLevel())
@@ -64,7 +64,7 @@ bool kavoLibraryLog::hasComplaints() const
     return m_hasComplaints || (!m_text.isEmpty() && isComplaint(m_text));
 }
 
-// The library hands over pieces of lines.
+// The library passes pieces of lines.
 void kavoLibraryLog::append(const char *data, int size, void *log)
 {
     auto &self = *static_cast<kavoLibraryLog *>(log);

@@ -4,9 +4,9 @@
 
 #include <QByteArray>
 
-/// Lets what OpenSG logs appear in the host's log, as long as it lives. Elsewhere it goes to
-/// standard error, where users of the window do not see it. One at a time. Warnings are logged
-/// whatever the level of the library's log is.
+/// Redirects OpenSG's log to the host's log for its lifetime. Otherwise OpenSG logs to standard
+/// error, which users of the window do not see. Warnings are logged at any log level of the
+/// library. Only one object may exist at a time.
 class kavoLibraryLog
 {
 public:
@@ -15,14 +15,14 @@ public:
     kavoLibraryLog(const kavoLibraryLog &) = delete;
     kavoLibraryLog &operator=(const kavoLibraryLog &) = delete;
 
-    /// Whether something was said so far that is more than information: what a reader says of a
-    /// file that it does not understand is at any of the other levels.
+    /// Returns true if a message was logged that says that something could not be read or written.
+    /// The library uses several levels for them; only notices, infos and debug output do not count.
     bool hasComplaints() const;
 
 private:
     static void append(const char *data, int size, void *log);
 
-    const osg::LogLevel m_level; ///< as it was before
-    QByteArray m_text; ///< of a line that has not ended
+    const osg::LogLevel m_level; ///< to be restored
+    QByteArray m_text; ///< of the unfinished line
     bool m_hasComplaints = false;
 };

@@ -15,7 +15,7 @@
 
 namespace {
 
-// A folder opens as well; what cannot be read from it shows at the first byte.
+// A folder can be opened, too.
 QString reasonOfFailure(const QString &fileName)
 {
     QFile file(fileName);
@@ -26,7 +26,7 @@ QString reasonOfFailure(const QString &fileName)
     return QCoreApplication::translate("kavoOsgReader", "the file holds no scene");
 }
 
-// Files of several scenes keep the group that the library put them in.
+// The library puts scenes into a new group. With several scenes, that group stays.
 kavoNodePtr withoutNewRoot(const kavoNodePtr &root, const QString &fileName)
 {
     if (root->getNChildren() == 1) {
@@ -38,7 +38,7 @@ kavoNodePtr withoutNewRoot(const kavoNodePtr &root, const QString &fileName)
     return root;
 }
 
-}
+} // namespace
 
 bool kavoOsgReader::canRead(const QString &file)
 {

@@ -6,20 +6,20 @@
 
 #include <QString>
 
-/// Reads what kavoOsgWriter saved, and OpenSG's ASCII files of other programs. GUI thread.
+/// Reads OpenSG's ASCII files, also those of other programs. GUI thread.
 namespace kavoOsgReader {
 
 struct Scene
 {
     kavoNodePtr root;
     kavoCameraAttachment::List cameras;
-    bool isWhole = false; ///< all that is in the file was understood
+    bool isWhole = false; ///< false if a part of the file could not be read
 };
 
 bool canRead(const QString &file);
 
-/// The scene as it is in the file, nothing in it optimised; a root is added only if the file
-/// has several. What the file has that cannot be read is in the log.
+/// Reads the scene without changes. It gets a new root only if the file has several. The log names
+/// everything that could not be read.
 /// \throws kavoTaskError if there is no scene
 Scene read(const QString &file);
 

@@ -32,7 +32,7 @@ void write(const osg::NodePtr &root, const kavoOutputFile &file)
             "kavoOsgWriter", "The scene cannot be saved; the log says why"));
 }
 
-}
+} // namespace
 
 QString kavoOsgWriter::suffix()
 {

@@ -4,20 +4,19 @@
 
 #include <QString>
 
-/// Saves scenes in OpenSG's ASCII format, with what is in them and the cameras of the open scene.
-/// GUI thread.
+/// Saves scenes with the cameras of the open scene, in OpenSG's ASCII format. GUI thread.
 namespace kavoOsgWriter {
 
-/// The suffix of files that can be saved, without the dot.
+/// The suffix of scene files, without the dot.
 QString suffix();
 bool canSave(const QString &file);
 
-/// Lets the library write and read such files so that everything comes back as it was.
+/// Sets the options with which the library writes and reads such files without loss.
 void useFaithfulFormat();
 
-/// The file is there as a whole or as it was before. What the format cannot express is in the
-/// log, but for what numbers have behind the seventh digit. Attachments that are internal stay
-/// out of it.
+/// Replaces the file, or leaves it unchanged if an error occurs. The log names everything that the
+/// format cannot store, except that numbers are rounded to seven digits. Internal attachments are
+/// not saved.
 /// \throws kavoTaskError
 void save(const osg::NodePtr &root, const QString &file);
 

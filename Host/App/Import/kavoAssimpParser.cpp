@@ -15,7 +15,7 @@
 
 namespace {
 
-// Assimp's readers call themselves for nodes inside each other. Memory is taken as it is used.
+// Assimp's readers recurse into nested nodes. The system only provides the stack pages in use.
 constexpr unsigned int stackBytes = 256u << 20;
 constexpr unsigned int postProcessing = aiProcess_Triangulate | aiProcess_GenSmoothNormals
     | aiProcess_JoinIdenticalVertices | aiProcess_SortByPType;
@@ -25,7 +25,7 @@ std::unique_ptr<Assimp::Importer> makeImporter(kavoImportProgress *progress)
     auto importer = std::make_unique<Assimp::Importer>();
     importer->SetPropertyBool(AI_CONFIG_IMPORT_FBX_PRESERVE_PIVOTS, false);
     importer->SetPropertyBool(AI_CONFIG_IMPORT_NO_SKELETON_MESHES, true);
-    importer->SetProgressHandler(progress); // the importer owns it from here on
+    importer->SetProgressHandler(progress); // the importer takes ownership
     return importer;
 }
 
@@ -42,7 +42,7 @@ void requireScene(const aiScene *scene, const Assimp::Importer &importer)
 struct kavoAssimpParser::Job
 {
     std::shared_ptr<kavoParsedFile> result = std::make_shared<kavoParsedFile>();
-    std::optional<QString> reason; // of a failure
+    std::optional<QString> reason; // why parsing failed; empty if it succeeded
     std::atomic_bool canceled { false };
 };
 
@@ -81,7 +81,7 @@ void kavoAssimpParser::run(const std::shared_ptr<Job> &job)
         readTextures(*job);
     });
     if (failure)
-        job->result->importer.reset(); // the scene may be too deep for another thread's stack
+        job->result->importer.reset(); // deleting a deep scene needs the stack of this thread
     if (job->canceled)
         return;
     job->reason = failure;
@@ -124,7 +124,7 @@ void kavoAssimpParser::readTextures(Job &job)
 void kavoAssimpParser::conclude(const std::shared_ptr<Job> &job)
 {
     if (job != m_job)
-        return; // canceled meanwhile
+        return; // this job was canceled
     m_job.reset();
     if (!job->reason) {
         emit finished(job->result);

@@ -7,8 +7,8 @@
 
 struct kavoParsedFile;
 
-/// Parses one scene file at a time on a worker thread. It knows nothing of OpenSG, whose containers
-/// belong to the GUI thread. Signals arrive on the thread that owns the importer.
+/// Parses one scene file at a time with Assimp, on a worker thread. It uses nothing of OpenSG,
+/// whose containers belong to the GUI thread. The parser's own thread receives the signals.
 class kavoAssimpParser : public QObject
 {
     Q_OBJECT
@@ -16,17 +16,17 @@ class kavoAssimpParser : public QObject
 public:
     explicit kavoAssimpParser(QObject *parent = nullptr);
 
-    /// Waits until the worker has noticed that nobody wants its result any more.
+    /// Cancels and waits for the worker.
     ~kavoAssimpParser() override;
 
-    /// Begins to parse; an unfinished job is canceled first. Ends in exactly one of `finished`
-    /// and `failed`, unless it is canceled.
+    /// Starts to parse, and cancels an unfinished job first. Each job emits either `finished` or
+    /// `failed` once; a canceled job emits neither.
     void start(const QString &fileName);
 
-    /// Nothing more is signaled of the current job.
+    /// Cancels the current job. It emits no more signals.
     void cancel();
 
-    /// Waits until the worker is at rest, after cancel() as soon as it notices.
+    /// Blocks until the worker is idle. A canceled job ends at its next progress report.
     void wait() { m_workers.waitForDone(); }
 
 signals:

@@ -6,7 +6,7 @@
 
 #include <assimp/types.h>
 
-/// Values of Assimp as those of OpenSG.
+/// Converts values of Assimp to values of OpenSG.
 namespace kavoAssimpTypes {
 
 inline osg::Vec3f toVector(const aiVector3D &v)
@@ -26,7 +26,7 @@ inline osg::Color4f toColor(const aiColor4D &c)
     return color;
 }
 
-/// Opaque.
+/// The result is opaque.
 inline osg::Color4f toColor(const aiColor3D &c)
 {
     return toColor(aiColor4D(c.r, c.g, c.b, 1));

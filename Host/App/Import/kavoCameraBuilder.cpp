@@ -8,7 +8,7 @@ namespace {
 
 constexpr float defaultAspect = 4.0f / 3.0f;
 
-/// Assimp measures the whole angle from left to right, OpenSG the one from bottom to top.
+// Assimp has the horizontal field of view, OpenSG the vertical one.
 float verticalFov(const aiCamera &camera)
 {
     const float aspect = camera.mAspect > 0 ? camera.mAspect : defaultAspect;
@@ -34,7 +34,7 @@ osg::Matrix kavoCameraBuilder::placement(const aiCamera &camera)
     const aiVector3D right = (aiVector3D(camera.mUp) ^ back).NormalizeSafe();
     const aiVector3D up = back ^ right;
     const aiVector3D &at = camera.mPosition;
-    if (right.SquareLength() == 0) { // looks along its own up: nothing to go by
+    if (right.SquareLength() == 0) { // looks along its own up vector
         osg::Matrix matrix;
         matrix.setTranslate(at.x, at.y, at.z);
         return matrix;

@@ -5,13 +5,14 @@
 
 struct aiCamera;
 
-/// Turns a camera of a file into a PerspectiveCamera. GUI thread.
+/// Converts a camera of a file. GUI thread.
 namespace kavoCameraBuilder {
 
-/// The new camera, named as in the file, without a beacon; its reference count is 0.
+/// Creates the camera, with its name and without a beacon. Its reference count is 0.
 osg::PerspectiveCameraPtr build(const aiCamera &camera);
 
-/// Places the camera, which looks along its negative z axis, in the node that carries it.
+/// The position and direction of the camera in the coordinates of its node. An OpenSG camera
+/// looks along its negative z axis.
 osg::Matrix placement(const aiCamera &camera);
 
 } // namespace kavoCameraBuilder

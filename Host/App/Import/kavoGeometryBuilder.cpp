@@ -10,10 +10,10 @@
 
 namespace {
 
-// By the corners of a face; larger ones are triangulated on import.
+// Indexed by the number of corners of a face, minus one. Assimp triangulates larger faces.
 constexpr osg::UInt8 primitiveTypes[] = { GL_POINTS, GL_LINES, GL_TRIANGLES };
 
-/// A new property with one element for each of `count` sources.
+/// Creates a property and fills it with the converted sources.
 template <class Property, class Source, class Convert>
 typename Property::PtrType property(const Source *sources, unsigned int count, Convert convert)
 {

@@ -4,11 +4,13 @@
 
 struct aiMesh;
 
-/// Turns a mesh of one kind of primitives into a Geometry: positions, normals, colours and up to
-/// eight sets of texture coordinates, addressed by one index for all of them. GUI thread.
+/// Converts a mesh of a file to a Geometry. GUI thread.
+///
+/// The mesh has primitives of one kind. The geometry has positions, normals, colours and up to
+/// eight sets of texture coordinates, with one index for all of them.
 namespace kavoGeometryBuilder {
 
-/// The new geometry without a material; its reference count is 0.
+/// Creates the geometry without a material. Its reference count is 0.
 osg::GeometryPtr build(const aiMesh &mesh);
 
 } // namespace kavoGeometryBuilder

@@ -23,7 +23,7 @@ QByteArray key(const aiString &name)
     return QByteArray(name.data, int(name.length));
 }
 
-/// A new child without a core. An empty name stays away: the node then goes by its core.
+/// Adds a child without a core. With an empty name it gets no name attachment.
 osg::NodePtr addChild(const osg::NodePtr &parent, const std::string &name)
 {
     osg::NodePtr node = osg::Node::create();
@@ -63,7 +63,7 @@ void setBeacon(const LightOrCamera &carried, const osg::NodePtr &node)
     carried->setBeacon(node);
 }
 
-/// A node's children without the holes that some of Assimp's readers leave among them.
+/// The children that are not null. Some of Assimp's readers leave null pointers.
 std::vector<const aiNode *> children(const aiNode &node)
 {
     std::vector<const aiNode *> result(node.mChildren, node.mChildren + node.mNumChildren);
@@ -127,7 +127,7 @@ bool kavoGraphBuilder::buildNextMaterial()
     return true;
 }
 
-/// Materials that name the same file share its image. Null without a path and for a missing file.
+// Materials with the same texture file share one image. Null if there is no such texture.
 osg::ImagePtr kavoGraphBuilder::image(const QString &path)
 {
     const QImage pixels = m_file->textures.value(path);
@@ -181,7 +181,8 @@ void kavoGraphBuilder::buildNode(const aiNode &source, const osg::NodePtr &paren
     if (camera)
         buildCamera(*camera, place);
     const std::vector<const aiNode *> below = children(source);
-    for (auto child = below.rbegin(); child != below.rend(); ++child) // the last in is built first
+    for (auto child = below.rbegin(); child != below.rend();
+         ++child) // pending nodes are built last to first
         m_pendingNodes.push_back({ *child, place });
 }
 

@@ -18,28 +18,28 @@ struct aiLight;
 struct aiNode;
 struct kavoParsedFile;
 
-/// Builds the containers of one parsed file, in steps that are each done in a moment. GUI thread.
+/// Builds the scene graph of one parsed file, in short steps. GUI thread.
 ///
-/// Every node of the file becomes a node of the same name. One that moves nothing carries its first
-/// mesh itself, which saves a level; otherwise it is a Transform with a child for each mesh. A
-/// light's node holds the light and, as a child, its beacon, which carries all that the node
-/// carries in the file. The beacon of a camera is the node of the camera's name. Lights and cameras
-/// whose node is missing get one.
+/// Each node of the file becomes a node with the same name. A node with the identity as its matrix
+/// gets its first mesh as core. Any other node gets a Transform as core and a child for each mesh.
+/// The node of a light has the light as core and the light's beacon as a child. The meshes and
+/// children of that node are below the beacon. The beacon of a camera is the node with the camera's
+/// name. A light or camera without a node in the file gets a new node.
 class kavoGraphBuilder
 {
 public:
-    /// \param root gets the file's root node as a child
-    /// \param library gets a node with a MaterialGroup for each material of the file
+    /// \param root receives the file's root node as a child
+    /// \param library receives a child with a MaterialGroup for each material
     kavoGraphBuilder(std::shared_ptr<kavoParsedFile> file, const osg::NodePtr &root,
         const osg::NodePtr &library);
 
     int stepCount() const;
     int stepsDone() const { return m_stepsDone; }
 
-    /// Does the next step; false if there is none.
+    /// Does the next step. Returns false if there is none.
     bool step();
 
-    /// The cameras made so far, each with its beacon set.
+    /// The cameras built so far, each with its beacon set.
     const std::vector<osg::RefPtr<osg::CameraPtr>> &cameras() const { return m_cameras; }
 
 private:
@@ -66,7 +66,7 @@ private:
     QMap<QByteArray, const aiLight *> m_lightsByName;
     QMap<QByteArray, const aiCamera *> m_camerasByName;
     QHash<QString, osg::RefPtr<osg::ImagePtr>> m_images;
-    std::vector<osg::ChunkMaterialPtr> m_materials; // held by the library
+    std::vector<osg::ChunkMaterialPtr> m_materials; // referenced by the library
     std::vector<osg::RefPtr<osg::GeometryPtr>> m_geometries;
     std::vector<osg::RefPtr<osg::CameraPtr>> m_cameras;
     std::vector<Pending> m_pendingNodes;

@@ -2,17 +2,17 @@
 
 struct aiScene;
 
-/// Checks what Assimp read of a file before anything follows its numbers.
+/// Checks the indices in a scene that Assimp read, before they are used.
 ///
-/// Readers of binary formats hand on what a damaged file says. Assimp's own validation also looks
-/// at rules that nothing here depends on and refuses sound files for them.
+/// Assimp's readers of binary formats do not check the indices of a damaged file. Assimp's own
+/// validation also checks rules that nothing here depends on, and rejects valid files for them.
 namespace kavoImportCheck {
 
-/// Of nodes one inside the other. Assimp calls itself for each, also when it deletes them.
+/// The deepest allowed nesting of nodes. Assimp recurses into them, also to delete them.
 constexpr int maxLevels = 10000;
 
-/// \throws std::runtime_error if there are more levels than that, if a mesh, material or vertex
-///     is named that does not exist, or if values that a mesh must have are missing
+/// \throws std::runtime_error if nodes are nested more deeply than `maxLevels`, if an index is out
+///     of range, or if a mesh lacks its vertices or faces
 void check(const aiScene &scene);
 
 } // namespace kavoImportCheck

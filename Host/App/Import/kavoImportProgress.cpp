@@ -14,7 +14,7 @@ bool kavoImportProgress::Update(float fraction)
     if (m_canceled)
         throw kavoImportCanceled();
     const int percent = std::clamp(int(fraction * 100), 0, 100);
-    if (percent > m_percent) { // a file that names others starts again from 0
+    if (percent > m_percent) { // it starts again from 0 for a file that references others
         m_percent = percent;
         m_report(percent);
     }

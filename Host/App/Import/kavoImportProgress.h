@@ -5,16 +5,16 @@
 #include <exception>
 #include <functional>
 
-/// Thrown out of Assimp to stop it: it pays little heed to the result of a progress handler.
+/// Thrown to stop Assimp, which often ignores the result of a progress handler.
 class kavoImportCanceled : public std::exception
 {
 };
 
-/// Hears from Assimp how far it is, on the thread that parses.
+/// Receives the progress of Assimp, on the thread that parses.
 class kavoImportProgress : public Assimp::ProgressHandler
 {
 public:
-    /// \p report is called with each new percentage, 0 to 100.
+    /// Calls \p report with each new percentage, 0 to 100.
     kavoImportProgress(const std::atomic_bool &canceled, std::function<void(int)> report);
 
     bool Update(float fraction) override;

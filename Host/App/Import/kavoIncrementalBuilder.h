@@ -7,10 +7,10 @@
 #include <QObject>
 #include <QTimer>
 
-/// Builds an OpenSG scene of parsed files on the GUI thread, a slice of a few milliseconds in each
-/// round of the event loop, so that the application stays at hand meanwhile.
+/// Builds one scene graph of all parsed files on the GUI thread. It works for a few milliseconds in
+/// each round of the event loop, so that the application keeps responding.
 ///
-/// The root is a group with a child for each file and, last, the material library: a node
+/// The root is a group with a child for each file. Its last child is the material library: a node
 /// "Materials" with a child for each material, whose core is a MaterialGroup.
 class kavoIncrementalBuilder : public QObject
 {
@@ -24,7 +24,7 @@ public:
 
     void start();
 
-    /// The root, referenced by the builder as long as that lives; whole once `finished` is emitted.
+    /// The root, which the builder references. It is complete once `finished` was emitted.
     osg::NodePtr root() const { return m_root; }
     Cameras cameras() const;
 
@@ -38,7 +38,7 @@ private:
     int percentDone() const;
 
     kavoNodePtr m_root;
-    kavoNodePtr m_library; // below the root when all files are
+    kavoNodePtr m_library; // added to the root after all files
     std::vector<kavoGraphBuilder> m_files;
     QTimer m_timer;
 };

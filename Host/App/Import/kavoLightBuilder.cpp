@@ -14,7 +14,7 @@ namespace {
 osg::LightPtr buildDirectional(const aiLight &light)
 {
     auto result = osg::DirectionalLight::create();
-    result->setDirection(toVector(-light.mDirection)); // OpenSG's direction leads to the light
+    result->setDirection(toVector(-light.mDirection)); // OpenSG's direction points to the light
     return result;
 }
 
@@ -23,7 +23,7 @@ osg::LightPtr buildSpot(const aiLight &light)
     auto result = osg::SpotLight::create();
     result->setPosition(toPoint(light.mPosition));
     result->setDirection(toVector(light.mDirection));
-    result->setSpotCutOff(light.mAngleOuterCone / 2); // from the axis, not across the cone
+    result->setSpotCutOff(light.mAngleOuterCone / 2); // OpenSG measures from the axis
     return result;
 }
 

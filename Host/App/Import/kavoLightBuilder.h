@@ -4,11 +4,11 @@
 
 struct aiLight;
 
-/// Turns a light of a file into a light core. GUI thread.
+/// Converts a light of a file to a light core. GUI thread.
 namespace kavoLightBuilder {
 
-/// The new light without a beacon; its reference count is 0. OpenSG has no ambient and no
-/// area lights: they become point lights.
+/// Creates the light without a beacon. Its reference count is 0. Ambient and area lights, which
+/// OpenSG lacks, become point lights.
 osg::LightPtr build(const aiLight &light);
 
 } // namespace kavoLightBuilder

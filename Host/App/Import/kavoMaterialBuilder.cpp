@@ -34,7 +34,7 @@ float opacity(const aiMaterial &material)
 {
     const aiColor4D diffuse = read(material, aiColor4D(1, 1, 1, 1), AI_MATKEY_COLOR_DIFFUSE);
     const float value = read(material, 1.0f, AI_MATKEY_OPACITY) * diffuse.a;
-    // Some exporters write the transparency here; nobody models what cannot be seen.
+    // Some exporters write the transparency instead: 0 then means opaque.
     return value > 0 ? std::min(value, 1.0f) : 1.0f;
 }
 
@@ -104,7 +104,7 @@ osg::StateChunkPtr buildBlendChunk()
 
 osg::StateChunkPtr buildPolygonChunk(const aiMaterial &material)
 {
-    // Back faces are culled only where the file says that there is nothing to see.
+    // Without the property, back faces may be visible.
     const bool oneSided = read(material, 1, AI_MATKEY_TWOSIDED) == 0;
     auto chunk = osg::PolygonChunk::create();
     const osg::CPEditor edit(chunk);
@@ -140,7 +140,7 @@ osg::ImagePtr kavoMaterialBuilder::buildImage(const QImage &source, const QStrin
     const osg::CPEditor edit(result);
     result->set(
         alpha ? osg::Image::OSG_RGBA_PF : osg::Image::OSG_RGB_PF, image.width(), image.height());
-    for (int row = 0; row < image.height(); ++row) // QImage pads its rows, OpenSG does not
+    for (int row = 0; row < image.height(); ++row) // rows of a QImage are padded
         std::copy_n(image.constScanLine(image.height() - 1 - row), rowBytes,
             result->getData() + row * rowBytes);
     result->setName(path.toUtf8().constData());

@@ -9,7 +9,7 @@
 
 namespace {
 
-// As few digits as tell the number from all others of its type.
+// The shortest text that reads back as the same number.
 template <class Number> std::string number(Number value)
 {
     using Limits = std::numeric_limits<Number>;
@@ -48,7 +48,7 @@ std::string toText(const aiMetadataEntry &entry)
     case AI_AIVECTOR3D:
         return toText(valueOf<aiVector3D>(entry));
     default:
-        return std::string(); // nested metadata: the key is kept
+        return std::string(); // nested metadata keeps its key alone
     }
 }
 

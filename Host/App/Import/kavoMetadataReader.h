@@ -4,11 +4,11 @@
 
 struct aiMetadata;
 
-/// Hangs the metadata of a file's node on a node of the scene, as key/value pairs. GUI thread.
+/// Converts the metadata of a file's node to key/value pairs. GUI thread.
 namespace kavoMetadataReader {
 
-/// Adds an osg::ValuePairBase with one pair for each entry, values as text, of which
-/// numbers read back are the same; nothing where there are no entries.
+/// Attaches an osg::ValuePairBase with one pair for each entry to the node, if there are entries.
+/// Values are text; numbers read back from it are unchanged.
 void attach(const osg::NodePtr &node, const aiMetadata *metadata);
 
 } // namespace kavoMetadataReader

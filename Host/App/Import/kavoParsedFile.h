@@ -11,13 +11,13 @@ namespace Assimp {
 class Importer;
 }
 
-/// What a file holds once it is parsed: Assimp's own tree, and the images that its materials name.
-/// Made on a worker thread, then handed over whole to the GUI thread.
+/// A parsed scene file: Assimp's scene, and the images that its materials use. The worker thread
+/// creates it and passes it to the GUI thread.
 struct kavoParsedFile
 {
     QString fileName;
     std::shared_ptr<Assimp::Importer> importer; ///< owns `scene`
     const aiScene *scene = nullptr;
-    QHash<QString, QImage> textures; ///< by the path that the materials use
-    QStringList warnings; ///< one line each, what is missing in the scene
+    QHash<QString, QImage> textures; ///< the key is the path in the material
+    QStringList warnings; ///< what is missing in the scene, one line each
 };

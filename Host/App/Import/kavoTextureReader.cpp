@@ -22,7 +22,7 @@ QImage kavoTextureReader::readEmbedded(const QString &path) const
         return QImage();
     const auto *bytes = reinterpret_cast<const uchar *>(texture->pcData);
     const int width = int(texture->mWidth);
-    if (texture->mHeight == 0) { // an image file as it stands, mWidth bytes long
+    if (texture->mHeight == 0) { // an encoded image file of mWidth bytes
         return QImage::fromData(bytes, width);
     }
     return QImage(bytes, width, int(texture->mHeight), QImage::Format_ARGB32).copy();

@@ -6,15 +6,15 @@
 
 struct aiScene;
 
-/// Finds and decodes the images that a file's materials name: those embedded in the file, and
-/// those beside it. Files often carry the absolute path of the machine they were made on, so the
-/// bare name is looked for beside the file as well. Any thread.
+/// Reads the images that a file's materials use: images embedded in the file, and files next to it.
+/// The paths are often absolute paths on another machine, so the file name alone is tried as well.
+/// Any thread.
 class kavoTextureReader
 {
 public:
     kavoTextureReader(const aiScene &scene, const QString &sceneFile);
 
-    /// The image, null if there is none of that name or it cannot be decoded.
+    /// The image. Null if it is missing or cannot be decoded.
     QImage read(const QString &path) const;
 
 private:

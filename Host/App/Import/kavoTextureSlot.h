@@ -3,10 +3,10 @@
 #include <QString>
 #include <assimp/material.h>
 
-/// The one texture of a material that the scene graph shows: its base colour.
+/// The texture of a material's base colour, the only one that the scene graph shows.
 struct kavoTextureSlot
 {
-    QString path; ///< as the file spells it, empty without a texture
+    QString path; ///< as in the file; empty if there is no texture
     aiTextureMapMode wrapS = aiTextureMapMode_Wrap;
     aiTextureMapMode wrapT = aiTextureMapMode_Wrap;
 

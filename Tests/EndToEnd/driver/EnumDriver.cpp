@@ -27,7 +27,7 @@ QTreeWidgetItem *findBelow(QTreeWidgetItem *item, const QString &name)
     return nullptr;
 }
 
-}
+} // namespace
 
 EnumDriver::EnumDriver()
 {

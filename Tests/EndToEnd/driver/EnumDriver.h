@@ -4,10 +4,9 @@
 #include <QTimer>
 #include <QTreeWidget>
 
-/// Plug-in that works in the Node Editor as a user does, with the X server's mouse: opens the row
-/// "minFilter" of a texture chunk, picks "GL_LINEAR" from its combo box, saves the scene with
-/// Ctrl+S if it is in a file of its own, and ends the host. What cannot be done in half a minute
-/// ends the host with exit code 3.
+/// A plug-in that uses the Node Editor with the mouse of the X server. It opens the row "minFilter"
+/// of a texture chunk, picks "GL_LINEAR" from the combo box, saves the scene with Ctrl+S if it is
+/// an .osg file, and quits the host. After half a minute it quits the host with exit code 3.
 class EnumDriver : public QObject
 {
     Q_OBJECT

@@ -31,7 +31,7 @@ QString brokenFile(const QTemporaryDir &folder)
     return file.fileName();
 }
 
-/// Nodes one inside the other.
+/// A file with nested nodes.
 QString deepFile(const QTemporaryDir &folder, int levels)
 {
     QByteArray nodes;
@@ -47,7 +47,7 @@ QString deepFile(const QTemporaryDir &folder, int levels)
 
 using Damage = void (*)(aiScene &);
 
-/// A binary file of the truck with a fault in it, as a bad disk would leave it.
+/// A binary file of the truck that is damaged.
 QString damagedFile(const QTemporaryDir &folder, Damage damage)
 {
     const QString file = folder.filePath("damaged.assbin");
@@ -80,7 +80,7 @@ private slots:
         QVERIFY(find("Last") != osg::NullFC);
     }
 
-    // It is read, checked and deleted again on the worker, whose stack is the biggest.
+    // The worker, which has the largest stack, reads, checks and deletes it.
     void aFileNestedTooDeeplyIsRefused()
     {
         const QTemporaryDir folder;
@@ -226,7 +226,7 @@ private slots:
         while (files.hasNext()) {
             const QString file = folder.relativeFilePath(files.next());
             if (file == "invalid/OutOfMemory.off")
-                continue; // it asks for all the memory there is, and the machine needs some
+                continue; // loading it would use up the memory
             if (!noScenes.contains(QFileInfo(file).suffix().toLower()))
                 QTest::newRow(qPrintable(file)) << file;
         }

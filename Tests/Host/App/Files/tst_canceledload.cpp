@@ -24,14 +24,14 @@ const QString truck = QStringLiteral("glTF/CesiumMilkTruck/CesiumMilkTruck.gltf"
 const QString house = QStringLiteral("IFC/AC14-FZK-Haus.ifc");
 const QString lights = QStringLiteral("Collada/lights.dae");
 
-/// The texture of each takes longer than a slice, or not much less.
+/// Models whose texture takes about as long as a slice.
 QStringList tenTrucks()
 {
     return QVector<QString>(10, model(truck)).toList();
 }
 
-/// Waits until the worker is through with what was canceled.
-/// \returns whether nothing can come of it any more: no scene is under construction
+/// Waits until the worker has ended the canceled job.
+/// \returns true if no scene is being built
 bool isAtRest(kavoBackgroundLoader &loader)
 {
     loader.shutDown();
@@ -40,7 +40,7 @@ bool isAtRest(kavoBackgroundLoader &loader)
     return !loader.findChild<kavoIncrementalBuilder *>();
 }
 
-/// A pipe that keeps its readers waiting for a moment, then is empty whenever they look.
+/// A pipe that blocks its reader for a moment and then is empty.
 class SlowPipe
 {
 public:
@@ -75,7 +75,7 @@ private:
 
 } // namespace
 
-// Loads that end before their scene is there.
+// Loads that are canceled before the scene is complete.
 class tst_CanceledLoad : public QObject
 {
     Q_OBJECT
@@ -92,7 +92,7 @@ private slots:
         QSignalSpy loaded(&loader, &kavoBackgroundLoader::loaded);
         bool endedAtOnce = false;
         connect(&loader, &kavoBackgroundLoader::progress, [&] {
-            if (progress.count() == 2) { // the worker is in the midst of it
+            if (progress.count() == 2) { // the worker is parsing
                 loader.cancel();
                 endedAtOnce = canceled.count() == 1 && !loader.isLoading();
             }
@@ -144,7 +144,7 @@ private slots:
         int toldBefore = 0, toldAfter = 0;
         connect(&loader, &kavoBackgroundLoader::canceled, [&] {
             toldBefore = progress.count();
-            for (int round = 0; round < 20; ++round) // a slice each
+            for (int round = 0; round < 20; ++round) // one slice each round
                 QCoreApplication::processEvents();
             toldAfter = progress.count();
         });

@@ -74,7 +74,7 @@ QStringList names(const osg::NodePtr &root)
     return result;
 }
 
-// Of generated names only what is the same each time.
+// Replaces the changing part of generated names.
 QStringList withoutIds(QStringList texts)
 {
     return texts.replaceInStrings(QRegularExpression("\\d+"), "#");
@@ -228,7 +228,7 @@ void tst_OsgWriter::textsComeBackAsTheyWere()
     QCOMPARE(osg::getName(copy), "tab\t  blanks\n\\path\\ \"quote\"");
 }
 
-// A new chunk of this kind has values in its lists.
+// The lists of a new chunk of this type are not empty.
 void tst_OsgWriter::listsComeBackAsTheyWere()
 {
     show(groupWith(osg::RegisterCombinersChunk::create()));

@@ -42,7 +42,7 @@ void addShape(aiMesh &mesh)
     mesh.mAnimMeshes[0]->mNumVertices = vertexCount;
 }
 
-// One triangle that a bone moves and that has a shape to blend with.
+// One triangle with a bone and a blend shape.
 std::unique_ptr<aiScene> makeScene()
 {
     auto scene = std::make_unique<aiScene>();
@@ -64,7 +64,7 @@ template <class Value> void loseArray(Value *&values)
     values = nullptr;
 }
 
-// Adds nodes one inside the other below the root until there are so many levels.
+// Adds nested nodes below the root, until there are as many levels.
 void nest(aiScene &scene, int levels)
 {
     for (aiNode *node = scene.mRootNode; --levels > 0; node = node->mChildren[0])

@@ -12,8 +12,8 @@ OSG_BEGIN_NAMESPACE
 class ThrowingMark;
 typedef FCPtr<AttachmentPtr, ThrowingMark> ThrowingMarkPtr;
 
-/// Attachment as a plug-in may bring it along, with a fault: its field "text" throws where others
-/// are written or read. What it throws is no std::exception if its text says so.
+/// A faulty attachment type, as a plug-in may register it: its field "text" throws when it is
+/// written or read. It throws an int instead of a std::exception if its text says so.
 class ThrowingMark : public Attachment
 {
     typedef Attachment Inherited;
