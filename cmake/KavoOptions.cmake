@@ -1,9 +1,9 @@
-# Switches of the build, and the one INTERFACE target that carries our warning flags.
-# Third-party code never links it.
+# The options of the build, and the INTERFACE target with our warning flags. Third-party code does not
+# link it.
 
-set(OPENSG_ROOT "" CACHE PATH "Prefix of an installed OpenSG 1.8; empty builds the one in OpenSG/")
-set(KAVO_MODEL_DIR /usr/share/assimp/models CACHE PATH "Where Debian's assimp-testmodels are")
-set(KAVO_SANITIZE "" CACHE STRING "Sanitizers to build with, for example address,undefined")
+set(OPENSG_ROOT "" CACHE PATH "Prefix of an installed OpenSG 1.8; empty to build OpenSG/")
+set(KAVO_MODEL_DIR /usr/share/assimp/models CACHE PATH "Folder of Debian's assimp-testmodels")
+set(KAVO_SANITIZE "" CACHE STRING "Sanitizers, for example address,undefined")
 option(KAVO_BUILD_BENCHMARKS "Build the benchmarks" OFF)
 option(KAVO_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
 

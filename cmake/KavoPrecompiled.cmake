@@ -1,10 +1,10 @@
-# Precompiled headers: one set a layer. A target takes a set with PRECOMPILED <set>.
-# Every header must compile without them: scripts/check-headers.
+# Precompiled headers. Each layer has a set; a target uses one with PRECOMPILED <set>.
+# scripts/check-headers checks that each header compiles without them.
 
 option(KAVO_PRECOMPILED_HEADERS "Precompile the headers that many sources include" ON)
 
-# The cache of compiled objects, if it is installed. It must be told that what a precompiled header defines
-# does not depend on the time.
+# ccache, if it is installed. It refuses precompiled headers unless it may ignore the macros that they
+# define and the time macros.
 find_program(KAVO_CCACHE ccache)
 if(KAVO_CCACHE)
     if(NOT CMAKE_CXX_COMPILER_LAUNCHER)
@@ -28,7 +28,7 @@ function(kavo_add_precompiled_headers name)
     target_compile_options(${name} PRIVATE ${KAVO_CACHE_OPTIONS})
 endfunction()
 
-# kavo_use_precompiled_headers(target set) : nothing happens without a set.
+# kavo_use_precompiled_headers(target set) : the set may be empty.
 function(kavo_use_precompiled_headers name set)
     if(KAVO_PRECOMPILED_HEADERS AND set)
         target_precompile_headers(${name} REUSE_FROM ${set})

@@ -1,13 +1,14 @@
-# The verbs of the build. A leaf CMakeLists.txt is a name, its sources and what it depends on.
+# The functions that define targets. A CMakeLists.txt in a leaf folder only has names, sources and
+# dependencies.
 #
-# Arguments of several verbs:
+# Common arguments:
 #   PRECOMPILED set   the precompiled headers to use (KavoPrecompiled.cmake)
-#   NO_QT             no code generators of Qt
+#   NO_QT             do not run Qt's code generators
 
 # kavo_add_library(name [STATIC|OBJECT] [NO_QT] SOURCES ... [DEPENDS ...] [PRIVATE_DEPENDS ...]
 #                  [INCLUDES ...] [PRECOMPILED set])
-# A shared library, unless it says otherwise. Its clients include from INCLUDES; the default is its
-# own folder.
+# A shared library by default. INCLUDES are the include folders of its clients; the default is its own
+# folder.
 function(kavo_add_library name)
     cmake_parse_arguments(
         arg "STATIC;OBJECT;NO_QT" "PRECOMPILED" "SOURCES;DEPENDS;PRIVATE_DEPENDS;INCLUDES" ${ARGN})
@@ -30,7 +31,7 @@ function(kavo_add_library name)
 endfunction()
 
 # kavo_add_room(Name SOURCES ... DEPENDS ...) : a room of the application, the static library kavoName.
-# Its headers are included with the room, as "Name/kavoX.h".
+# Includes carry the room: "Name/kavoX.h".
 function(kavo_add_room name)
     kavo_add_library(kavo${name} STATIC ${ARGN}
         INCLUDES ${PROJECT_SOURCE_DIR}/Host/App PRECOMPILED kavoHostHeaders)
@@ -57,9 +58,9 @@ endfunction()
 
 # kavo_add_test(tst_name [SOURCES more.cpp ...] DEPENDS ... [PRECOMPILED set] [WINDOWED]
 #               [NEEDS targets...])
-# Runs tst_name.cpp under CTest: without a display, or, WINDOWED, in a real X server of its own and
-# with the label window. The user's settings and log level do not reach it.
-# NEEDS names targets that must be built first though the test does not link them.
+# Adds tst_name.cpp as a test. It runs without a display; with WINDOWED it runs in its own X server and
+# has the label window. It does not see the user's settings and log level.
+# NEEDS are targets to build first that the test does not link.
 # Only tst_name.cpp may define classes with Q_OBJECT.
 function(kavo_add_test name)
     cmake_parse_arguments(arg "WINDOWED" "PRECOMPILED" "SOURCES;DEPENDS;NEEDS" ${ARGN})
@@ -93,7 +94,7 @@ function(kavo_add_benchmark name)
     kavo_add_executable(${name} SOURCES ${name}.cpp ${arg_SOURCES} DEPENDS ${arg_DEPENDS})
 endfunction()
 
-# The code generators of Qt: moc always, the others where a source needs them.
+# Runs moc, and uic and rcc if there are sources for them.
 function(kavo_enable_qt_tools name)
     set_target_properties(${name} PROPERTIES AUTOMOC ON)
     if("${ARGN}" MATCHES "\\.ui")
@@ -104,7 +105,7 @@ function(kavo_enable_qt_tools name)
     endif()
 endfunction()
 
-# Makes X.moc of X.cpp, which includes it at its end. AUTOMOC would compile one more source a target.
+# Generates X.moc, which X.cpp includes at its end. AUTOMOC would add another source to the target.
 function(kavo_generate_moc name source)
     cmake_path(REPLACE_EXTENSION source LAST_ONLY moc OUTPUT_VARIABLE moc)
     qt5_generate_moc(${source} ${CMAKE_CURRENT_BINARY_DIR}/${moc} TARGET ${name})

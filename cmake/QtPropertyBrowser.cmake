@@ -1,6 +1,5 @@
 # Qt Property Browser (the Qt Solutions component, BSD) is in no binary package of Debian. scripts/setup
-# takes its sources from a Debian source package into the user's cache; any other checkout of the
-# component's src folder serves as well.
+# copies its sources from a Debian source package to the user's cache. Any other checkout works, too.
 
 set(cache_home $ENV{XDG_CACHE_HOME})
 if(NOT cache_home)

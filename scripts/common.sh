@@ -1,8 +1,8 @@
 # shellcheck shell=bash
-# Sourced by the scripts: the root of the checkout, and how they speak.
+# Sourced by the other scripts.
 root=$(CDPATH= cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
-# On standard error, so that what a job of kavo prints can be piped on.
+# Prints to standard error, so that the output of kavo's jobs can be piped.
 say() { printf '== %s\n' "$*" >&2; }
 
 fail() {
@@ -10,8 +10,8 @@ fail() {
     exit 1
 }
 
-# build PRESET [TARGET...] : configures where that was not done yet, and builds the targets, or
-# everything, into build/PRESET.
+# build PRESET [TARGET...] : configures build/PRESET if necessary, and builds the targets in it; without
+# targets it builds everything.
 build() {
     local preset=$1 folder
     shift
