@@ -38,4 +38,4 @@ inline osg::Matrix toMatrix(const aiMatrix4x4 &m)
         m.d2, m.d3, m.d4);
 }
 
-}
+} // namespace kavoAssimpTypes

@@ -30,7 +30,7 @@ template <class Value> std::string textOf(const Value &value)
     return kavoTestPairs::of(node).at(0).value;
 }
 
-}
+} // namespace
 
 void tst_MetadataReader::numbersAreWrittenWithoutLoss_data()
 {
