@@ -18,13 +18,13 @@ namespace {
 
 enum ExitCode { Success = 0, Failure = 1, WrongUsage = 2 };
 
-// Modules of plug-ins die after main() has returned and still use what these point to. They are
-// never deleted; the pointers keep them reachable.
+// Modules of plug-ins are destroyed after main() has returned and still use these objects. So the
+// objects are never deleted; the pointers keep them reachable for the leak checker.
 int argumentCount = 0;
 QApplication *application = nullptr;
 kavoMainWindow *mainWindow = nullptr;
 
-// Whether the X server that a variable names answers is left to Qt, which says so and aborts.
+// Does not check that the X server answers: Qt does, reports it and aborts.
 bool hasDisplay(int argc, char **argv)
 {
     const auto choosesPlatform = [](const char *argument) {
@@ -42,7 +42,7 @@ void createApplication(int argc, char **argv)
     QApplication::setOrganizationName(QStringLiteral("kavo"));
     QApplication::setApplicationName(QStringLiteral("kavo"));
     QApplication::setApplicationVersion(QStringLiteral(KAVO_VERSION));
-    // Qt has set the user's locale. OpenSG writes and reads numbers by it, and files want a point.
+    // Qt has set the user's locale. OpenSG uses it for numbers, but files need a decimal point.
     std::setlocale(LC_NUMERIC, "C");
 }
 
@@ -80,7 +80,7 @@ int runWindow(const kavoCommandLine &commandLine)
     jobs.start();
     QApplication::exec();
     const int printed = printField(commandLine.fieldToPrint());
-    mainWindow->shutDown(); // tells the jobs that a load has not come to its end
+    mainWindow->shutDown(); // cancels loading, so that the jobs fail
     return jobs.exitCode() == Success ? printed : jobs.exitCode();
 }
 
@@ -88,12 +88,12 @@ int runWindow(const kavoCommandLine &commandLine)
 
 int main(int argc, char **argv)
 {
-    // Without a display Qt would abort. What needs none is done without one.
+    // Without a display Qt would abort, although jobs need none.
     const bool isOffScreen = !hasDisplay(argc, argv);
     if (isOffScreen)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     createApplication(argc, argv);
-    const kavoCommandLine commandLine(QApplication::arguments()); // without Qt's own
+    const kavoCommandLine commandLine(QApplication::arguments()); // without the options of Qt
     if (!commandLine.error().isEmpty()) {
         fail(commandLine.error() + "\nTry kavo --help.");
         return WrongUsage;

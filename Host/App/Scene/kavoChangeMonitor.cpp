@@ -50,8 +50,8 @@ template <class Handles> void touch(const Handles &containers, QSet<osg::UInt32>
 kavoChangeMonitor::kavoChangeMonitor(QObject *parent)
     : QObject(parent)
 {
-    // A loop that never comes to rest does not block, one that does is not awakened by its own
-    // work: only both together make it every round.
+    // A busy loop does not block, and an idle loop does not wake up for its own work. Only both
+    // signals together cover every round.
     auto *dispatcher = QAbstractEventDispatcher::instance();
     connect(dispatcher, &QAbstractEventDispatcher::aboutToBlock, this, &kavoChangeMonitor::drain);
     connect(dispatcher, &QAbstractEventDispatcher::awake, this, &kavoChangeMonitor::drain);

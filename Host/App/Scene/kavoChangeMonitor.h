@@ -4,19 +4,19 @@
 
 #include <QObject>
 
-/// Empties OpenSG's change list once in each round of the event loop and tells what it held.
+/// Empties OpenSG's change list in each round of the event loop and reports what it held.
 ///
-/// OpenSG only appends to the list, so somebody has to empty it; and it knows every edit, whoever
-/// made it, so views learn of edits here instead of comparing values. One monitor a process.
+/// OpenSG only appends to the list, so the host must empty it. The list holds every edit, so views
+/// learn of edits here instead of comparing values. One monitor a process.
 class kavoChangeMonitor : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Change lists must have been made writable before osgInit (ChangeList::setReadWriteDefault).
+    /// Needs change lists that were writable at osgInit (ChangeList::setReadWriteDefault).
     explicit kavoChangeMonitor(QObject *parent = nullptr);
 
-    /// Empties the list now. Called by the event loop; tests may call it themselves.
+    /// Empties the list now. The event loop calls this in each round.
     void drain();
 
 signals:

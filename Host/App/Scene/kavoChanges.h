@@ -8,8 +8,9 @@
 /// What happened to containers during one round of the event loop.
 struct kavoChanges
 {
-    QHash<osg::UInt32, osg::BitVector> changed; ///< fields by container id, living ones only
-    /// All that changed, and what it belongs to: the holders of an attachment, the nodes of a core.
+    QHash<osg::UInt32, osg::BitVector>
+        changed; ///< fields by container id; without destroyed containers
+    /// The changed containers, the holders of changed attachments and the nodes of changed cores.
     QSet<osg::UInt32> touched;
     QSet<osg::UInt32> created;
     QSet<osg::UInt32> destroyed;

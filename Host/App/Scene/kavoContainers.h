@@ -4,21 +4,21 @@
 
 #include <QString>
 
-/// Containers by id. Views keep ids, never handles: an id is not used twice, while the handle of a
-/// container that was destroyed leads nowhere.
+/// Finds containers by id. Views keep ids instead of handles: ids are never reused, while the
+/// handle of a destroyed container dangles.
 namespace kavoContainers {
 
-/// The living container of that id, null if there is none.
+/// The container of that id, null if it was destroyed or never existed.
 osg::FieldContainerPtr find(osg::UInt32 id);
 
-/// The same for nodes; null for any other container.
+/// The node of that id, null if there is no such container or it is not a node.
 osg::NodePtr node(osg::UInt32 id);
 
 /// The container's id, 0 for null.
 osg::UInt32 id(const osg::FieldContainerPtr &container);
 
-/// What to call it: of a node kavoNodeUtils::getName, else the text of its Name attachment,
-/// else the name of its type. Empty for null.
+/// The display name: kavoNodeUtils::getName() for a node; for other containers the Name attachment
+/// or, without one, the type name. Empty for null.
 QString name(const osg::FieldContainerPtr &container);
 
 /// Whether the node is `ancestor` or below it.

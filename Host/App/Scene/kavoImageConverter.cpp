@@ -2,7 +2,7 @@
 
 namespace {
 
-/// Qt's format for the pixels as they stand, Format_Invalid for what Qt cannot read.
+/// Qt's name for the pixel format, Format_Invalid if Qt has none.
 QImage::Format format(osg::UInt32 pixelFormat)
 {
     switch (pixelFormat) {

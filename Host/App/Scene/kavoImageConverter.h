@@ -4,11 +4,11 @@
 
 #include <QImage>
 
-/// From OpenSG images to Qt's.
+/// Converts OpenSG images to Qt images.
 namespace kavoImageConverter {
 
-/// The first picture of the image, top row first; null for a null or an empty image and for
-/// one whose channels are no bytes.
+/// The first frame of the image, top row first. Null if the image is null or empty, or if its
+/// channels are not bytes.
 QImage toImage(const osg::ImagePtr &image);
 
 } // namespace kavoImageConverter

@@ -6,8 +6,8 @@
 #include <QVector3D>
 #include <QVector>
 
-/// What a material looks like, as far as a small picture or a simple viewport can show it: colours
-/// and shininess of a ChunkMaterial's material chunk or of a SimpleMaterial, and its texture.
+/// The part of a material that pictures and viewport show: colours, shininess, opacity and texture.
+/// Read from the chunks of a ChunkMaterial or from a SimpleMaterial.
 struct kavoMaterialLook
 {
     QVector3D diffuse { 0.8f, 0.8f, 0.8f }; ///< red, green, blue from 0 to 1

@@ -6,9 +6,9 @@
 
 namespace kavoNodeWalk {
 
-/// Visits the nodes at and below the root, parents before children, children in their order, until
-/// a visit returns false. Without recursion: a scene may be deeper than the stack.
-/// \param root may be null, which is no node
+/// Visits the nodes at and below the root, parents before children, until a visit returns false.
+/// Works without recursion, because a scene may be deeper than the stack.
+/// \param root null for no nodes at all
 /// \returns whether all were visited
 template <class Visit> bool forEachNode(const osg::NodePtr &root, Visit visit)
 {

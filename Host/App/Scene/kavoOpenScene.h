@@ -33,13 +33,13 @@ signals:
     /// Another scene is open.
     void replaced();
     void selectionChanged();
-    /// What happened in one round of the event loop. Never empty, never emitted within an edit.
+    /// What changed in one round of the event loop. Never empty; never emitted within an edit.
     void changed(const kavoChanges &changes);
     /// Nodes of the scene were added, removed or moved, or have another core.
     void structureChanged();
     void materialsChanged();
     void lightsChanged();
-    /// A module asked for new pictures of the materials. Never emitted within its call.
+    /// A module asked for new pictures of the materials. Emitted after its call has returned.
     void materialRenderingRequested();
 
 private:

@@ -9,7 +9,7 @@ namespace {
 struct Entry
 {
     osg::RefPtr<osg::CameraPtr> camera;
-    osg::UInt32 nodeId; // the beacon is not referenced by its camera: only its id outlives it
+    osg::UInt32 nodeId; // id instead of handle: the camera does not reference its beacon
 };
 
 struct Cameras
@@ -18,7 +18,7 @@ struct Cameras
     osg::UInt32 activeNodeId = 0;
 };
 
-// Never destroyed: by then OpenSG is no longer able to take references back.
+// Never destroyed: static objects are destroyed after OpenSG, which could not release references.
 Cameras &cameras()
 {
     static auto *const instance = new Cameras;

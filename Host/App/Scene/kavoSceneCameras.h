@@ -6,24 +6,23 @@
 
 #include <vector>
 
-/// The cameras of the open scene. No node holds a camera, so the host keeps them here, referenced.
-/// A camera lives as long as its beacon: those whose node was deleted are no longer listed.
-/// GUI thread.
+/// The cameras of the open scene. Nodes do not hold cameras, so this registry references them. A
+/// camera disappears when its beacon node is destroyed. For the GUI thread only.
 namespace kavoSceneCameras {
 
 /// Replaces all cameras; the first one becomes active.
 void set(const std::vector<osg::RefPtr<osg::CameraPtr>> &cameras);
 
-/// Container ids of the beacons, in the order of the cameras.
+/// The ids of the beacon nodes, in the order of the cameras.
 std::vector<osg::UInt32> nodeIds();
 
-/// The camera at a node, null if there is none.
+/// The camera whose beacon is that node, null if there is none.
 osg::CameraPtr at(osg::UInt32 nodeId);
 
-/// The node of the camera that the viewport looks through; 0 if there is none.
+/// The beacon node of the active camera; 0 if there is none.
 osg::UInt32 activeNodeId();
 
-/// Activates the camera at the node; nothing happens if there is none.
+/// Activates the camera whose beacon is that node. Ignored if there is none.
 void activate(osg::UInt32 nodeId);
 
 } // namespace kavoSceneCameras

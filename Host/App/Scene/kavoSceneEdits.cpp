@@ -20,7 +20,8 @@ const auto &store()
     return *osg::FieldContainerFactory::the()->getFieldContainerStore();
 }
 
-// Chunks do not know their materials. Those that a material made for itself are in no list.
+// Chunks do not know their materials, so all materials are searched. A chunk that a material
+// creates for itself is not in its list.
 bool isListed(const osg::StateChunkPtr &chunk)
 {
     return std::any_of(
@@ -30,7 +31,7 @@ bool isListed(const osg::StateChunkPtr &chunk)
         });
 }
 
-// Volumes are brought up to date all the time, but for those that somebody fixed.
+// Volumes are computed again and again, except static ones.
 bool isSaved(const osg::FieldDescription &field, const osg::FieldContainerPtr &container)
 {
     const auto node = osg::NodePtr::dcast(container);

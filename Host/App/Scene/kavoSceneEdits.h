@@ -4,17 +4,16 @@
 
 struct kavoChanges;
 
-/// Tells edits of the open scene from what else happens to containers: volumes that are brought up
-/// to date, containers that materials make for themselves, another scene that is being loaded.
-/// A volume that was set by hand is an edit if it is static; any other holds until the next change
-/// below its node.
+/// Tells edits of the open scene from other changes: updates of volumes, containers that materials
+/// create for themselves, another scene that is loaded. A change of a volume is an edit only if the
+/// volume is static, because any other volume is computed again.
 class kavoSceneEdits
 {
 public:
-    /// The open scene is what it shall be compared with from now on.
+    /// Takes the open scene as the saved state.
     void reset();
 
-    /// Whether a saved file would hold something else afterwards.
+    /// Whether the changes make the scene differ from the saved state.
     bool areIn(const kavoChanges &changes) const;
 
 private:
@@ -22,7 +21,7 @@ private:
     bool isInScene(const osg::FieldContainerPtr &container) const;
     template <class Handles> bool isAnyInScene(const Handles &containers) const;
 
-    /// Ids from here on came later. Such a container is in the scene only if one from before was
-    /// edited, so it need not be looked for.
+    /// Containers from this id on were created after reset(). They can join the scene only by an
+    /// edit of an older container, which is found itself.
     osg::UInt32 m_firstNewId = 0;
 };

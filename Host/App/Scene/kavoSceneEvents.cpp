@@ -10,7 +10,7 @@ kavoSceneEvents *listener = nullptr;
 
 void requestMaterialRendering(kavoMessage &)
 {
-    // The caller may be in the midst of an edit.
+    // Queued, because the caller may be within an edit.
     QMetaObject::invokeMethod(
         listener, &kavoSceneEvents::materialRenderingRequested, Qt::QueuedConnection);
 }

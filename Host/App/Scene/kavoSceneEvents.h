@@ -2,7 +2,7 @@
 
 #include <kavoModuleBase.h>
 
-/// The host's own ear for the messages and calls that reach modules, turned into signals.
+/// Receives messages and calls like a module and emits them as signals.
 class kavoSceneEvents : public kavoModuleBase
 {
     Q_OBJECT
@@ -14,12 +14,11 @@ public:
     bool receivedMessage(kavoMessage &message) override;
 
 signals:
-    /// Another scene is in place: kavoScenegraph::getRoot() tells.
+    /// Another scene is open.
     void sceneReset();
 
-    /// kavoScenegraph::getSelectedNode() has a new answer.
     void selectionChanged();
 
-    /// A module asked for new pictures of the materials. Never emitted within the call itself.
+    /// A module asked for new pictures of the materials. Emitted after its call has returned.
     void materialRenderingRequested();
 };

@@ -9,18 +9,18 @@ class kavoChangeMonitor;
 class kavoSceneEvents;
 struct kavoChanges;
 
-/// The materials and lights of the open scene, found by one walk for all views that list them.
+/// Lists the nodes of the open scene that hold a material or a light, found in one walk.
 class kavoSceneIndex : public QObject
 {
     Q_OBJECT
 
 public:
-    /// A node and what its core brings into the scene, as container ids.
+    /// Container ids of a node and of what its core brings into the scene.
     struct Entry
     {
         osg::UInt32 node;
         osg::UInt32 core;
-        osg::UInt32 content; ///< of a material group its material or 0, of a light the core again
+        osg::UInt32 content; ///< the material of a material group or 0; for a light the core
 
         bool operator==(const Entry &other) const;
     };
@@ -28,7 +28,7 @@ public:
 
     kavoSceneIndex(kavoSceneEvents &events, kavoChangeMonitor &monitor, QObject *parent = nullptr);
 
-    /// Nodes whose core is a MaterialGroup, in the order of a walk of the scene.
+    /// Nodes whose core is a MaterialGroup, parents before children.
     const Entries &materials() const { return m_materials; }
 
     /// Nodes whose core is a light.
@@ -38,7 +38,7 @@ signals:
     void materialsChanged();
     void lightsChanged();
 
-    /// Nodes of the open scene were added, removed or moved, or got another core.
+    /// Nodes of the scene were added, removed or moved, or have another core.
     void structureChanged();
 
 private:

@@ -12,10 +12,10 @@ struct Pending
 {
     osg::NodePtr node;
     QMatrix4x4 toWorld;
-    osg::UInt32 material; // of the material group above, 0 for none
+    osg::UInt32 material; // material of the nearest material group above, 0 for none
 };
 
-/// What the node's core does to all below.
+/// Applies what the core does to the whole subtree: a transformation or a material.
 void applyCore(Pending &at)
 {
     const osg::NodeCorePtr core = at.node->getCore();

@@ -5,7 +5,7 @@
 #include <QMatrix4x4>
 #include <vector>
 
-/// One geometry in its place, as container ids.
+/// A geometry to draw. All ids are container ids.
 struct kavoRenderItem
 {
     osg::UInt32 node;
@@ -14,11 +14,11 @@ struct kavoRenderItem
     QMatrix4x4 toWorld;
 };
 
-/// The geometries of a scene, flat.
+/// Lists the geometries of a scene.
 namespace kavoRenderItems {
 
-/// All geometries at and below a node that its traversal masks let show, in the order of a
-/// walk. A material group's material counts for all below it.
+/// All visible geometries at and below a node, parents before children. Nodes with traversal mask 0
+/// hide their subtree. The material of a material group replaces the geometry's own.
 std::vector<kavoRenderItem> of(const osg::NodePtr &root);
 
 QMatrix4x4 toMatrix(const osg::Matrix &matrix);

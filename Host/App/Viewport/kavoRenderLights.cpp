@@ -26,7 +26,7 @@ kavoRenderLight convert(const osg::LightPtr &light)
     const QMatrix4x4 toWorld
         = beacon == osg::NullFC ? QMatrix4x4() : kavoRenderItems::toMatrix(beacon->getToWorld());
     const osg::Color4f color = light->getDiffuse();
-    // Files give strengths in units of their own: bright is enough.
+    // Files use different units of strength, so a strong light only keeps its hue.
     const float strongest = std::max({ 1.0f, color.red(), color.green(), color.blue() });
     return { toWorld * localPosition(light),
         QVector3D(color.red(), color.green(), color.blue()) / strongest };

@@ -6,22 +6,21 @@
 #include <QVector4D>
 #include <vector>
 
-/// A light as a shader takes it.
+/// A light in the form that the shader needs.
 struct kavoRenderLight
 {
-    QVector4D position; ///< in the world; a direction to the light where w is 0
+    QVector4D position; ///< in world space; if w is 0, the direction to the light
     QVector3D color;
 };
 
-/// The lights that are on. A file's lights are meant for all of its scene, so the viewport lets
-/// each shine everywhere and not only below its node.
+/// Lists the lights that are on. Files mean their lights for the whole scene, so each light shines
+/// everywhere and not only on the nodes below it.
 namespace kavoRenderLights {
 
-/// What the shader has room for.
+/// The size of the shader's arrays.
 constexpr int maximum = 4;
 
-/// At most `maximum` lights; a lamp at the eye where none is on.
-std::vector<kavoRenderLight> of(
-    const kavoOpenScene::Entries &lights, const QVector3D &eye);
+/// At most `maximum` lights. If no light is on, one light at the eye.
+std::vector<kavoRenderLight> of(const kavoOpenScene::Entries &lights, const QVector3D &eye);
 
 } // namespace kavoRenderLights

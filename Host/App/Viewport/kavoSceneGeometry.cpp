@@ -21,10 +21,11 @@ bool intersectsBox(
         enter = std::max(enter, std::min(toMin, toMax));
         leave = std::min(leave, std::max(toMin, toMax));
     }
-    return !(enter > leave); // a ray within a side of the box yields no number
+    return !(enter > leave); // true for NaN, which a ray within a side of the box yields
 }
 
-/// How far along the ray the triangle is met, infinity if it is not (Moeller and Trumbore).
+/// The distance along the ray to the triangle, infinity if the ray misses it (Moeller and
+/// Trumbore).
 float intersectTriangle(
     const QVector3D &origin, const QVector3D &direction, const kavoTriangleSoup::Vertex *corner)
 {
@@ -40,7 +41,8 @@ float intersectTriangle(
     return det != 0 && u >= 0 && v >= 0 && u + v <= 1 && distance > 0 ? distance : infinity;
 }
 
-/// The same for all triangles of a geometry. Distances along the ray are the same in any space.
+/// The distance along the ray to the nearest triangle of a geometry. The ray is transformed to
+/// local space without normalization, so distances are the same in both spaces.
 float intersect(const QVector3D &origin, const QVector3D &direction, const kavoTriangleSoup &soup)
 {
     float nearest = infinity;

@@ -8,22 +8,22 @@
 
 struct kavoChanges;
 
-/// What there is to draw and to pick in the open scene, kept as long as it does not change.
+/// A cache of what can be drawn and picked in the open scene.
 class kavoSceneGeometry
 {
 public:
     const std::vector<kavoRenderItem> &items();
     const kavoTriangleSoup &soup(osg::UInt32 geometry);
 
-    /// Center and radius of a sphere round everything; radius 0 for an empty scene.
+    /// Center and radius of a sphere that holds the scene; radius 0 for an empty scene.
     QPair<QVector3D, float> bounds();
 
-    /// The node that a ray of the world meets first, 0 for none. Triangles only.
+    /// The id of the node whose triangles a ray in world space hits first, 0 for none.
     osg::UInt32 pick(const QVector3D &origin, const QVector3D &direction);
 
-    /// Forgets what changed; all of it without an argument.
+    /// Drops what depends on containers that changed.
     void invalidate(const kavoChanges &changes);
-    void invalidate();
+    void invalidate(); ///< drops everything
 
 private:
     bool m_valid = false;

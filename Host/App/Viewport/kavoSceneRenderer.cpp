@@ -62,7 +62,7 @@ constexpr float outlinePixels = 4;
 
 using Vertex = kavoTriangleSoup::Vertex;
 
-/// Attribute numbers in the order of the rows below.
+/// Locations of the attributes, in the order of the rows below.
 const struct
 {
     const char *name;
@@ -221,7 +221,8 @@ void kavoSceneRenderer::drawMesh(const kavoRenderItem &item)
     drawn.buffer.release();
 }
 
-/// Marks the pixels of the selected geometries, then draws their edges thick round the mark.
+/// Marks the pixels of the selected geometries in the stencil buffer, then draws thick edges
+/// outside the mark.
 void kavoSceneRenderer::drawOutline(const View &view)
 {
     kavoMaterialLook flat;
@@ -286,9 +287,9 @@ QOpenGLTexture *kavoSceneRenderer::texture(const osg::ImagePtr &image)
     if (image == osg::NullFC)
         return nullptr;
     const auto [entry, isNew] = m_textures.try_emplace(kavoContainers::id(image));
-    auto &texture = entry->second; // stays null for an image that cannot be shown
+    auto &texture = entry->second; // null if the image cannot be converted
     const QImage pixels = isNew ? kavoImageConverter::toImage(image) : QImage();
-    if (!pixels.isNull()) { // the first row is the lowest here as well
+    if (!pixels.isNull()) { // OpenGL, too, takes the bottom row first
         texture = std::make_unique<QOpenGLTexture>(pixels.mirrored());
         texture->setMinMagFilters(QOpenGLTexture::LinearMipMapLinear, QOpenGLTexture::Linear);
         texture->setWrapMode(QOpenGLTexture::Repeat);

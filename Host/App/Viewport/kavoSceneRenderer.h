@@ -11,8 +11,8 @@
 #include <map>
 #include <memory>
 
-/// Draws the open scene with OpenGL 2.1. Lives and dies with a context, which must be current in
-/// every call.
+/// Draws the open scene with OpenGL 2.1. The OpenGL context must be current in every call, in the
+/// constructor and in the destructor.
 class kavoSceneRenderer
 {
 public:
@@ -24,14 +24,15 @@ public:
         QMatrix4x4 view, projection;
         QVector3D eye;
         std::vector<kavoRenderLight> lights;
-        osg::UInt32 selected; ///< outlined with all below it; 0 for none
+        osg::UInt32 selected; ///< id of the node to outline with its subtree, 0 for none
         QColor background, outline;
     };
 
     void draw(const View &view);
 
-    /// Forgets what it made of containers that changed; of all without an argument.
+    /// Drops the OpenGL objects of containers that changed.
     void invalidate(const kavoChanges &changes);
+    /// Drops all OpenGL objects of the scene.
     void invalidate();
 
 private:
@@ -58,7 +59,7 @@ private:
     struct Mesh
     {
         QOpenGLBuffer buffer { QOpenGLBuffer::VertexBuffer };
-        int triangles = 0, lines = 0, points = 0; // corners, one after the other
+        int triangles = 0, lines = 0, points = 0; // numbers of vertices, in the order of the buffer
     };
 
     void beginFrame(const View &view);
@@ -76,7 +77,7 @@ private:
     kavoSceneGeometry &m_geometry;
     QOpenGLFunctions_2_1 m_gl;
     QOpenGLShaderProgram m_program;
-    int m_uniforms[UniformCount]; // their numbers in the program
+    int m_uniforms[UniformCount]; // locations in the program
     QMatrix4x4 m_viewProjection;
     std::map<osg::UInt32, Mesh> m_meshes; // by geometry
     std::map<osg::UInt32, kavoMaterialLook> m_looks; // by material

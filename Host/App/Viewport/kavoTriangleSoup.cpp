@@ -24,7 +24,7 @@ QVector2D toQt(const osg::Vec2f &v)
     return QVector2D(v[0], v[1]);
 }
 
-/// Reads the corners of a geometry in the order of its indices.
+/// Reads the vertices of a geometry in the order of its indices.
 class CornerReader
 {
 public:
@@ -34,7 +34,7 @@ public:
     {
     }
 
-    /// Corners that there are, whatever the lengths of the primitives say.
+    /// The number of vertices. The lengths of the primitives may ask for more.
     osg::UInt32 count() const
     {
         const osg::GeoIndicesPtr indices = m_geometry->getIndices();
@@ -93,7 +93,7 @@ void addLine(kavoTriangleSoup &soup, const Vertex &a, const Vertex &b)
     soup.lines.insert(soup.lines.end(), { a, b });
 }
 
-/// Every `step` corners two triangles, or one, whose corners lie at these offsets.
+/// Adds one or two triangles for every `step` vertices; the offsets are relative to the first.
 void addTriangles(kavoTriangleSoup &soup, const std::vector<Vertex> &v, std::size_t step,
     std::initializer_list<std::size_t> offsets)
 {

@@ -6,8 +6,8 @@
 #include <QVector3D>
 #include <vector>
 
-/// The primitives of a geometry as plain corners, whatever primitive types, lengths and indices it
-/// is made of: three corners a triangle, two a line, one a point.
+/// The primitives of a geometry as plain lists of vertices: three for a triangle, two for a line,
+/// one for a point. Resolves primitive types, lengths and indices.
 struct kavoTriangleSoup
 {
     struct Vertex
@@ -18,7 +18,7 @@ struct kavoTriangleSoup
     };
 
     std::vector<Vertex> triangles, lines, points;
-    QVector3D min, max; ///< bounding box; all zeros where there is nothing
+    QVector3D min, max; ///< bounding box; zeros for an empty geometry
 
     static kavoTriangleSoup of(const osg::GeometryPtr &geometry);
 

@@ -19,11 +19,12 @@
 
 namespace {
 
-constexpr float zoomPerStep = 0.85f; // of the wheel, 15 degrees
+constexpr float zoomPerStep = 0.85f; // one step of the wheel is 15 degrees
 constexpr float angleUnitsPerStep = 120;
 const QColor outlineColor(255, 140, 0);
 
-/// Not so while another scene is being loaded: its containers are new, or nodes of elsewhere.
+/// Whether the open scene changed. While another scene is loaded, all changed containers are new or
+/// nodes outside the open scene.
 bool concernsScene(const kavoChanges &changes)
 {
     const auto concerns = [&changes](osg::UInt32 id) {
@@ -38,7 +39,7 @@ bool concernsScene(const kavoChanges &changes)
 
 bool kavoViewport::isAvailable()
 {
-    // These platforms have none, and say so with a warning each time they are asked.
+    // Without OpenGL; each question would print a warning.
     static const QStringList withoutOpenGL { "offscreen", "minimal", "vnc" };
     return !withoutOpenGL.contains(QGuiApplication::platformName()) && QOpenGLContext().create();
 }
@@ -69,7 +70,7 @@ kavoViewport::kavoViewport(kavoOpenScene &scene, QWidget *parent)
 
 kavoViewport::~kavoViewport()
 {
-    if (context()) // dies after the viewport, which it must not call any more
+    if (context()) // is destroyed after the viewport and must not call it
         disconnect(context(), nullptr, this, nullptr);
     dropRenderer();
 }

@@ -9,30 +9,30 @@
 
 class kavoOpenScene;
 
-/// The picture of the open scene. The left button turns it, the middle one (or the left one with
-/// Shift) moves it, the wheel comes closer, F fits it; a click selects the node under the pointer,
-/// and the selected node is outlined.
+/// Draws the open scene and outlines the selected node. The left button turns the camera, the
+/// middle button (or the left button with Shift) moves it, the wheel zooms, F fits the whole scene.
+/// A click selects the node under the pointer.
 class kavoViewport : public QOpenGLWidget
 {
     Q_OBJECT
 
 public:
-    /// A viewport, or where there is no OpenGL a label that says so.
+    /// Creates a viewport, or a label with an explanation if there is no OpenGL.
     static QWidget *create(kavoOpenScene &scene, QWidget *parent = nullptr);
 
     explicit kavoViewport(kavoOpenScene &scene, QWidget *parent = nullptr);
     ~kavoViewport() override;
 
-    /// Whether this machine can show one.
+    /// Whether there is OpenGL.
     static bool isAvailable();
 
-    /// Shows the whole scene.
+    /// Moves the camera so that the whole scene is visible.
     void fit();
 
-    /// Looks through the active camera of the scene, if there is one.
+    /// Moves to the active camera of the scene. Ignored if there is none.
     void lookThroughActiveCamera();
 
-    /// The node of the geometry under a point of the widget, null for none.
+    /// The node of the geometry at a point of the widget, null if there is none.
     osg::NodePtr nodeAt(const QPoint &point);
 
 protected:

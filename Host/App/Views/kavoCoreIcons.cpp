@@ -17,7 +17,7 @@ struct Row
     const char *key;
 };
 
-/// Special kinds first: the first one that a core derives from counts.
+/// The first type that a core derives from decides, so derived types come before their bases.
 const char *iconKey(const osg::FieldContainerType &type)
 {
     static const Row rows[] = {
@@ -40,7 +40,8 @@ QIcon kavoCoreIcons::icon(const osg::NodeCorePtr &core)
 {
     if (core == osg::NullFC)
         return kavoIconManager::getIcon("Node");
-    static auto *const icons = new QHash<osg::UInt32, QIcon>; // outlives no application object
+    static auto *const icons = new QHash<osg::UInt32,
+        QIcon>; // never destroyed: icons must not be destroyed after the application object
     QIcon &icon = (*icons)[core->getTypeId()];
     if (icon.isNull())
         icon = kavoIconManager::getIcon(iconKey(core->getType()));

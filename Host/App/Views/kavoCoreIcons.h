@@ -4,10 +4,10 @@
 
 #include <QIcon>
 
-/// Icons that tell nodes apart by the kind of their core.
+/// Icons for nodes, by the type of their core.
 namespace kavoCoreIcons {
 
-/// The icon for nodes with that core, which may be null.
+/// \param core may be null
 QIcon icon(const osg::NodeCorePtr &core);
 
 } // namespace kavoCoreIcons

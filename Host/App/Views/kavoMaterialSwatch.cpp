@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr int maxTextureSize = 64; // pixels; more cannot be told in a swatch
+constexpr int maxTextureSize = 64; // pixels; a swatch cannot show more
 const QVector3D toEye(0, 0, 1);
 const QVector3D toLamp = QVector3D(-0.5f, 0.7f, 0.8f).normalized();
 
@@ -72,7 +72,7 @@ QVector3D kavoMaterialSwatch::color(const QVector3D &normal) const
         + m_look.specular * gloss;
 }
 
-/// The texture wrapped once round the sphere, white without one.
+/// The colour of the texture, which is wrapped once round the sphere. White without a texture.
 QVector3D kavoMaterialSwatch::texel(const QVector3D &normal) const
 {
     if (m_texture.isNull())

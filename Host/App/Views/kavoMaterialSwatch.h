@@ -4,8 +4,8 @@
 
 #include <QImage>
 
-/// A small picture of a material: a sphere in the light of one lamp, before a chequered ground
-/// where it lets light through.
+/// Renders a small picture of a material: a sphere lit by one lamp. A chequered ground shows
+/// through a transparent material.
 class kavoMaterialSwatch
 {
 public:

@@ -4,14 +4,14 @@
 
 class kavoOpenScene;
 
-/// Takes nodes out of the open scene.
+/// Deletes nodes of the open scene.
 namespace kavoNodeDeleter {
 
-/// Whether the node is part of the scene and not its root.
+/// Whether the node is in the scene and is not its root.
 bool canDelete(const osg::NodePtr &node);
 
-/// Removes the node of that id with everything below it; nothing happens if there is none.
-/// Lights that stay lose a beacon that goes: they hold no reference to it.
+/// Removes the node with its subtree. Ignored if there is no such node. Lights and cameras whose
+/// beacon is removed lose the beacon, because they do not reference it.
 void deleteNode(osg::UInt32 id, const kavoOpenScene &scene);
 
 } // namespace kavoNodeDeleter

@@ -86,7 +86,7 @@ osg::NodePtr kavoSceneModel::node(const QModelIndex &index) const
 
 QModelIndex kavoSceneModel::indexOf(const osg::NodePtr &node)
 {
-    std::vector<osg::UInt32> path; // from the node up to the first that has a row
+    std::vector<osg::UInt32> path; // the node and its ancestors without rows
     osg::NodePtr at = node;
     for (; at != osg::NullFC && m_items.count(kavoContainers::id(at)) == 0; at = at->getParent())
         path.push_back(kavoContainers::id(at));
@@ -205,7 +205,7 @@ void kavoSceneModel::update(const kavoChanges &changes)
     bool unfetchedChanged = false;
     for (auto entry = changes.changed.cbegin(); entry != changes.changed.cend(); ++entry)
         unfetchedChanged |= updateItem(entry.key(), entry.value());
-    if (unfetchedChanged) { // an arrow may have come or gone
+    if (unfetchedChanged) { // the arrow of a closed row may have to appear or disappear
         emit layoutAboutToBeChanged();
         emit layoutChanged();
     }
@@ -216,7 +216,7 @@ void kavoSceneModel::update(const kavoChanges &changes)
     }
 }
 
-/// Whether the children of a closed row changed.
+/// Updates the rows below an open row. \returns whether the children of a closed row changed
 bool kavoSceneModel::updateItem(osg::UInt32 id, osg::BitVector fields)
 {
     const auto found = m_items.find(id);
@@ -227,8 +227,8 @@ bool kavoSceneModel::updateItem(osg::UInt32 id, osg::BitVector fields)
     return !found->second->fetched;
 }
 
-/// Makes the rows below an item those of its node's children. What both lists begin and end with
-/// stays; in the ordinary case, one child more or less, that is all the others.
+/// Makes the child rows equal to the children of the node. Keeps the rows that both lists begin and
+/// end with, so that usually only one row is inserted or removed.
 void kavoSceneModel::syncChildren(Item &item)
 {
     const Ids ids = childIds(kavoContainers::node(item.nodeId));
@@ -273,7 +273,7 @@ void kavoSceneModel::removeItems(Item &parent, int row, int count)
     endRemoveRows();
 }
 
-/// The item and all below it, also without recursion when they are deleted.
+/// Destroys an item with its subtree, without recursion.
 void kavoSceneModel::forget(std::unique_ptr<Item> top)
 {
     std::vector<std::unique_ptr<Item>> open;
@@ -283,7 +283,8 @@ void kavoSceneModel::forget(std::unique_ptr<Item> top)
         const std::unique_ptr<Item> item = std::move(open.back());
         open.pop_back();
         const auto found = m_items.find(item->nodeId);
-        if (found != m_items.end() && found->second == item.get()) // else another row has it now
+        if (found != m_items.end()
+            && found->second == item.get()) // otherwise another row shows the node
             m_items.erase(found);
         std::move(item->children.begin(), item->children.end(), std::back_inserter(open));
     }

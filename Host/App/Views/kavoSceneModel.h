@@ -13,9 +13,8 @@ struct kavoChanges;
 
 /// The node tree of the open scene.
 ///
-/// Rows are made when their parent is opened, so a scene of any size costs what is seen of it; a
-/// row knows its parent and its number, a node is found by its id. Rows hold ids, not handles: a
-/// node that dies before its row goes shows nothing.
+/// Rows are created when their parent is opened, so the cost depends on what is visible and not on
+/// the size of the scene. Rows hold ids instead of handles: the row of a destroyed node is empty.
 class kavoSceneModel : public QAbstractItemModel
 {
     Q_OBJECT
@@ -26,18 +25,18 @@ public:
     explicit kavoSceneModel(kavoOpenScene &scene, QObject *parent = nullptr);
     ~kavoSceneModel() override;
 
-    /// Restricts the tree to the nodes whose name or core type contains the text, or whose id it
-    /// is, and to their ancestors. An empty text shows everything.
+    /// Shows only nodes whose name or core type contains the text or whose id equals it, and their
+    /// ancestors. An empty text shows all nodes.
     void setFilter(const QString &text);
 
-    /// The number of nodes that the filter leaves, ancestors included; meaningless without one.
+    /// The number of nodes that the filter shows, with ancestors. Valid only with a filter.
     int filteredCount() const { return int(m_visible.size()); }
 
-    /// The node of a row, null for the invalid index and for a dead node.
+    /// The node of a row. Null for an invalid index and for a destroyed node.
     osg::NodePtr node(const QModelIndex &index) const;
 
-    /// The row of a node; rows of its ancestors are made where needed. Invalid for nodes that are
-    /// not in the scene or filtered out.
+    /// The row of a node. Creates the rows of its ancestors if needed. Invalid if the node is not
+    /// in the scene or is filtered out.
     QModelIndex indexOf(const osg::NodePtr &node);
 
     QModelIndex index(int row, int column, const QModelIndex &parent = {}) const override;

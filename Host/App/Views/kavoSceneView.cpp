@@ -18,9 +18,9 @@
 namespace {
 
 constexpr int filterDelayMilliseconds = 150;
-constexpr int opensAllUpTo = 2000; // nodes that a filter leaves
+constexpr int opensAllUpTo = 2000; // filtered nodes
 constexpr int otherwiseOpenLevels = 2;
-constexpr int maxLevels = 2000; // open one inside the other: the tree calls itself for each
+constexpr int maxLevels = 2000; // of open rows; the tree view recurses once a level
 constexpr int coreColumnWidth = 90, idColumnWidth = 50; // pixels, until the user decides
 
 bool isTooDeep(const osg::NodePtr &node)
@@ -50,13 +50,13 @@ kavoSceneView::kavoSceneView(kavoOpenScene &scene, QWidget *parent)
     setUpDeletion();
     connect(&scene, &kavoOpenScene::selectionChanged, this, &kavoSceneView::showSelection);
     connect(&scene, &kavoOpenScene::structureChanged, this, &kavoSceneView::dropLostSelection,
-        Qt::QueuedConnection); // the model hears of it in the same round
+        Qt::QueuedConnection); // after the model has followed
     showAll();
 }
 
 void kavoSceneView::setUpTree()
 {
-    // In front of the tree itself, which selects the next row when one goes.
+    // Connected before the tree view, which selects the next row when a row is removed.
     connect(
         m_model, &QAbstractItemModel::rowsAboutToBeRemoved, this, [this] { m_following = true; });
     connect(m_model, &QAbstractItemModel::rowsRemoved, this, [this] { m_following = false; });
@@ -94,7 +94,8 @@ void kavoSceneView::setUpDeletion()
     connect(m_deletion, &QAction::triggered, this, &kavoSceneView::confirmDeletion);
 }
 
-// No shortcuts: Escape, too, is one of the window while it loads, and that comes first.
+// Key events instead of shortcuts: while the host loads, Escape is a shortcut of the main window,
+// and that must have priority.
 bool kavoSceneView::eventFilter(QObject *watched, QEvent *event)
 {
     const bool isHandled = event->type() == QEvent::KeyPress
@@ -127,7 +128,7 @@ void kavoSceneView::applyFilter()
     m_model->setFilter(m_filter->text());
 }
 
-/// After a reset all rows are closed again.
+/// Opens the rows again that a reset has closed.
 void kavoSceneView::showAll()
 {
     if (m_filter->text().isEmpty())
@@ -176,7 +177,7 @@ void kavoSceneView::confirmDeletion()
                                  .arg(QString::fromUtf8(kavoScenegraph::getNodeName(node)));
     if (QMessageBox::question(this, tr("Delete node"), question) != QMessageBox::Yes)
         return;
-    // The editor empties itself on the message of the selection, which is under way before this.
+    // Queued behind the message about the selection, on which the node editor releases the node.
     selectNothing();
     QMetaObject::invokeMethod(
         this, [this, id] { kavoNodeDeleter::deleteNode(id, m_scene); }, Qt::QueuedConnection);

@@ -9,9 +9,9 @@ class QTreeView;
 class kavoOpenScene;
 class kavoSceneModel;
 
-/// The Scene window: the node tree, in step with the host's selection both ways, with a filter.
-/// In the tree Del deletes the selected node after a question, Escape selects nothing; in the
-/// filter Escape shows all nodes again, Down goes on in the tree.
+/// The Scene window: the node tree with a filter. The tree follows the host's selection and sets
+/// it. In the tree, Del deletes the selected node after a question and Escape clears the selection.
+/// In the filter, Escape clears the filter and Down moves to the tree.
 class kavoSceneView : public QWidget
 {
     Q_OBJECT
@@ -21,7 +21,7 @@ public:
 
     QTreeView *tree() const { return m_tree; }
     QLineEdit *filter() const { return m_filter; }
-    /// Deletes the selected node after a question, for menus.
+    /// The command that deletes the selected node after a question.
     QAction *deletion() const { return m_deletion; }
 
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -46,5 +46,5 @@ private:
     QTreeView *m_tree;
     QAction *m_deletion;
     QTimer m_filterDelay;
-    bool m_following = false; // the tree's selection changes, but not by the user
+    bool m_following = false; // true while the tree changes its selection on its own
 };

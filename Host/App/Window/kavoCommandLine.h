@@ -7,41 +7,41 @@
 
 class kavoExportArguments;
 
-/// What the user asked for on the command line.
+/// The parsed command line.
 ///
-/// A command line with a job (--screenshot, --export-table, ...) runs it and ends; without one the
-/// application stays open.
+/// With a job (--screenshot, --export-table, ...) the application runs it and ends. Without a job
+/// it stays open.
 class kavoCommandLine
 {
     Q_DECLARE_TR_FUNCTIONS(kavoCommandLine)
 
 public:
-    /// Parses without any effect of its own.
-    /// \param arguments as main() receives them, the program's name first
+    /// Parses the arguments and does nothing else.
+    /// \param arguments as main() receives them, with the program's name first
     explicit kavoCommandLine(const QStringList &arguments);
 
-    /// What is wrong with the arguments, empty if nothing is.
+    /// What is wrong with the arguments; empty if they are valid.
     QString error() const;
     bool wantsHelp() const;
     bool wantsVersion() const;
     bool isJob() const;
 
-    /// Needs an application object, whose name it shows.
+    /// Needs an application object, because the text contains its name.
     QString helpText() const;
 
     QStringList sceneFiles() const;
-    /// Name or id of the node to select, empty for none.
+    /// Name or id of the node to select; empty if no node is to be selected.
     QString nodeToSelect() const;
     /// Plug-in folders besides the default one.
     QStringList pluginFolders() const;
     QString screenshotFile() const;
-    /// Where to save the scene.
+    /// The file to save the scene in.
     QString fileToSave() const;
     /// Key of the dock window to print.
     QString windowToPrint() const;
-    /// Field to print when the application ends, as kavoFieldPrinter takes it.
+    /// Field to print when the application ends, in the form that kavoFieldPrinter expects.
     QString fieldToPrint() const;
-    /// Import and export of value pairs.
+    /// The jobs that import and export value pairs.
     kavoExportArguments exports() const;
 
 private:

@@ -6,7 +6,7 @@
 namespace kavoFieldPrinter {
 
 /// Writes the field's text and a line feed to standard output.
-/// \param address container id, a point, the field's name: "163.minFilter"
+/// \param address container id, point and field name, for example "163.minFilter"
 /// \throws kavoTaskError if there is no such field
 void print(const QString &address);
 

@@ -23,7 +23,7 @@
 
 namespace {
 
-// Lets queued messages, layouts and paints run, which may ask for further rounds themselves.
+// Processes queued messages, layouts and paints, which may cause further events.
 void settle()
 {
     QEventLoop loop;

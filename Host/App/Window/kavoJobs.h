@@ -8,7 +8,7 @@ class QKAVODockWindowManager;
 class QWidget;
 class kavoSession;
 
-/// Runs what the command line asks for once its scenes are open: selection and jobs.
+/// Runs what the command line asks for after its scenes are open: selection and jobs.
 class kavoJobs : public QObject
 {
     Q_OBJECT

@@ -28,7 +28,7 @@ kavoLoadProgress::kavoLoadProgress(QWidget *parent)
     layout->addWidget(m_bar);
     layout->addWidget(cancel);
     connect(cancel, &QToolButton::clicked, this, &kavoLoadProgress::cancelRequested);
-    // At once: a button's own shortcut first shows how it goes down.
+    // Not the shortcut of the button, which would animate the button before it cancels.
     auto *escape = new QShortcut(Qt::Key_Escape, this);
     connect(escape, &QShortcut::activated, this, &kavoLoadProgress::cancelRequested);
     hide();

@@ -5,7 +5,7 @@
 class QLabel;
 class QProgressBar;
 
-/// What a load is doing, how far it is, and a button that cancels it. Hides itself in between.
+/// Shows the progress of loading, with a button that cancels. Hidden until report() is called.
 class kavoLoadProgress : public QWidget
 {
     Q_OBJECT

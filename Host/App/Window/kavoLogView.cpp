@@ -34,7 +34,7 @@ kavoLogView::kavoLogView(QWidget *parent)
         &kavoLogView::showEntries);
     for (const kavoLog::Entry &entry : kavoLog::history())
         add(entry);
-    // Lines may come from any thread and at any time; the widget takes them in the event loop.
+    // Queued, because any thread may log at any time.
     m_observer = kavoLog::addObserver([this](const kavoLog::Entry &entry) {
         QMetaObject::invokeMethod(
             this, [this, entry] { add(entry); }, Qt::QueuedConnection);

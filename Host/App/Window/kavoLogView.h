@@ -9,8 +9,8 @@
 class QComboBox;
 class QPlainTextEdit;
 
-/// The Log window: the lines of kavoLog, the kept ones first and then each as it comes. The user
-/// picks from which level on they show.
+/// The Log window. Shows the lines that kavoLog has kept and every new line. The user chooses the
+/// lowest level that is shown.
 class kavoLogView : public QWidget
 {
     Q_OBJECT

@@ -108,7 +108,7 @@ void kavoMainWindow::closeEvent(QCloseEvent *event)
     }
     if (m_usesSettings)
         saveSettings();
-    // Windows that float on their own would keep the application running.
+    // Floating windows would keep the application running.
     m_docks->hideAll();
     event->accept();
 }

@@ -16,8 +16,8 @@ class kavoSession;
 
 /// The application's window: menus, dock windows, progress of loading.
 ///
-/// It registers itself and its dock-window manager with kavoController, so there is one of it, and
-/// it must live until the process ends.
+/// It registers itself and its dock-window manager with kavoController, so there must be only one,
+/// and it must live until the process ends.
 class kavoMainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -28,9 +28,9 @@ public:
     QKAVODockWindowManager &docks() const { return *m_docks; }
     kavoSession &session() const { return *m_session; }
 
-    /// Loads the default plug-in folder, if there is one, and the given ones.
+    /// Loads plug-ins from the default folder, if it exists, and from the given folders.
     void loadPlugins(const QStringList &extraFolders);
-    /// Takes size, places of windows and recent files from the settings and keeps them there.
+    /// Restores size, layout and recent files from the settings, and stores them from now on.
     void useSettings();
 
     /// Hides all windows and closes the scene. Call it before main() returns: modules are destroyed
@@ -38,7 +38,7 @@ public:
     void shutDown();
 
 public slots:
-    /// Shows an error to the user without stopping the application.
+    /// Shows an error in a box that does not block.
     void reportError(const QString &message);
 
 protected:

@@ -39,7 +39,8 @@ int kavoPluginLoader::load(const QString &folder)
         if (QLibrary::isLibrary(file.fileName()))
             started += loadLibrary(file.canonicalFilePath());
     }
-    // Container types of libraries that were opened after osgInit wait until they are called for.
+    // Container types of libraries that were loaded after osgInit are not initialized by
+    // themselves.
     osg::FieldContainerFactory::the()->initializePendingTypes();
     return started;
 }

@@ -3,7 +3,7 @@
 #include <QMenu>
 #include <QStringList>
 
-/// The menu of the scenes opened last, newest first. They are kept in the application's settings.
+/// The menu of recently opened scenes, newest first. The list is kept in the settings.
 class kavoRecentFiles : public QMenu
 {
     Q_OBJECT

@@ -16,8 +16,8 @@ public:
     /// \param window parent of this object and of its dialogs
     kavoSaveActions(kavoDocument &document, QWidget *window, QMenu *fileMenu);
 
-    /// Asks what to do about unsaved changes, if there are any.
-    /// \returns false if the scene is to stay: the user said so, or saving failed
+    /// Asks the user what to do about unsaved changes, if there are any.
+    /// \returns false if the scene must stay open: the user canceled, or saving failed
     bool mayClose();
 
 signals:

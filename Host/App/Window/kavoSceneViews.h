@@ -10,8 +10,7 @@ class kavoListView;
 class kavoOpenScene;
 class kavoSceneView;
 
-/// The host's own windows on the scene (Viewport, Scene, Materials, Lights, Cameras) and what keeps
-/// them in step with it.
+/// The host's own windows on the scene: Viewport, Scene, Materials, Lights and Cameras.
 class kavoSceneViews : public QObject
 {
     Q_OBJECT
@@ -21,14 +20,14 @@ public:
     /// \param parent owns this object and the windows
     kavoSceneViews(kavoOpenScene &scene, QWidget *parent);
 
-    /// Docks the viewport, and the other windows in the group "Scene", under the keys "Viewport",
-    /// "Scene", "Materials", "Lights" and "Cameras". The viewport is in the middle if it comes
-    /// before all other windows of the host.
+    /// Docks the windows under the keys "Viewport", "Scene", "Materials", "Lights" and "Cameras";
+    /// all but the viewport form the group "Scene". Call it before other windows are docked, so
+    /// that the viewport is in the middle.
     void dock(QKAVODockWindowManager &docks);
-    /// Deletes the viewport, which must not outlive main() as windows may: Qt's OpenGL does not.
+    /// Deletes the viewport. Call it before main() returns: Qt's OpenGL does not exist after that.
     void closeViewport();
 
-    /// Deletes the selected node after a question.
+    /// The command that deletes the selected node after a question.
     QAction *deletion() const;
 
 private:

@@ -20,7 +20,7 @@ bool kavoWindowPrinter::print(QWidget *window)
         return true;
     }
     for (const auto *view : window->findChildren<QAbstractItemView *>()) {
-        // Lists that pop up from a combo box are windows of their own.
+        // The list of a combo box is a child, but a window of its own.
         if (!view->model() || !window->isAncestorOf(view))
             continue;
         printBelow(view->model(), view->rootIndex());
@@ -29,7 +29,7 @@ bool kavoWindowPrinter::print(QWidget *window)
     return false;
 }
 
-// A value of several lines stays on one.
+// Line feeds in a value become \n, so that each row is one line.
 void kavoWindowPrinter::row(int level, const QString &name, const QString &value)
 {
     const QString line = QString(2 * level, ' ') + name + '\t' + value;
@@ -43,7 +43,7 @@ void kavoWindowPrinter::printItem(const QtBrowserItem *item, int level)
         printItem(child, level + 1);
 }
 
-// Without recursion: a scene may be deeper than the stack.
+// Works without recursion, because a scene may be deeper than the stack.
 void kavoWindowPrinter::printBelow(QAbstractItemModel *model, const QModelIndex &top)
 {
     struct Place

@@ -8,15 +8,15 @@ class QTextStream;
 class QWidget;
 class QtBrowserItem;
 
-/// Writes what a window shows as text, opened and closed branches alike: one row a line, two blanks
-/// of indent per level, the name, a tab, the value text.
+/// Writes the rows of a window as text, including rows below closed branches. Each row is one line:
+/// two blanks of indent per level, the name, a tab, the value text.
 class kavoWindowPrinter
 {
 public:
     explicit kavoWindowPrinter(QTextStream &out);
 
     /// Prints the first property browser or item view in the window.
-    /// \returns false if it holds neither
+    /// \returns false if there is neither
     bool print(QWidget *window);
 
 private:

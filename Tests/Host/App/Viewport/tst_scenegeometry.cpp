@@ -16,7 +16,7 @@ using namespace kavoTestScene;
 
 namespace {
 
-/// Corners in a row along x, every second one lifted by one, in one primitive.
+/// A primitive whose vertices lie along x, with y alternately 0 and 1.
 osg::GeometryPtr makeCorners(osg::UInt8 type, osg::UInt32 count)
 {
     auto types = osg::GeoPTypesUI8::create();

@@ -15,7 +15,7 @@
 
 namespace {
 
-/// How many pixels of two pictures of the same size differ.
+/// The number of pixels that differ between two pictures of the same size.
 int difference(const QImage &one, const QImage &other)
 {
     int count = 0;

@@ -6,10 +6,10 @@
 #include <QVector>
 #include <memory>
 
-/// Reads what a view would put on a drag of its selected rows.
+/// Reads the data of a drag.
 namespace kavoDragPayload {
 
-/// The ids under the one format that the view's model knows.
+/// The ids that a drag of these rows holds.
 inline QVector<qint32> ids(const QAbstractItemView &view, const QModelIndexList &rows)
 {
     const std::unique_ptr<QMimeData> data(view.model()->mimeData(rows));

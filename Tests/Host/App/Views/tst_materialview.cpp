@@ -129,7 +129,7 @@ private slots:
     {
         paint(color(1, 0, 0));
         swatch(0);
-        chunk()->setDiffuse(color(0, 1, 0)); // without a word to the change list
+        chunk()->setDiffuse(color(0, 1, 0)); // without an entry in the change list
         kavoMessage message;
         kavoController::call(kavoCallNames::updateMatRender, message, 0);
         QVERIFY(center(swatch(0)).red() > 150);

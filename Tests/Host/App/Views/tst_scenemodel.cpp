@@ -67,7 +67,7 @@ private slots:
 
     void childrenAreMadeWhenTheyAreAskedFor()
     {
-        m_tester.reset(); // it asks for all of them
+        m_tester.reset(); // it would create all rows
         kavoTestLoad::show(kavoScenegraph::getRoot());
         const QModelIndex root = m_model->index(0, 0);
         QVERIFY(m_model->hasChildren(root));
@@ -79,7 +79,7 @@ private slots:
 
     void aSceneMayBeDeeperThanTheStack()
     {
-        m_tester.reset(); // it is not made for that
+        m_tester.reset(); // it walks the tree on its own
         osg::NodePtr deepest = kavoScenegraph::getRoot();
         for (int depth = 0; depth < 100000; ++depth)
             deepest = makeGroup(nullptr, deepest);
@@ -88,7 +88,8 @@ private slots:
         m_model->setFilter(QString::number(kavoContainers::id(deepest)));
         QVERIFY(m_model->indexOf(deepest).isValid());
         m_model->setFilter(QString());
-        while (deepest != kavoScenegraph::getRoot()) { // nodes die by recursion
+        while (deepest
+            != kavoScenegraph::getRoot()) { // a chain of nodes would be destroyed by recursion
             deepest = deepest->getParent();
             deepest->subChild(osg::UInt32(0));
         }
@@ -195,7 +196,7 @@ private slots:
     {
         QFETCH(QString, filter);
         QFETCH(int, left);
-        if (QTest::currentDataTag() == QByteArray("id")) // of this test's own scene
+        if (QTest::currentDataTag() == QByteArray("id")) // known only now
             filter = QString::number(kavoContainers::id(kavoScenegraph::getRoot()));
         m_model->setFilter(filter);
         QCOMPARE(m_model->filteredCount(), left);

@@ -33,7 +33,7 @@ private slots:
         m_view->resize(400, 300);
         m_view->show();
         m_view->activateWindow();
-        m_view->tree()->setFocus(); // its keys are for it alone
+        m_view->tree()->setFocus(); // its keys work only with focus
         QVERIFY(QTest::qWaitForWindowActive(m_view.get()));
     }
 
@@ -94,7 +94,7 @@ private slots:
         QVERIFY(m_view->tree()->selectionModel()->hasSelection());
     }
 
-    // The tree view lays out one open branch inside the other by calling itself.
+    // QTreeView lays out nested open branches by recursion.
     void aNodeDeeperThanTheStackIsNotShownSelected()
     {
         select("Tyre");
@@ -108,7 +108,7 @@ private slots:
 
     void aNodeTwoThousandLevelsDownIsShownSelected()
     {
-        kavoScenegraph::setSelectedNode(addChain("Wheel", 1998)); // it stands on the second level
+        kavoScenegraph::setSelectedNode(addChain("Wheel", 1998)); // "Wheel" is on the second level
         QTRY_VERIFY(m_view->tree()->selectionModel()->hasSelection());
         int level = 0;
         for (QModelIndex at = m_view->tree()->currentIndex(); at.isValid(); at = at.parent())
@@ -145,7 +145,7 @@ private slots:
         user.willPress(QMessageBox::Yes);
         QTest::keyClick(m_view->tree(), Qt::Key_Delete);
         QVERIFY(selected() == osg::NullFC);
-        QVERIFY(kavoContainers::find(tyre) != osg::NullFC); // the editor lets go of it first
+        QVERIFY(kavoContainers::find(tyre) != osg::NullFC); // the editor must release it first
         QTRY_VERIFY(kavoContainers::find(tyre) == osg::NullFC);
         QTRY_COMPARE(
             m_view->tree()->model()->rowCount(m_view->tree()->model()->index(0, 0, root())), 0);
@@ -219,7 +219,7 @@ private slots:
     }
 
 private:
-    /// Nodes one inside the other below the one of that name; \returns the innermost.
+    /// Adds a chain of nodes below the node of that name. \returns the innermost node
     static osg::NodePtr addChain(const char *name, int length)
     {
         osg::NodePtr node = kavoTestLoad::find(name);

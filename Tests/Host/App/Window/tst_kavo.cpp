@@ -4,7 +4,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-// The application as users and scripts meet it: a process with arguments, output and exit code.
+// Runs the application as a process with arguments, output and exit code.
 class tst_Kavo : public QObject
 {
     Q_OBJECT
@@ -204,7 +204,7 @@ void tst_Kavo::nodesOfEveryFormatAreShownInTheNodeEditor_data()
 {
     QTest::addColumn<QString>("file");
     QTest::addColumn<QString>("node");
-    QTest::addColumn<QStringList>("rows"); // in their order, perhaps with others in between
+    QTest::addColumn<QStringList>("rows"); // in this order; others may stand in between
     const QStringList nodeRows { R"(  volume\t.+)", R"(  travMask\t-1)", R"(  parent\t\d+)" };
     QTest::newRow("Collada, a light") << "Collada/lights.dae"
                                       << "Lamp"

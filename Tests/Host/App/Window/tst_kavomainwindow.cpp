@@ -203,7 +203,7 @@ void tst_MainWindow::theEditMenuDeletesNodes()
 
 void tst_MainWindow::droppedFilesAreOpened()
 {
-    QVERIFY(open(kavoTestLoad::model(truck))); // a scene without changes, so nothing is asked
+    QVERIFY(open(kavoTestLoad::model(truck))); // a scene without edits, so that no question comes
     QMimeData data;
     data.setUrls({ QUrl::fromLocalFile(kavoTestLoad::model(truck)) });
     QDragEnterEvent enter({ 5, 5 }, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);

@@ -10,7 +10,7 @@
 #include <QTest>
 #include <QWindow>
 
-// The main window with a real window system, by mouse and keyboard.
+// Uses the main window in a real window system with mouse and keyboard.
 class tst_OnScreen : public QObject
 {
     Q_OBJECT

@@ -28,7 +28,7 @@ const QStringList question { "'ship.osg' has changes that are not saved." };
 
 } // namespace
 
-// Saving by keys and dialogs of the main window.
+// Saves with the keys and dialogs of the main window.
 class tst_SaveActions : public QObject
 {
     Q_OBJECT
@@ -143,7 +143,7 @@ void tst_SaveActions::theTitleMarksUnsavedChanges()
     edit();
 }
 
-// Views make pictures, volumes and states of it.
+// Views compute pictures, volumes and render states, which are not edits.
 void tst_SaveActions::lookingAtAModelIsNoChange()
 {
     QSignalSpy opened(&m_window->session(), &kavoSession::opened);

@@ -3,7 +3,7 @@
 #include <QTimer>
 #include <QWidget>
 
-// A user who closes the window at once.
+// Closes the window at once, as a user might.
 extern "C" __attribute__((visibility("default"))) void initPlugin()
 {
     QTimer::singleShot(0, kavoController::getMainWindow(), &QWidget::close);

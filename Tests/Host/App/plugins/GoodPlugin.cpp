@@ -9,7 +9,7 @@ OSG_BEGIN_NAMESPACE
 class GoodMark;
 typedef FCPtr<AttachmentPtr, GoodMark> GoodMarkPtr;
 
-// A container type that a plug-in brings along.
+// A container type that a plug-in adds.
 class GoodMark : public Attachment
 {
     typedef Attachment Inherited;

@@ -1,4 +1,4 @@
-// Brings a container type along, which is all it does.
+// Only adds a container type.
 extern "C" __attribute__((visibility("default"))) void initPlugin()
 {
 }
