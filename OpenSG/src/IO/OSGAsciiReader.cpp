@@ -1,7 +1,7 @@
 #include "IO/OSGAsciiReader.h"
 
-#include "IO/OSGAsciiFormat.h"
 #include "Fields/OSGFieldSyntax.h"
+#include "IO/OSGAsciiFormat.h"
 
 #include <OpenSG/OSGFieldFactory.h>
 #include <OpenSG/OSGGroup.h>

@@ -15,7 +15,8 @@ namespace {
 
 ValuePairBase *valuePairsOf(const NodePtr &node)
 {
-    const AttachmentPtr found = kavoNodeQueries::findAttachment(node, ValuePairBase::getClassType());
+    const AttachmentPtr found
+        = kavoNodeQueries::findAttachment(node, ValuePairBase::getClassType());
     return found == NullFC ? nullptr : static_cast<ValuePairBase *>(found.getCPtr());
 }
 
