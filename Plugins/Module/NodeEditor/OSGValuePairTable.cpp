@@ -1,48 +1,16 @@
 #include "OSGValuePairTable.h"
 
-#include "OSGTextBuffer.h"
-
 #include <algorithm>
 #include <cstring>
-#include <iterator>
+#include <string_view>
 #include <tuple>
 
 OSG_BEGIN_NAMESPACE
 
 namespace {
 
-constexpr std::size_t blockSize = 1 << 20;
-
-// Seven bits a byte, the last byte below 128: most numbers are small.
-void appendNumber(std::string &text, UInt32 number)
-{
-    for (; number >= 128; number >>= 7)
-        text += char(number | 128);
-    text += char(number);
-}
-
-UInt32 readNumber(const char *&place)
-{
-    UInt32 number = 0;
-    for (int shift = 0;; shift += 7) {
-        const auto byte = static_cast<unsigned char>(*place++);
-        number |= UInt32(byte & 127) << shift;
-        if (byte < 128)
-            return number;
-    }
-}
-
-// Any function of the key serves. This one tells keys apart that end in numbers.
-std::size_t slotOf(const std::string &key, std::size_t slotCount)
-{
-    std::size_t slot = key.size();
-    for (std::size_t i = key.size() - std::min<std::size_t>(key.size(), 3); i < key.size(); ++i)
-        slot = slot * 11 + static_cast<unsigned char>(key[i]);
-    return slot % slotCount;
-}
-
-// A newline takes the byte after it along, be it a comma, part of a character or another newline,
-// and leaves a blank: readers of these files count on it.
+// Deliberate: a newline swallows the byte after it, be it a comma, part of a character or another
+// newline. Programs that read these files expect it.
 std::string withoutNewlines(const std::string &value)
 {
     std::string text;
@@ -56,11 +24,105 @@ std::string withoutNewlines(const std::string &value)
     return text.append(value, begin, std::string::npos);
 }
 
+bool isAlike(const std::string &a, const std::string &b)
+{
+    return std::strcmp(a.c_str(), b.c_str()) == 0;
 }
 
-bool ValuePairTable::Cell::operator<(const Cell &other) const
+} // namespace
+
+/// Writes a table line by line.
+class ValuePairTable::Writer
 {
-    return std::tie(occurrence, rank) < std::tie(other.occurrence, other.rank);
+public:
+    Writer(const ValuePairTable &table, std::ostream &out)
+        : m_table(table)
+        , m_out(out)
+        , m_name(table.m_names.data())
+        , m_cell(table.m_cells.begin())
+        , m_text(table.m_text.data())
+    {
+    }
+
+    void writeHeader();
+    void writeRow(UInt32 row);
+    void flush();
+
+private:
+    using CellPlace = std::deque<Cell>::const_iterator;
+
+    std::string_view takeName();
+    CellPlace endOfRow(UInt32 row) const;
+    void writeCells(CellPlace end, char *to);
+
+    const ValuePairTable &m_table;
+    std::ostream &m_out;
+    std::string m_buffer;
+    const char *m_name;
+    CellPlace m_cell;
+    const char *m_text;
+};
+
+void ValuePairTable::Writer::writeHeader()
+{
+    m_buffer += "nodes\\keys,";
+    for (const Column *column : m_table.m_order)
+        m_buffer += *column->key + ',';
+    m_buffer += '\n';
+}
+
+// Fills the row with commas first, then puts the texts between them.
+void ValuePairTable::Writer::writeRow(UInt32 row)
+{
+    const std::string_view name = takeName();
+    const CellPlace end = endOfRow(row);
+    std::size_t size = name.size() + 1 + m_table.m_columns.size() + 1;
+    for (CellPlace cell = m_cell; cell != end; ++cell)
+        size += cell->textSize;
+    const std::size_t start = m_buffer.size();
+    m_buffer.resize(start + size, ',');
+    writeCells(end, std::copy(name.begin(), name.end(), &m_buffer[start]) + 1);
+    m_buffer.back() = '\n';
+    if (m_buffer.size() > (1 << 16))
+        flush();
+}
+
+std::string_view ValuePairTable::Writer::takeName()
+{
+    if (m_name == m_table.m_names.data() + m_table.m_names.size())
+        return {};
+    const std::string_view name = m_name;
+    m_name += name.size() + 1;
+    return name;
+}
+
+ValuePairTable::Writer::CellPlace ValuePairTable::Writer::endOfRow(UInt32 row) const
+{
+    CellPlace end = m_cell;
+    while (end != m_table.m_cells.end() && end->row == row)
+        ++end;
+    return end;
+}
+
+void ValuePairTable::Writer::writeCells(CellPlace end, char *to)
+{
+    UInt32 rank = 0;
+    for (; m_cell != end; ++m_cell) {
+        to = std::copy_n(m_text, m_cell->textSize, to + (m_cell->column->rank - rank));
+        m_text += m_cell->textSize;
+        rank = m_cell->column->rank;
+    }
+}
+
+void ValuePairTable::Writer::flush()
+{
+    m_out.write(m_buffer.data(), std::streamsize(m_buffer.size()));
+    m_buffer.clear();
+}
+
+bool ValuePairTable::Value::operator<(const Value &other) const
+{
+    return std::tie(row, column->rank) < std::tie(other.row, other.column->rank);
 }
 
 void ValuePairTable::addName(const char *name)
@@ -68,18 +130,23 @@ void ValuePairTable::addName(const char *name)
     m_names.append(name, std::strlen(name) + 1);
 }
 
+// All keys get their columns before the first value is placed: a value may belong to a column that
+// a later key makes.
 void ValuePairTable::setPairs(UInt32 row, const MFString &keys, const MFString &values)
 {
-    collectCells(keys);
-    cut(row);
     static const std::string missing;
-    for (const Cell &cell : m_cells) {
-        while (m_rows.size() <= row + cell.occurrence)
-            beginRow();
-        appendCell(
-            cell.column, cell.value < values.size() ? values.getValues()[cell.value] : missing);
+    cut(row);
+    m_columnsOfKeys.clear();
+    for (const std::string &key : keys.getValues())
+        m_columnsOfKeys.push_back(columnOf(key));
+    m_values.clear();
+    for (UInt32 i = 0; i < keys.size(); ++i) {
+        for (Column *column : m_columnsOfKeys[i]->alike)
+            placeValue(row, column, i < values.size() ? values.getValues()[i] : missing);
     }
-    m_length = UInt32(m_rows.size());
+    std::sort(m_values.begin(), m_values.end());
+    for (const Value &value : m_values)
+        addCell(value, *value.text);
 }
 
 UInt32 ValuePairTable::extend(UInt32 length)
@@ -89,160 +156,60 @@ UInt32 ValuePairTable::extend(UInt32 length)
     return m_length;
 }
 
-// Every column of a key gets its values, also one whose key goes on behind a NUL.
-void ValuePairTable::collectCells(const MFString &keys)
-{
-    m_columnsOfNode.clear();
-    for (const std::string &key : keys.getValues())
-        m_columnsOfNode.push_back(columnOf(key));
-    if (m_ranksAreStale)
-        updateRanks();
-    ++m_node;
-    m_cells.clear();
-    for (UInt32 i = 0; i < m_columnsOfNode.size(); ++i) {
-        UInt32 id = m_columnsOfNode[i];
-        do {
-            addCell(id, i);
-            id = m_columns[id].alike;
-        } while (id != m_columnsOfNode[i]);
-    }
-    std::sort(m_cells.begin(), m_cells.end());
-}
-
-void ValuePairTable::addCell(UInt32 id, UInt32 value)
-{
-    Column &column = m_columns[id];
-    column.occurrences = column.node == m_node ? column.occurrences + 1 : 0;
-    column.node = m_node;
-    m_cells.push_back({ column.occurrences, column.rank, id, value });
-}
-
-UInt32 ValuePairTable::columnOf(const std::string &key)
-{
-    UInt32 &recent = m_recentColumns[slotOf(key, m_recentColumns.size())];
-    if (recent < m_columns.size() && *m_columns[recent].key == key)
-        return recent;
-    const auto place = m_columnsByKey.find(key);
-    recent = place == m_columnsByKey.end() ? addColumn(key) : place->second;
-    return recent;
-}
-
-UInt32 ValuePairTable::addColumn(const std::string &key)
-{
-    const UInt32 id = UInt32(m_columns.size());
-    const Place place = m_columnsInOrder.emplace(key, id).first;
-    m_columns.push_back({ &place->first, 0, id, 0, 0 });
-    m_columnsByKey.emplace(key, id);
-    joinRing(place);
-    m_ranksAreStale = true;
-    return id;
-}
-
-// Keys that are the same up to a NUL stand side by side.
-void ValuePairTable::joinRing(Place place)
-{
-    const auto isAlike = [place](Place other) {
-        return std::strcmp(other->first.c_str(), place->first.c_str()) == 0;
-    };
-    const Place next = std::next(place);
-    Place alike = place;
-    if (next != m_columnsInOrder.end() && isAlike(next))
-        alike = next;
-    else if (place != m_columnsInOrder.begin() && isAlike(std::prev(place)))
-        alike = std::prev(place);
-    std::swap(m_columns[place->second].alike, m_columns[alike->second].alike);
-}
-
-// Costs one step a column, and only at a node that brings a new key: over all nodes never more
-// than write() needs for the rows of these nodes.
-void ValuePairTable::updateRanks()
-{
-    UInt32 rank = 0;
-    for (const auto &[key, id] : m_columnsInOrder)
-        m_columns[id].rank = rank++;
-    m_ranksAreStale = false;
-}
-
 void ValuePairTable::cut(UInt32 row)
 {
-    if (row >= m_rows.size())
-        return;
-    const Position end = m_rows[row];
-    m_rows.resize(row);
-    m_blocks.resize(end.block + 1);
-    m_blocks.back().resize(end.offset);
-}
-
-// Blocks of their own, as one string would move all its text each time it grows.
-void ValuePairTable::beginRow()
-{
-    if (m_blocks.empty() || m_blocks.back().size() >= blockSize) {
-        m_blocks.emplace_back();
-        m_blocks.back().reserve(blockSize + blockSize / 16);
+    for (; !m_cells.empty() && m_cells.back().row >= row; m_cells.pop_back()) {
+        m_cells.back().column->length = 0;
+        m_text.resize(m_text.size() - m_cells.back().textSize);
     }
-    m_rows.push_back({ UInt32(m_blocks.size() - 1), UInt32(m_blocks.back().size()) });
 }
 
-void ValuePairTable::appendCell(UInt32 column, const std::string &value)
+ValuePairTable::Column *ValuePairTable::columnOf(const std::string &key)
 {
-    if (std::memchr(value.data(), '\n', value.size()))
-        return appendCell(column, withoutNewlines(value));
-    appendNumber(m_blocks.back(), column);
-    appendNumber(m_blocks.back(), UInt32(value.size()));
-    m_blocks.back().append(value);
+    const auto [place, isNew] = m_columns.try_emplace(key);
+    if (isNew)
+        addColumn(place->first, place->second);
+    return &place->second;
+}
+
+void ValuePairTable::addColumn(const std::string &key, Column &column)
+{
+    column.key = &key;
+    const auto isLess = [](const Column *a, const std::string &b) { return *a->key < b; };
+    auto place = std::lower_bound(m_order.begin(), m_order.end(), key, isLess);
+    place = m_order.insert(place, &column);
+    for (; place != m_order.end(); ++place)
+        (*place)->rank = UInt32(place - m_order.begin());
+    place = std::lower_bound(m_order.begin(), m_order.end(), key.c_str(), isLess);
+    for (; place != m_order.end() && isAlike(*(*place)->key, key); ++place) {
+        (*place)->alike.push_back(&column);
+        if (*place != &column)
+            column.alike.push_back(*place);
+    }
+}
+
+void ValuePairTable::placeValue(UInt32 row, Column *column, const std::string &text)
+{
+    m_values.push_back({ std::max(row, column->length), column, &text });
+    column->length = m_values.back().row + 1;
+}
+
+void ValuePairTable::addCell(const Value &value, const std::string &text)
+{
+    if (std::memchr(text.data(), '\n', text.size()))
+        return addCell(value, withoutNewlines(text));
+    m_text += text;
+    m_cells.push_back({ value.column, value.row, UInt32(text.size()) });
+    m_length = value.row + 1;
 }
 
 void ValuePairTable::write(std::ostream &out, UInt32 rowCount) const
 {
-    writeHeader(out);
-    TextBuffer text(out);
-    const char *name = m_names.data();
-    const char *const namesEnd = name + m_names.size();
-    for (UInt32 row = 0; row < rowCount; ++row) {
-        const std::size_t nameSize = name == namesEnd ? 0 : std::strlen(name);
-        text.reserve(nameSize + 2);
-        text.append(name, nameSize);
-        text.append(',');
-        writeCells(text, row);
-        text.append('\n');
-        name += name == namesEnd ? 0 : nameSize + 1;
-    }
-    text.flush();
-}
-
-void ValuePairTable::writeHeader(std::ostream &out) const
-{
-    out << "nodes\\keys,";
-    for (const auto &[key, id] : m_columnsInOrder)
-        out << key << ',';
-    out << '\n';
-}
-
-void ValuePairTable::writeCells(TextBuffer &text, UInt32 row) const
-{
-    const auto [begin, end, blockEnd] = cellsOf(row);
-    text.reserve(std::size_t(end - begin) + m_columns.size() + 1);
-    UInt32 commas = 0;
-    for (const char *place = begin; place != end;) {
-        const UInt32 rank = m_columns[readNumber(place)].rank;
-        const UInt32 size = readNumber(place);
-        text.append(rank - commas, ',');
-        text.append(place, size, blockEnd);
-        commas = rank;
-        place += size;
-    }
-    text.append(m_columns.size() - commas, ',');
-}
-
-ValuePairTable::PackedRow ValuePairTable::cellsOf(UInt32 row) const
-{
-    if (row >= m_rows.size())
-        return {};
-    const Position begin = m_rows[row];
-    const std::string &block = m_blocks[begin.block];
-    const bool endsBlock = row + 1 == m_rows.size() || m_rows[row + 1].block != begin.block;
-    const std::size_t end = endsBlock ? block.size() : m_rows[row + 1].offset;
-    return { block.data() + begin.offset, block.data() + end, block.data() + block.size() };
+    Writer writer(*this, out);
+    writer.writeHeader();
+    for (UInt32 row = 0; row < rowCount; ++row)
+        writer.writeRow(row);
+    writer.flush();
 }
 
 OSG_END_NAMESPACE

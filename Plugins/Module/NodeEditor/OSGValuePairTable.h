@@ -2,8 +2,7 @@
 
 #include <OpenSG/OSGMFBaseTypes.h>
 
-#include <array>
-#include <map>
+#include <deque>
 #include <ostream>
 #include <string>
 #include <unordered_map>
@@ -11,13 +10,8 @@
 
 OSG_BEGIN_NAMESPACE
 
-class TextBuffer;
-
-/// The table that a ValuePairCSVCreator gathers: a column for every key, all of one length, and
-/// beside them the names of the rows.
-///
-/// Only cells that were set take memory. They are kept in the order and in the form in which they
-/// are written.
+/// The table that a ValuePairCSVCreator gathers. It has a row for each node and a column for each
+/// key. Only cells that were set take memory.
 class ValuePairTable
 {
 public:
@@ -27,74 +21,60 @@ public:
 
     void addName(const char *name);
 
-    /// Cuts every column at the row, then appends to each the values that belong to its key: one
-    /// cell, or more that reach into the following rows where a key is repeated. New keys make new
-    /// columns. Values that are missing are empty.
+    /// Cuts all columns at `row`. Then appends each value to every column whose key equals the
+    /// value's key up to the first NUL. A new key makes a new column. A missing value is empty. If
+    /// a key is repeated, its second value goes into the row after `row`, and so on.
+    /// \param keys not empty
     void setPairs(UInt32 row, const MFString &keys, const MFString &values);
 
-    /// Makes the columns, if there are any, at least that long. \returns their length
+    /// Makes all columns at least `length` long. Without columns the table stays empty.
+    /// \returns the length of the columns
     UInt32 extend(UInt32 length);
 
-    /// A header and that many rows.
+    /// Writes a header line and the first `rowCount` rows.
     void write(std::ostream &out, UInt32 rowCount) const;
 
 private:
     struct Column
     {
-        const std::string *key;
-        UInt32 rank; ///< place among the columns in key order
-        UInt32 alike; ///< next of the ring of columns whose keys are the same up to their first NUL
-        UInt32 node; ///< the setPairs() that met it last
-        UInt32 occurrences; ///< how often in that one
+        const std::string *key = nullptr;
+        std::vector<Column *> alike; ///< all columns whose keys equal this one up to the first NUL
+        UInt32 rank = 0; ///< the number of columns to the left
+        UInt32 length = 0; ///< the row after the last cell, 0 if that cell was cut
     };
-    /// A value to be put into the row that follows the first by `occurrence`.
+    /// A value of the current node.
+    struct Value
+    {
+        UInt32 row;
+        Column *column;
+        const std::string *text;
+
+        bool operator<(const Value &other) const;
+    };
     struct Cell
     {
-        UInt32 occurrence;
-        UInt32 rank;
-        UInt32 column;
-        UInt32 value;
+        Column *column;
+        UInt32 row;
+        UInt32 textSize;
+    };
+    class Writer;
 
-        bool operator<(const Cell &other) const;
-    };
-    struct PackedRow
-    {
-        const char *begin, *end, *blockEnd;
-    };
-    struct Position
-    {
-        UInt32 block;
-        UInt32 offset;
-    };
-    using Place = std::map<std::string, UInt32>::const_iterator;
-
-    UInt32 columnOf(const std::string &key);
-    UInt32 addColumn(const std::string &key);
-    void joinRing(Place place);
-    void updateRanks();
-    void collectCells(const MFString &keys);
-    void addCell(UInt32 id, UInt32 value);
     void cut(UInt32 row);
-    void beginRow();
-    void appendCell(UInt32 column, const std::string &value);
-    void writeHeader(std::ostream &out) const;
-    void writeCells(TextBuffer &text, UInt32 row) const;
-    PackedRow cellsOf(UInt32 row) const;
+    Column *columnOf(const std::string &key);
+    void addColumn(const std::string &key, Column &column);
+    void placeValue(UInt32 row, Column *column, const std::string &text);
+    void addCell(const Value &value, const std::string &text);
 
-    std::string m_names; ///< each ends in NUL
-    std::map<std::string, UInt32> m_columnsInOrder; ///< by key
-    std::unordered_map<std::string, UInt32> m_columnsByKey; ///< the same, found faster
-    std::array<UInt32, 1024> m_recentColumns {}; ///< by a cheap hash of the key
-    std::vector<Column> m_columns;
-    bool m_ranksAreStale = false;
-
-    std::vector<std::string> m_blocks; ///< each cell as column, size and text; whole rows in each
-    std::vector<Position> m_rows; ///< the rows up to the last that has cells
+    std::unordered_map<std::string, Column> m_columns; ///< by key
+    std::vector<Column *> m_order; ///< the columns from left to right
     UInt32 m_length = 0;
 
-    std::vector<UInt32> m_columnsOfNode;
-    std::vector<Cell> m_cells;
-    UInt32 m_node = 0;
+    std::string m_names; ///< each ends in NUL
+    std::deque<Cell> m_cells; ///< row by row, each from left to right
+    std::string m_text; ///< of all cells in the same order
+
+    std::vector<Column *> m_columnsOfKeys; ///< of the current node
+    std::vector<Value> m_values; ///< of the current node
 };
 
 OSG_END_NAMESPACE
