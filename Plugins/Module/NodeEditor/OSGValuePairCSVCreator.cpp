@@ -20,12 +20,7 @@ ValuePairBase *valuePairsOf(const NodePtr &node)
     return found == NullFC ? nullptr : static_cast<ValuePairBase *>(found.getCPtr());
 }
 
-bool hasCore(const NodePtr &node)
-{
-    return node != NullFC && node->getCore() != NullFC;
-}
-
-}
+} // namespace
 
 ValuePairCSVCreator::ValuePairCSVCreator(const char *name)
     : SingleTypeGraphOp<NodeCore>(name)
@@ -68,12 +63,13 @@ void ValuePairCSVCreator::setMonitor(std::function<bool()> monitor)
 
 bool ValuePairCSVCreator::travNodeEnter(const NodePtr &node)
 {
-    return gather(node);
+    gather(node);
+    return false;
 }
 
 bool ValuePairCSVCreator::travNodeEnter(NodePtr node)
 {
-    return gather(node);
+    return (this->*ByReference(&ValuePairCSVCreator::travNodeEnter))(node);
 }
 
 bool ValuePairCSVCreator::travNodeLeave(const NodePtr &)
@@ -81,50 +77,52 @@ bool ValuePairCSVCreator::travNodeLeave(const NodePtr &)
     return true;
 }
 
-bool ValuePairCSVCreator::travNodeLeave(NodePtr)
+bool ValuePairCSVCreator::travNodeLeave(NodePtr node)
 {
-    return true;
+    return (this->*ByReference(&ValuePairCSVCreator::travNodeLeave))(node);
 }
 
 Action::ResultE ValuePairCSVCreator::traverseEnter(const NodePtr &node)
 {
-    return enter(node);
+    askMonitor();
+    return call(&ValuePairCSVCreator::travNodeEnter, node);
 }
 
 Action::ResultE ValuePairCSVCreator::traverseEnter(NodePtr &node)
 {
-    return enter(node);
+    return traverseEnter(std::as_const(node));
 }
 
-Action::ResultE ValuePairCSVCreator::traverseLeave(const NodePtr &, Action::ResultE)
+Action::ResultE ValuePairCSVCreator::traverseLeave(const NodePtr &node, Action::ResultE)
 {
-    return goOn();
+    return call(&ValuePairCSVCreator::travNodeLeave, node);
 }
 
-Action::ResultE ValuePairCSVCreator::traverseLeave(NodePtr &, Action::ResultE)
+Action::ResultE ValuePairCSVCreator::traverseLeave(NodePtr &node, Action::ResultE result)
 {
-    return goOn();
+    return traverseLeave(std::as_const(node), result);
 }
 
-// Not all OpenSG libraries spare the operation nodes without a core.
-Action::ResultE ValuePairCSVCreator::enter(const NodePtr &node)
+void ValuePairCSVCreator::askMonitor()
 {
     if (m_monitor && ++m_entered % monitorInterval == 0)
         m_isStopped = m_isStopped || !m_monitor();
-    if (!m_isStopped && hasCore(node))
-        gather(node);
-    return goOn();
 }
 
-Action::ResultE ValuePairCSVCreator::goOn() const
+// Some OpenSG libraries pass nodes without a core.
+Action::ResultE ValuePairCSVCreator::call(ByValue callback, const NodePtr &node)
 {
-    return m_isStopped ? Action::Quit : Action::Continue;
+    if (m_isStopped)
+        return Action::Quit;
+    if (node != NullFC && node->getCore() != NullFC)
+        (this->*callback)(node);
+    return Action::Continue;
 }
 
-bool ValuePairCSVCreator::gather(const NodePtr &node)
+void ValuePairCSVCreator::gather(const NodePtr &node)
 {
     if (!m_takesAllNodes && !kavoNodeQueries::isFullyVisible(node))
-        return false;
+        return;
     const char *name = kavoNodeUtils::getName(node);
     m_table.addName(name ? name : "");
     const ValuePairBase *pairs = valuePairsOf(node);
@@ -132,7 +130,6 @@ bool ValuePairCSVCreator::gather(const NodePtr &node)
         m_table.setPairs(UInt32(m_rowCount), pairs->getKeys(), pairs->getValues());
     ++m_rowCount;
     m_rowTotal = Int32(m_table.extend(UInt32(m_rowTotal)));
-    return false;
 }
 
 bool ValuePairCSVCreator::save(const std::string &fileName)

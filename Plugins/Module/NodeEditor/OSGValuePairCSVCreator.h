@@ -13,16 +13,16 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// Graph operation that gathers the value pairs attached to the nodes of a scene (ValuePairBase)
-/// and writes them to a comma-separated text file: a row for each node, a column for each key.
+/// A graph operation that gathers the value pairs of a scene (ValuePairBase) and writes them to
+/// a comma-separated text file. The file has a row for each node and a column for each key.
 ///
 /// Register a prototype with the GraphOpFactory, create the operation by its name
-/// "ValuePairCSVCreator", traverse() a scene, save(), delete. One instance serves one export:
-/// save() starts the rows anew, but names, columns and cells of earlier passes stay.
+/// "ValuePairCSVCreator", traverse() a scene, save(), delete. Use one instance for one export:
+/// save() restarts the rows, but names, columns and cells of earlier passes stay.
 ///
-/// Nodes without a core are passed over, null nodes too. A row comes out only if it has a value
-/// pair or one of the following rows does. Nothing is quoted; a newline in a value becomes a blank
-/// and swallows the byte that follows it.
+/// Null nodes and nodes without a core are skipped. The last row is that of the last node with
+/// value pairs. Nothing is quoted. A newline in a value becomes a blank and swallows the byte after
+/// it.
 class OSG_VALUE_PAIR_CSV_EXPORT ValuePairCSVCreator : public SingleTypeGraphOp<NodeCore>
 {
 public:
@@ -30,45 +30,54 @@ public:
     GraphOp *create() override;
     ~ValuePairCSVCreator() override;
 
-    /// There are no parameters: does nothing.
+    /// Does nothing: there are no parameters.
     void setParams(const std::string params) override;
     /// \returns an empty text
     std::string usage() override;
 
-    /// Whether nodes are taken that are not fully visible, which is to say that have a bit of their
-    /// traversal mask cleared. False by default.
+    /// If false, nodes with a cleared bit in their traversal mask are skipped. False by default.
     void setCsvType(bool takesAllNodes);
 
-    /// A function that is called now and then during a traversal, every monitorInterval nodes.
-    /// When it returns false, the traversal ends, with false, and so does every later one until a
-    /// monitor is set again. None by default.
+    /// Sets a function that traverse() calls every monitorInterval nodes. When it returns false,
+    /// traverse() ends and returns false. Later traversals end at once, until a monitor is set
+    /// again. No function by default.
     void setMonitor(std::function<bool()> monitor);
     static constexpr UInt32 monitorInterval = 1024;
 
-    // Called by traverse(). OpenSG hands over nodes by value or by reference, depending on who
-    // built it; which of the two overrides is up to its headers, so neither says `override`.
-    bool travNodeEnter(const NodePtr &node);
-    bool travNodeEnter(NodePtr node);
-    bool travNodeLeave(const NodePtr &node);
-    bool travNodeLeave(NodePtr node);
+    // traverse() calls these for each node with a core. OpenSG libraries pass nodes by value or by
+    // reference, so there are both forms, and `override` stands at neither. The form by value calls
+    // the form by reference. A derived operation overrides either form and may call gather().
+
+    /// Gathers the node. \returns false
+    virtual bool travNodeEnter(const NodePtr &node);
+    virtual bool travNodeEnter(NodePtr node);
+    /// Does nothing. \returns true
+    virtual bool travNodeLeave(const NodePtr &node);
+    virtual bool travNodeLeave(NodePtr node);
 
     /// Writes what was gathered since the last save(), overwriting the file.
-    /// \returns true in every case; saveError() tells more
+    /// \returns true, even if writing failed: ask saveError()
     bool save(const std::string &fileName);
 
-    /// The errno of the last save(), 0 if everything is in the file.
+    /// The errno of the last save(), 0 if everything was written.
     int saveError() const { return m_saveError; }
 
 protected:
+    /// Adds a row with the node's name and value pairs.
+    void gather(const NodePtr &node);
+
     Action::ResultE traverseEnter(const NodePtr &node);
     Action::ResultE traverseEnter(NodePtr &node);
     Action::ResultE traverseLeave(const NodePtr &node, Action::ResultE result);
     Action::ResultE traverseLeave(NodePtr &node, Action::ResultE result);
 
 private:
-    bool gather(const NodePtr &node);
-    Action::ResultE enter(const NodePtr &node);
-    Action::ResultE goOn() const;
+    // A call by name would be ambiguous between the two forms.
+    using ByValue = bool (ValuePairCSVCreator::*)(NodePtr);
+    using ByReference = bool (ValuePairCSVCreator::*)(const NodePtr &);
+
+    Action::ResultE call(ByValue callback, const NodePtr &node);
+    void askMonitor();
 
     ValuePairTable m_table;
     Int32 m_rowCount = 0;

@@ -1,6 +1,7 @@
 #include <OSGValuePairCSVCreator.h>
 #include <kavoConsoleCapture.h>
 #include <kavoNodePtr.h>
+#include <kavoNodeUtils.h>
 #include <kavoTestHost.h>
 #include <kavoTestPairs.h>
 
@@ -10,8 +11,10 @@
 
 #include <cerrno>
 #include <memory>
+#include <string>
 
 using kavoTestPairs::addNode;
+using osg::NodePtr;
 using osg::UInt32;
 using osg::ValuePairCSVCreator;
 
@@ -19,9 +22,53 @@ namespace {
 
 const QByteArray constructorLine = "ValuePairCSVCreator::ValuePairCSVCreator\n";
 
+using ByValue = bool (ValuePairCSVCreator::*)(NodePtr);
+using ByReference = bool (ValuePairCSVCreator::*)(const NodePtr &);
+
+/// Leaves out nodes called "secret" and counts the nodes that are left.
+struct WithoutSecrets : ValuePairCSVCreator
+{
+    using ValuePairCSVCreator::ValuePairCSVCreator;
+
+    bool travNodeEnter(const NodePtr &node) override
+    {
+        if (kavoNodeUtils::getName(node) != std::string("secret"))
+            gather(node);
+        return true;
+    }
+    bool travNodeLeave(const NodePtr &) override
+    {
+        ++left;
+        return false;
+    }
+
+    int left = 0;
+};
+
+/// The same with callbacks that take nodes by value.
+struct WithoutSecretsByValue : ValuePairCSVCreator
+{
+    using ValuePairCSVCreator::ValuePairCSVCreator;
+
+    bool travNodeEnter(NodePtr node) override
+    {
+        if (kavoNodeUtils::getName(node) != std::string("secret"))
+            gather(node);
+        return true;
+    }
+    bool travNodeLeave(NodePtr) override
+    {
+        ++left;
+        return false;
+    }
+
+    int left = 0;
+};
+
 } // namespace
 
-// How a run of the operation is watched, ended and fails. What it writes is in tst_valuepaircsv.
+// Tests how a run is watched and ended, how it fails and how it is overridden. tst_valuepaircsv
+// tests what it writes.
 class tst_ValuePairCsvRun : public QObject
 {
     Q_OBJECT
@@ -35,10 +82,14 @@ private slots:
     void theMonitorIsCalledNowAndThen();
     void theMonitorEndsTheTraversal();
     void aTraversalThatWasEndedStaysSoUntilAMonitorIsSet();
+    void enteringReturnsFalseAndLeavingTrue();
+    void derivedOperationsOverrideTheCallbacks();
+    void derivedOperationsOverrideTheCallbacksByValue();
 
 private:
     bool traverse();
     QByteArray saved();
+    template <class Operation> void checkThatSecretsAreLeftOut();
 
     QTemporaryDir m_folder;
     std::unique_ptr<kavoConsoleCapture> m_console;
@@ -121,6 +172,38 @@ void tst_ValuePairCsvRun::aTraversalThatWasEndedStaysSoUntilAMonitorIsSet()
     QVERIFY(!traverse());
     m_creator->setMonitor({});
     QVERIFY(traverse());
+}
+
+void tst_ValuePairCsvRun::enteringReturnsFalseAndLeavingTrue()
+{
+    const NodePtr node = addNode(m_root, "a", { { "k", "1" } });
+    QVERIFY(!(*m_creator.*ByReference(&ValuePairCSVCreator::travNodeEnter))(node));
+    QVERIFY(!(*m_creator.*ByValue(&ValuePairCSVCreator::travNodeEnter))(node));
+    QVERIFY((*m_creator.*ByReference(&ValuePairCSVCreator::travNodeLeave))(node));
+    QVERIFY((*m_creator.*ByValue(&ValuePairCSVCreator::travNodeLeave))(node));
+    QCOMPARE(saved(), QByteArray("nodes\\keys,k,\na,1,\na,1,\n"));
+}
+
+template <class Operation> void tst_ValuePairCsvRun::checkThatSecretsAreLeftOut()
+{
+    addNode(m_root, "secret", { { "password", "1" } });
+    addNode(m_root, "a", { { "k", "2" } });
+    auto creator = std::make_unique<Operation>("ValuePairCSVCreator");
+    const Operation &operation = *creator;
+    m_creator = std::move(creator);
+    QVERIFY(traverse());
+    QCOMPARE(saved(), QByteArray("nodes\\keys,k,\nroot,,\na,2,\n"));
+    QCOMPARE(operation.left, 3);
+}
+
+void tst_ValuePairCsvRun::derivedOperationsOverrideTheCallbacks()
+{
+    checkThatSecretsAreLeftOut<WithoutSecrets>();
+}
+
+void tst_ValuePairCsvRun::derivedOperationsOverrideTheCallbacksByValue()
+{
+    checkThatSecretsAreLeftOut<WithoutSecretsByValue>();
 }
 
 KAVO_TEST_MAIN(tst_ValuePairCsvRun)
