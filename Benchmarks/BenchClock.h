@@ -9,8 +9,9 @@
 /// Times of a piece of work in milliseconds.
 namespace BenchClock {
 
-/// The smallest value that more than that share of the values, from 0 to below 1, lies at or below.
-/// Not for an empty list.
+/// The value at position `share` of the sorted list, for example 0.95 for the 95th percentile.
+/// \param values not empty
+/// \param share from 0 to below 1
 inline double quantile(std::vector<double> values, double share)
 {
     const auto place = values.begin() + std::ptrdiff_t(share * double(values.size()));
@@ -18,14 +19,15 @@ inline double quantile(std::vector<double> values, double share)
     return *place;
 }
 
-/// The upper one of the two in the middle if their number is even. Not for an empty list.
+/// For an even number of values, the upper one of the two in the middle.
+/// \param values not empty
 inline double median(std::vector<double> values)
 {
     return quantile(std::move(values), 0.5);
 }
 
-/// Processor time of the calling thread. Unlike the time of the clock on the wall it does not
-/// depend on what else the machine does; they are the same for work that waits for nothing.
+/// Processor time of the calling thread. Other programs on the machine hardly change it. Use
+/// wallTime() for work that waits.
 template <class Work> double time(Work work)
 {
     const auto now = [] {
@@ -38,7 +40,7 @@ template <class Work> double time(Work work)
     return now() - start;
 }
 
-/// What the user waits.
+/// Elapsed time, as the user waits.
 template <class Work> double wallTime(Work work)
 {
     const auto start = std::chrono::steady_clock::now();
@@ -47,7 +49,7 @@ template <class Work> double wallTime(Work work)
         .count();
 }
 
-/// What as many calls of a function return.
+/// The results of `rounds` calls.
 template <class Measure> std::vector<double> timesOf(int rounds, Measure measure)
 {
     std::vector<double> times;
@@ -56,13 +58,13 @@ template <class Measure> std::vector<double> timesOf(int rounds, Measure measure
     return times;
 }
 
-/// The median of as many calls of a function that returns a time.
+/// The median of the times that `rounds` calls return.
 template <class Measure> double medianOf(int rounds, Measure measure)
 {
     return median(timesOf(rounds, measure));
 }
 
-/// The median of as many runs.
+/// The median processor time of `rounds` calls.
 template <class Work> double median(int rounds, Work work)
 {
     return medianOf(rounds, [&] { return time(work); });

@@ -2,14 +2,14 @@
 
 #include <cstddef>
 
-/// Counts what the program takes from operator new, as the sizes that the allocator really gives.
-/// For the whole executable, shared libraries included.
+/// Counts the memory that the program and its shared libraries get from operator new. Each block
+/// counts with its usable size.
 namespace BenchMemory {
 
-/// Most bytes in use at any one time since this was called, above what was in use then.
 void startCounting();
+/// The highest number of bytes in use since startCounting(), less those in use at that time.
 std::size_t peak();
-/// Allocations are not counted any more, so they take their usual time.
+/// Stops counting, so that allocations take their usual time.
 void stopCounting();
 
 }

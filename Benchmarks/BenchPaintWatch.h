@@ -4,13 +4,14 @@
 #include <QEvent>
 #include <QObject>
 
-/// Sees when a widget is painted.
+/// Tells when a widget is painted.
 class BenchPaintWatch : public QObject
 {
 public:
     explicit BenchPaintWatch(QObject &widget) { widget.installEventFilter(this); }
 
-    /// Runs the event loop until the widget has been painted since the last call.
+    /// Runs the event loop until the widget is painted. Returns at once if it was painted since the
+    /// last call.
     void waitForPaint()
     {
         while (!m_painted)
@@ -18,7 +19,7 @@ public:
         m_painted = false;
     }
 
-    /// Paints so far do not count.
+    /// Ignores all paints so far.
     void forget() { m_painted = false; }
 
     bool eventFilter(QObject *, QEvent *event) override

@@ -68,7 +68,7 @@ osg::NodePtr makeGroup(const char *name)
     return makeNode(name, osg::Group::create());
 }
 
-// Moves what is below to a place within a cube of that size.
+// A transform that moves its children to a place within a cube of edge `size`.
 osg::NodePtr makePlace(int number, osg::Real32 size)
 {
     const osg::TransformPtr transform = osg::Transform::create();
@@ -77,7 +77,8 @@ osg::NodePtr makePlace(int number, osg::Real32 size)
     return makeNode("Place " + std::to_string(number), transform);
 }
 
-// Puts up to 100 pairs of nodes below a node; \returns the upper ones.
+// Adds up to 100 pairs of nodes below `parent`: a transform and its only child.
+// \returns the transforms
 std::vector<osg::NodePtr> addPlaces(
     const osg::NodePtr &parent, int pairs, osg::Real32 size, bool hasGeometry)
 {

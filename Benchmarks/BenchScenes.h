@@ -4,20 +4,20 @@
 
 #include <OpenSG/OSGNode.h>
 
-/// What the benchmarks show.
+/// The scenes of the benchmarks.
 namespace BenchScenes {
 
 /// A node with a name, a box as geometry, and a material of five chunks, one of them a texture.
 kavoNodePtr makeTexturedNode();
 
-/// An attachment with 400 fields, which nobody references.
+/// An attachment with 400 fields. Its reference count is 0.
 osg::AttachmentPtr makeManyFields();
 
-/// A node that carries as many transform variants, of three rows each, in lists of a given length.
+/// A node with `count` transform variants in lists of `listLength`. Each variant has three rows.
 kavoNodePtr makeNodeWithVariants(int count, int listLength);
 
-/// A tree of that many nodes with names: transforms with up to 100 transforms below them, each of
-/// which moves a group of its own or, with geometry, a box. A hundred siblings share their box.
+/// A tree of `nodes` named nodes. A transform has up to 100 transforms below it. Each of them moves
+/// a group or, if `hasGeometry`, a box that up to 100 siblings share.
 kavoNodePtr makeTree(int nodes, bool hasGeometry);
 
 }

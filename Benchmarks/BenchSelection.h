@@ -8,8 +8,8 @@
 #include <functional>
 #include <vector>
 
-/// Times of the same rows in the editor, in the straightforward use of the component and in a bare
-/// tree widget, each in a window on the screen. The event loop runs between building and emptying,
+/// Measures the same rows in the editor, in the straightforward use of the component and in a bare
+/// tree widget. Each has a window on the screen. The event loop runs between building and emptying,
 /// as it does between two clicks.
 class BenchSelection
 {
@@ -32,24 +32,24 @@ public:
 
     BenchSelection();
 
-    /// Whether the views of editor and baseline take all rows for equally high, as the sources of
-    /// the component that the build uses do. Others measure each row.
+    /// If true, the views of editor and baseline assume that all rows have the same height. The
+    /// component's sources that the build uses do so. Other versions measure each row.
     void setUniformRowHeights(bool uniform);
 
-    /// The rows that the editor shows of a container.
+    /// The rows that the editor shows for a container.
     kavoRecordedRow rowsOf(const osg::FieldContainerPtr &container);
 
     Way editor(const osg::FieldContainerPtr &container);
-    // The rows must outlive what is returned.
+    // `rows` must outlive the returned way.
     Way baseline(const kavoRecordedRow &rows);
     Way baselineWithRemedies(const kavoRecordedRow &rows);
     Way floor(const kavoRecordedRow &rows);
 
-    /// Medians of as many rounds. Every round takes all ways in turn, so that what else the machine
-    /// does, and the state of the heap, meet all of them alike.
+    /// The medians of `rounds` rounds. Each round runs all ways in turn, so that the load of the
+    /// machine and the state of the heap affect all ways alike.
     static std::vector<Times> alternate(int rounds, const std::vector<Way> &ways);
 
-    /// From a selection in place of the same until the tree is painted; the median.
+    /// The median time from selecting the shown container again until the tree is painted.
     double untilPainted(const osg::FieldContainerPtr &container, int rounds);
 
 private:

@@ -35,13 +35,6 @@ void BenchTable::atMost(
     std::fflush(stdout);
 }
 
-void BenchTable::below(const std::string &name, double ours, double goal, const char *unit)
-{
-    std::printf("%s\t%.3g %s\t-\t-\tat most %g %s\t%s\n", name.c_str(), ours, unit, goal, unit,
-        verdict(ours <= goal));
-    std::fflush(stdout);
-}
-
 void BenchTable::figure(const std::string &name, double ours, const char *unit)
 {
     std::printf("%s\t%.3g %s\t-\t-\t-\t-\n", name.c_str(), ours, unit);

@@ -3,10 +3,10 @@
 #include <qtpropertymanager.h>
 #include <qttreepropertybrowser.h>
 
-/// The cheapest way we found to show rows with the component: they have a title and nothing else,
-/// the view hears nothing of them one by one, they enter the browser all at once, and the row
-/// above them goes first, so that they need not be taken out of it. Not an order that the editor
-/// can take: each of its groups is in the tree, closed, before it is filled.
+/// The cheapest way we found to show rows with the component. The rows have a title and nothing
+/// else. The top row enters the browser with all rows below it while the view gets no signals, and
+/// it is deleted before them. The editor cannot use this order: each of its groups enters the tree
+/// before it is filled.
 class BenchTitles : public QtTreePropertyBrowser
 {
     Q_OBJECT

@@ -7,7 +7,7 @@ OSG_BEGIN_NAMESPACE
 
 OSG_FC_FIRST_FIELD_IDM_DEF(ManyFields, OwnField)
 
-// More fields than a mask has bits: they share those that are left.
+// There are more fields than bits in a mask, so several fields share a bit.
 FieldDescription **ManyFields::describe()
 {
     static std::array<FieldDescription *, fieldCount> descriptions;

@@ -15,8 +15,8 @@ OSG_BEGIN_NAMESPACE
 class ManyFields;
 typedef FCPtr<AttachmentPtr, ManyFields> ManyFieldsPtr;
 
-/// Attachment with many fields of its own, a quarter each of real numbers, integers, texts and
-/// vectors. One indexed access method reaches all of them.
+/// An attachment with many fields of its own, a quarter each of real numbers, integers, texts and
+/// vectors. One indexed access method returns any of them.
 class ManyFields : public Attachment
 {
     typedef Attachment Inherited;

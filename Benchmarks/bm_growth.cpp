@@ -1,5 +1,5 @@
-// How the cost of a row in nested groups grows with their number, up to 20,000, and what other ways
-// of showing the same rows cost. Each of the variants has three rows.
+// Measures how the cost of a row in nested groups grows with the number of rows, up to 20,000, and
+// compares other ways of showing the same rows. Each variant has three rows.
 
 #include "BenchHost.h"
 #include "BenchScenes.h"
@@ -20,12 +20,12 @@ void growth(BenchSelection &selection)
     const int manyRows = selection.rowsOf(osg::NodePtr(many)).count();
     const auto times = BenchSelection::alternate(
         11, { selection.editor(osg::NodePtr(few)), selection.editor(osg::NodePtr(many)) });
-    BenchTable::atMost("nested groups: build a row of 20,000, as against one of 2,000",
+    BenchTable::atMost("nested groups: build a row, 20,000 rows versus 2,000",
         1000 * times[1].build / manyRows, 1000 * times[0].build / fewRows, 1.3, "us");
     BenchTable::figure(
-        "nested groups: empty a row of 2,000", 1000 * times[0].empty / fewRows, "us");
+        "nested groups, 2,000 rows: remove a row", 1000 * times[0].empty / fewRows, "us");
     BenchTable::figure(
-        "nested groups: empty a row of 20,000", 1000 * times[1].empty / manyRows, "us");
+        "nested groups, 20,000 rows: remove a row", 1000 * times[1].empty / manyRows, "us");
 }
 
 void againstFloor(BenchSelection &selection, int variants)
@@ -36,11 +36,11 @@ void againstFloor(BenchSelection &selection, int variants)
         11, { selection.editor(osg::NodePtr(node)), selection.floor(rows) });
     const int count = rows.count();
     BenchTable::atMost(
-        BenchTable::named("nested groups, %d rows: a row, as against a bare tree widget", count),
+        BenchTable::named("nested groups, %d rows: a row, versus a bare tree widget", count),
         1000 * times[0].sum() / count, 1000 * times[1].sum() / count, 40, "us");
 }
 
-// The baseline deletes its rows last ones first, then clears the browser and the manager.
+// This baseline deletes its rows from the last to the first, then clears browser and manager.
 void againstRemedies(BenchSelection &selection)
 {
     const kavoNodePtr node = BenchScenes::makeNodeWithVariants(3333, listLength);
@@ -50,11 +50,11 @@ void againstRemedies(BenchSelection &selection)
     const int count = rows.count();
     BenchTable::atMost(
         BenchTable::named(
-            "nested groups, %d rows: build, to a baseline with its top row closed", count),
+            "nested groups, %d rows: build, versus a baseline with its top row closed", count),
         times[0].build, times[1].build, 1, "ms");
     BenchTable::atMost(
         BenchTable::named(
-            "nested groups, %d rows: empty, to a baseline that deletes its rows first", count),
+            "nested groups, %d rows: empty, versus a baseline that deletes its rows first", count),
         times[0].empty, times[1].empty, 1, "ms");
 }
 

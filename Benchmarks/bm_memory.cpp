@@ -1,5 +1,5 @@
-// What stays in memory of a selection. The managers of enumerations and colours keep their rows,
-// deliberately; the variant manager must not.
+// Measures the memory that stays allocated after a selection. The managers of enumerations and
+// colours keep their rows on purpose. The variant manager must not keep any.
 
 #include "BenchClock.h"
 #include "BenchHost.h"
@@ -17,7 +17,7 @@
 namespace {
 
 constexpr int selections = 10000;
-constexpr int sample = 100; // selections at the beginning and at the end that are timed
+constexpr int sample = 100; // the number of timed selections at the beginning and at the end
 
 double heapBytes()
 {
@@ -48,12 +48,13 @@ double timeOfSample(kavoFCEditorWidget &editor, const kavoNodePtr &node)
 
 void report(const kavoFCEditorWidget &editor, double bytesOfOne, int variantRows)
 {
-    BenchTable::figure("selections of a textured node: memory kept of one", bytesOfOne, "bytes");
-    BenchTable::figure("10,000 selections: enumeration rows kept of one",
+    BenchTable::figure(
+        "selections of a textured node: memory kept per selection", bytesOfOne, "bytes");
+    BenchTable::figure("10,000 selections: enumeration rows kept per selection",
         rowsKept<QtGLenumPropertyManager>(editor), "rows");
-    BenchTable::figure("10,000 selections: colour rows kept of one",
+    BenchTable::figure("10,000 selections: colour rows kept per selection",
         rowsKept<QtKavoColorPropertyManager>(editor), "rows");
-    BenchTable::below("10,000 selections: variant rows gained", variantRows, 0, "rows");
+    BenchTable::figure("10,000 selections: variant rows kept in all", variantRows, "rows");
 }
 
 }
@@ -73,8 +74,8 @@ int main(int argc, char **argv)
     const double bytesOfOne = (heapBytes() - bytesBefore) / (selections - 2 * sample);
     const double last = timeOfSample(editor, node);
     report(editor, bytesOfOne, rowsOf(variants) - rowsBefore);
-    BenchTable::figure("10,000 selections: one of the first 100", first, "ms");
-    BenchTable::figure("10,000 selections: one of the last 100", last, "ms");
+    BenchTable::figure("10,000 selections: each of the first 100", first, "ms");
+    BenchTable::figure("10,000 selections: each of the last 100", last, "ms");
     BenchTable::figure("10,000 selections: destroy the editor",
         BenchClock::time([&] { editorOwner.reset(); }), "ms");
     return 0;

@@ -1,4 +1,4 @@
-// What a single row costs: making it, beautifying its text, writing an edit of it back.
+// Measures a single row: making it, beautifying its text and writing an edit back.
 
 #include "BenchClock.h"
 #include "BenchHost.h"
@@ -20,7 +20,7 @@ namespace {
 constexpr int repetitions = 2000;
 constexpr int rounds = 9;
 
-// The slot of enumerations reports every change on standard output.
+// The slot of enumerations prints every change to standard output.
 class SilentOutput
 {
 public:

