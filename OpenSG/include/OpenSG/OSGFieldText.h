@@ -4,10 +4,16 @@
 
 OSG_BEGIN_NAMESPACE
 
+class Field;
 class FieldContainerPtr;
+class StringConversionStateBase;
 
 /// What SField and MField have in common: one value to and from text, one value as a handle.
 namespace FieldText {
+
+/// Append the text of all values of a multi-field and return `out`.
+std::string &writeAll(const Field &field, std::string &out);
+std::string &writeAll(const Field &field, std::string &out, StringConversionStateBase &state);
 
 void reportNoWriter();
 void reportNoReader();
