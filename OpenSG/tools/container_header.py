@@ -126,9 +126,9 @@ def reference(cpp_type):
 
 def protected_part(c):
     parts = ["\nprotected:\n    friend class FieldContainer;\n\n"]
-    parts.append(f"    {c.cpp_name}() = default;\n")
-    parts.append(f"    {c.cpp_name}(const {c.cpp_name} &) = default;\n")
-    parts.append(f"    ~{c.cpp_name}() override = default;\n")
+    parts.append(f"    {c.cpp_name}();\n")
+    parts.append(f"    {c.cpp_name}(const {c.cpp_name} &);\n")
+    parts.append(f"    ~{c.cpp_name}() override;\n")
     parts += [accessors(c, f) for f in c.fields if f.protected]
     parts += [forgotten(c, f) for f in c.fields if f.numbered]
     parts.append(held_containers(c))

@@ -22,7 +22,8 @@ def pointer_fields(c):
 
 
 def class_source(c):
-    return f"\n// {c.name}\n" + field_table(c) + type_object(c) + creation(c) + end_of_edit(c)
+    parts = [field_table(c), type_object(c), special_members(c), creation(c), end_of_edit(c)]
+    return f"\n// {c.name}\n" + "".join(parts)
 
 
 def field_table(c):
@@ -49,6 +50,16 @@ def type_object(c):
     return f"""
 FieldContainerType {c.cpp_name}::_type(
     "{c.name}", "{c.parent}", {group}, {prototype}, nullptr, {table});
+"""
+
+
+def special_members(c):
+    """Not inline, so that sources with derived classes do not compile them again."""
+    name = c.cpp_name
+    return f"""
+{name}::{name}() = default;
+{name}::{name}(const {name} &) = default;
+{name}::~{name}() = default;
 """
 
 
