@@ -4,8 +4,8 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// What is common to the properties of one kind: access to the values as ValueT, whatever they
-/// are stored as. Indices are not checked.
+/// Base of the properties of one kind. Its functions convert between the stored type and ValueT.
+/// Indices are not checked.
 template <class BaseT, class ValueT> class AbstractGeoProperty : public BaseT
 {
 public:

@@ -4,20 +4,20 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// A container that is hung on attachment containers and knows them as its parents. An internal
-/// attachment is left out of scene files. addAttachment and subAttachment keep the parents.
+/// A container that is attached to attachment containers, its parents. Internal attachments are not
+/// written to scene files. AttachmentContainer::addAttachment and subAttachment update the parents.
 class Attachment : public AttachmentBase
 {
     typedef AttachmentBase Inherited;
 
 public:
-    /// Appends, respectively removes the first entry of, a parent.
     void addParent(FieldContainerPtr parent);
+    /// Removes the first entry of the parent.
     void subParent(FieldContainerPtr parent);
-    /// Index of the parent; -1 if it is none.
+    /// Returns the index of the parent, or -1 if there is no such parent.
     Int32 findParent(FieldContainerPtr parent) const;
 
-    /// The field itself.
+    /// Returns the field, not its value.
     SFBool &getInternal() { return _sfInternal; }
     const SFBool &getInternal() const { return _sfInternal; }
     void setInternal(bool internal) { _sfInternal.setValue(internal); }
@@ -26,7 +26,7 @@ protected:
     friend class FieldContainer;
 
     Attachment() = default;
-    /// The copy hangs nowhere yet.
+    /// The copy has no parents.
     Attachment(const Attachment &source);
     ~Attachment() override = default;
 

@@ -5,9 +5,9 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// A container that attachments can be hung on: one of each group and binding. It holds a
-/// reference to each. Adding and removing do not announce an edit of the container:
-/// bracket them with an edit of AttachmentsFieldMask.
+/// A container with attachments: at most one of each group and binding. It holds a reference to
+/// each. The caller of the functions that add and remove attachments has to begin and end an edit
+/// of AttachmentsFieldMask.
 class AttachmentContainer : public AttachmentContainerBase
 {
     typedef AttachmentContainerBase Inherited;
@@ -15,10 +15,10 @@ class AttachmentContainer : public AttachmentContainerBase
 public:
     /// Replaces an attachment of the same group and binding. Null is ignored.
     void addAttachment(const AttachmentPtr &attachment, UInt16 binding = 0);
-    /// Removes whatever is stored under the attachment's group and the binding.
+    /// Removes the attachment of the same group and binding, even if it is not this one.
     void subAttachment(const AttachmentPtr &attachment, UInt16 binding = 0);
 
-    /// Null if there is none.
+    /// Returns null if there is none.
     AttachmentPtr findAttachment(UInt32 groupId, UInt16 binding = 0);
     AttachmentPtr findAttachment(const FieldContainerType &type, UInt16 binding = 0);
 
@@ -26,7 +26,7 @@ protected:
     friend class FieldContainer;
 
     AttachmentContainer() = default;
-    /// The copy shares the attachments. Deliberate: all of them with binding 0.
+    /// The copy shares the attachments. Deliberate: they all get binding 0.
     AttachmentContainer(const AttachmentContainer &source);
     ~AttachmentContainer() override;
 

@@ -6,8 +6,8 @@ OSG_BEGIN_NAMESPACE
 
 class AttachmentContainer;
 
-/// Handle to a container that can carry attachments. A class of its own, not a typedef: its name
-/// is part of the names of all handle types below it.
+/// Handle to a container with attachments. It is a class, not a typedef, because its name is part
+/// of the type names of all derived handles.
 class AttachmentContainerPtr : public FCPtr<FieldContainerPtr, AttachmentContainer>
 {
     typedef FCPtr<FieldContainerPtr, AttachmentContainer> Handle;

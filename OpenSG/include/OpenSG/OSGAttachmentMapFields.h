@@ -12,7 +12,7 @@ OSG_BEGIN_NAMESPACE
 /// Attachments by key: group id << 16 | binding.
 typedef std::map<UInt32, AttachmentPtr> AttachmentMap;
 
-/// The text of a map is its type name; its binary form is empty.
+/// The text of a map is its type name. Its binary form is empty.
 template <> struct FieldDataTraits<AttachmentMap> : public FieldTraitsRecurseMapper<AttachmentMap>
 {
     static DataType _type;

@@ -11,8 +11,8 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// Written in quotes with nothing escaped, read as it stands, quotes and all: whoever shows the
-/// text for editing has to strip them.
+/// Written in quotes, without escapes. Read with all characters, including quotes. Callers that
+/// show the text in an editor have to remove the quotes.
 template <class T> struct StringFieldTraits : FieldTraitsList<T, StringFieldTraits<T>>
 {
     typedef const T &ArgumentType;
@@ -50,7 +50,7 @@ template <class T> struct StringFieldTraits : FieldTraitsList<T, StringFieldTrai
     }
 };
 
-/// Components separated by single blanks.
+/// The text is the components, separated by single blanks.
 template <class T> struct ColorFieldTraits : TextFieldTraits<T>
 {
     typedef const T &ArgumentType;
@@ -67,7 +67,7 @@ template <class T> struct ColorFieldTraits : TextFieldTraits<T>
     }
 };
 
-/// Six numbers of a box, lower corner first. A sphere is written as four.
+/// The text of a box is six numbers, lower corner first. A sphere is written as four numbers.
 template <class T> struct VolumeFieldTraits : FieldTraitsList<T, VolumeFieldTraits<T>>
 {
     typedef const T &ArgumentType;
@@ -106,7 +106,7 @@ private:
 template <> std::string VolumeFieldTraits<BoxVolume>::volumeText(const Volume &volume);
 template <> std::string VolumeFieldTraits<DynamicVolume>::volumeText(const Volume &volume);
 
-/// Normal, comma, distance. There is no way back: reading leaves the value as it is.
+/// The text is the normal, a comma and the distance. Reading fails and leaves the value alone.
 template <class T> struct PlaneFieldTraits : TextFieldTraits<T>
 {
     typedef const T &ArgumentType;

@@ -10,29 +10,30 @@ extern SystemState GlobalSystemState;
 typedef bool (*InitFuncF)();
 typedef bool (*ExitFuncF)();
 
-/// Functions to run once at start or stop; a function that returns false ends the run of them.
-void addInitFunction(InitFuncF initFunc); ///< by osgInit, after threading exists
-void addPreMPInitFunction(InitFuncF initFunc); ///< by osgInit, before threading exists
-void addSystemExitFunction(ExitFuncF exitFunc); ///< by osgExit, last added first
-void addPostMPExitFunction(ExitFuncF exitFunc); ///< by osgExit, after threading has ended
+/// Adds a function that osgInit or osgExit calls once. If a function returns false, the remaining
+/// ones of the same kind are not called.
+void addInitFunction(InitFuncF initFunc); ///< called by osgInit, when threads are available
+void addPreMPInitFunction(InitFuncF initFunc); ///< called by osgInit, before that
+void addSystemExitFunction(ExitFuncF exitFunc); ///< called by osgExit, in reverse order
+void addPostMPExitFunction(ExitFuncF exitFunc); ///< called by osgExit, without threads
 
-/// Has osgInit load a shared object. A name without a slash is also searched for in the folders
-/// that the environment variable OSG_PLUGIN_PATH lists, separated by colons.
+/// Makes osgInit load a shared object. A name without a slash is also searched in the folders of
+/// the environment variable OSG_PLUGIN_PATH, which are separated by colons.
 void preloadSharedObject(const Char8 *szName);
 
-/// Starts the library: creates the calling thread's change list and makes the container types
-/// usable. Returns false as soon as one of the functions to run does; exits the process when the
-/// client was compiled for another major version. A second call does nothing and returns true.
-/// The arguments of the command line and the last three are ignored.
+/// Starts the library: creates the change list of the calling thread and initializes the container
+/// types. Returns false as soon as an added function returns false. Exits the process if the client
+/// was compiled for another major version. A second call does nothing and returns true. The
+/// arguments of the command line and the last three arguments are ignored.
 bool osgInit(Int32 argc, Char8 **argv, UInt16 major = OSG_MAJOR_VERSION,
     UInt16 minor = OSG_MINOR_VERSION, UInt16 release = OSG_RELEASE_VERSION, bool debug = false,
     bool dll = true, bool mt = true);
 
-/// Stops the library. It runs at the end of the process if nobody calls it; unless the library
-/// is running it does nothing and returns true.
+/// Stops the library. It is called at the end of the process if the client does not call it. If the
+/// library is not running, it does nothing and returns true.
 bool osgExit();
 
-/// A static object of this type is a call of addInitFunction.
+/// The constructor calls addInitFunction. For static objects.
 struct InitFuncWrapper
 {
     InitFuncWrapper(const InitFuncF initFunc) { addInitFunction(initFunc); }

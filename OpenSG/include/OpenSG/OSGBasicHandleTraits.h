@@ -5,9 +5,9 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// Traits of the five handles at the top of the tree: they have a text form, the address, which
-/// can only be written. In binary form a handle is the id of its container; one of another class
-/// reads as null.
+/// Traits of the five handles at the top of the class tree. Their text is the address; it is
+/// written but not read. Their binary form is the id of the container. The id of a container of
+/// another class is read as null.
 template <class PtrT> struct BasicHandleTraits : public FieldTraits
 {
     typedef const PtrT &ArgumentType;

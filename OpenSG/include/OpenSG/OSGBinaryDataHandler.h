@@ -7,8 +7,8 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// A growing block of bytes that fields are written to and, in the same order, read from.
-/// Numbers keep the byte order of the machine.
+/// A growing block of bytes. Fields are written to it and read from it in the same order. Numbers
+/// have the byte order of the machine.
 class BinaryDataHandler
 {
 public:

@@ -4,7 +4,7 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// How new colours mix with those drawn already, and the alpha test.
+/// Blending of new colours with the colours in the frame buffer, and the alpha test.
 class BlendChunk : public BlendChunkBase
 {
     typedef BlendChunkBase Inherited;

@@ -4,7 +4,7 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// An axis-aligned box; both corners are the origin unless given.
+/// An axis-aligned box. Both corners of a default box are the origin.
 class BoxVolume : public Volume
 {
 public:
@@ -21,12 +21,13 @@ public:
         Real32 &minX, Real32 &minY, Real32 &minZ, Real32 &maxX, Real32 &maxY, Real32 &maxZ) const;
     void getBounds(Pnt3f &minPoint, Pnt3f &maxPoint) const override;
 
-    /// The box is valid and not empty afterwards.
+    /// The box becomes valid and not empty.
     void setBounds(Real32 minX, Real32 minY, Real32 minZ, Real32 maxX, Real32 maxY, Real32 maxZ);
     void setBounds(const Pnt3f &minPoint, const Pnt3f &maxPoint);
-    /// Centered at the origin.
+    /// The center of the box is the origin.
     void setBounds(Real32 width, Real32 height, Real32 depth);
-    /// Six numbers; brackets and commas count as blanks, fewer numbers make it all 0.
+    /// Reads six numbers. Brackets and commas count as blanks. Fewer than six numbers make all of
+    /// them 0.
     void setValue(const Char8 *text);
 
     void getCenter(Pnt3f &center) const override;

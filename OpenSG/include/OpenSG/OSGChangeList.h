@@ -9,8 +9,8 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// What happened to containers on a thread since the list was last cleared. Entries are appended
-/// in order and never merged. A list is read-only unless told otherwise: it then stays empty.
+/// The changes of containers on a thread since the list was last cleared. Entries are in order and
+/// never merged. By default a list is read-only, which means that no entries are added.
 class ChangeList : public MemoryObject
 {
 public:
@@ -33,7 +33,7 @@ public:
     refd_const_iterator beginAddRefd() const { return _addRefd.begin(); }
     refd_const_iterator endAddRefd() const { return _addRefd.end(); }
 
-    /// Only references whose end the container survived.
+    /// Leaves out references with whose end the container was destroyed.
     refd_size_type sizeSubRefd() const { return _subRefd.size(); }
     refd_const_iterator beginSubRefd() const { return _subRefd.begin(); }
     refd_const_iterator endSubRefd() const { return _subRefd.end(); }
@@ -56,17 +56,18 @@ public:
 
     void clearAll();
     void swap(ChangeList &other);
-    /// Appends the entries of another list; false for a read-only list.
+    /// Appends the entries of another list. Returns false for a read-only list.
     bool merge(const ChangeList &other);
     bool empty() const;
 
     void setAspect(UInt32 aspect) { _aspect = aspect; }
     UInt32 getAspect() const { return _aspect; }
     void setReadOnly(bool readOnly) { _readOnly = readOnly; }
-    /// What lists made from now on are. Takes effect only before osgInit.
+    /// Sets whether new lists are read-only. Has no effect after osgInit.
     static void setReadWriteDefault(bool bReadWrite = true);
 
-    /// Brings the changes to the thread's aspect. There is one aspect, which has them already.
+    /// Applies the changes to the aspect of the thread. There is only one aspect, so nothing is
+    /// done.
     void apply() { }
     void applyAndClear() { clearAll(); }
     /// Writes the entries to the log.

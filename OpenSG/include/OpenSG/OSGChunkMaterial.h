@@ -4,21 +4,22 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// A material put together from state chunks, to each of which it holds a reference. The list of
-/// slots is only as long as it must be to hold the slots that were given.
+/// A material that consists of state chunks. It holds a reference to each. The list of slots ends
+/// with the last slot that was given.
 class ChunkMaterial : public ChunkMaterialBase
 {
     typedef ChunkMaterialBase Inherited;
 
 public:
-    /// Appends the chunk; announces no edit. Deliberate: null is
-    /// refused with false, so that whoever walks over the chunks need not expect it.
+    /// Appends the chunk. The caller has to begin and end the edit. Deliberate: null is refused and
+    /// the result is false, so that the list has no null handles.
     bool addChunk(StateChunkPtr chunk, Int32 slot = State::AutoSlotReplace);
-    /// Deliberate: true, and a warning, if the chunk was NOT found; false if it was removed.
+    /// Deliberate: returns true, with a warning, if the chunk was NOT found, and false if it was
+    /// removed.
     bool subChunk(StateChunkPtr chunk, Int32 slot = State::AutoSlotReplace);
-    /// Index of the chunk; -1 if it is not in the list.
+    /// Returns the index of the chunk, or -1 if it is not in the list.
     Int32 find(StateChunkPtr chunk) const;
-    /// The chunk of exactly this type in the slot; null if there is none.
+    /// Returns the chunk of exactly this type in the slot, or null if there is none.
     StateChunkPtr find(const FieldContainerType &type, Int32 slot = State::AutoSlotReplace) const;
     void clearChunks();
 

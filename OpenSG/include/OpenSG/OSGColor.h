@@ -9,15 +9,15 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// Conversions between colour spaces; hue 0 to 360, the rest 0 to 1.
+/// Conversions between colour spaces. The hue is 0 to 360, the other components are 0 to 1.
 namespace ColorSpace {
 void rgbToHsv(const Real32 rgb[3], Real32 &hue, Real32 &saturation, Real32 &value);
 void hsvToRgb(Real32 hue, Real32 saturation, Real32 value, Real32 rgb[3]);
 }
 
-/// What colours with and without alpha share. Every component is 0 unless given, alpha included.
-/// Real components are 0 to 1 but not clamped, byte components 0 to 255. Colours compare with
-/// the absolute tolerance Eps.
+/// Base of colours with and without alpha. All components of a default colour are 0, including
+/// alpha. Real components are 0 to 1 but not clamped. Byte components are 0 to 255. Comparisons
+/// have the absolute tolerance Eps.
 template <class Color, class T, UInt32 size> class ColorBase
 {
 public:
@@ -48,8 +48,8 @@ public:
     void setValuesHSV(Real32 hue, Real32 saturation, Real32 value);
     void convertToHSV(Real32 &hue, Real32 &saturation, Real32 &value) const;
 
-    /// The numbers of a text, separated by white space or commas; missing or unreadable ones are
-    /// 0. Bytes are read as reals and wrap.
+    /// Reads numbers that are separated by white space or commas. Missing and unreadable numbers
+    /// are 0. Bytes are read as reals and wrap.
     void setValue(const Char8 *text);
 
     bool equals(const ColorBase &other, T tolerance) const;
@@ -76,7 +76,7 @@ public:
 protected:
     ColorBase() = default;
 
-    /// The lowest component is the lowest byte.
+    /// The first component is the lowest byte.
     UInt32 packed() const;
     void unpack(UInt32 bytes);
 

@@ -4,8 +4,8 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// A transformation given by its components. The end of an edit of them computes the matrix and
-/// is followed by an edit of that; merely setting them does not touch it.
+/// A transformation given by its components. When an edit of a component ends, the matrix is
+/// computed and an edit of the matrix follows. Setters alone do not change the matrix.
 class ComponentTransform : public ComponentTransformBase
 {
     typedef ComponentTransformBase Inherited;

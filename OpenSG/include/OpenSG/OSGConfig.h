@@ -1,6 +1,6 @@
 #pragma once
 
-/// Namespace and version macros; every other header includes this one first.
+/// Namespace and version macros. All other headers include this one, directly or indirectly.
 
 namespace osg {
 }
@@ -18,7 +18,8 @@ namespace osg {
 
 #define OSG_NUM_ASPECTS 2
 
-// Everything is exported by default visibility; client classes still spell the decorations.
+// Client classes use these macros. They are empty, because the default visibility exports
+// everything.
 #define OSG_BASE_DLLMAPPING
 #define OSG_SYSTEMLIB_DLLMAPPING
 #define OSG_BASE_DLLTMPLMAPPING

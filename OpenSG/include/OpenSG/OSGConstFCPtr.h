@@ -4,7 +4,7 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// Handle to a container of any type that is only to be read.
+/// Handle to a container of any type, for reading only.
 class ConstFieldContainerPtr : public FieldContainerPtrBase
 {
 public:
@@ -34,8 +34,8 @@ protected:
     }
 };
 
-/// Handle to a container of the class FieldContainerTypeT that is only to be read; BasePtrTypeT is
-/// the handle of its parent class of the same kind. Every handle of the class converts to it.
+/// Handle to a container of the class FieldContainerTypeT, for reading only. BasePtrTypeT is the
+/// same kind of handle of its parent class. All handles of the class convert to it.
 template <class BasePtrTypeT, class FieldContainerTypeT> class ConstFCPtr : public BasePtrTypeT
 {
 public:
@@ -44,7 +44,7 @@ public:
     typedef BasePtrTypeT Inherited;
     typedef ConstFCPtr Self;
 
-    /// Null for a null handle and for a container of another class.
+    /// Returns null for a null handle and for a container of another class.
     template <class InTypeT> static ConstFCPtr dcast(const InTypeT &oIn)
     {
         return ConstFCPtr(dynamic_cast<const FieldContainerTypeT *>(oIn.getBaseCPtr()));

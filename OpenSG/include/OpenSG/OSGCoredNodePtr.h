@@ -5,17 +5,17 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// A referenced node together with its core of a known type.
+/// A handle to a node whose core has a known type. It holds a reference to the node.
 template <class Core> class CoredNodePtr
 {
 public:
     typedef typename Core::Ptr CorePtr;
 
-    /// A new node with a new core; null before osgInit.
+    /// Creates a node with a new core. Returns null before osgInit.
     static CoredNodePtr create() { return CoredNodePtr(makeNodeFor(Core::create())); }
 
     CoredNodePtr() = default;
-    /// Null unless the node has a core of the type.
+    /// The handle is null if the core of the node has another type.
     explicit CoredNodePtr(const NodePtr &node) { *this = node; }
 
     CoredNodePtr &operator=(const NodePtr &node)

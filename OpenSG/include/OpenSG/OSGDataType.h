@@ -4,7 +4,7 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// Type of what a field holds, or of a container.
+/// Type of the values of a field, or of a container.
 class DataType : public TypeBase
 {
 public:

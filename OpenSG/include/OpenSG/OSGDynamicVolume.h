@@ -7,7 +7,7 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// A box or a sphere, as one chooses at run time.
+/// A box or a sphere, chosen at run time.
 class DynamicVolume : public Volume
 {
 public:
@@ -18,21 +18,21 @@ public:
     using Volume::extendBy;
     using Volume::intersect;
 
-    /// The box or sphere within. After modifying it call instanceChanged.
+    /// Returns the box or sphere. Call instanceChanged after you modify it.
     Volume &getInstance();
     const Volume &getInstance() const;
-    /// Takes over the state of the instance.
+    /// Copies the state of the instance.
     void instanceChanged();
 
     Type getType() const { return static_cast<Type>(_instance.index()); }
-    /// Becomes an empty volume of that type.
+    /// The volume becomes an empty one of this type.
     void setVolumeType(Type type);
-    /// Becomes a volume of that type that contains the present one.
+    /// The volume becomes one of this type that contains the present one.
     void morphToType(Type type);
 
     void setState(UInt16 state) override;
-    /// Six numbers make a box, exactly four a sphere, anything else a box of zeros; brackets and
-    /// commas count as blanks. The volume is valid and not empty afterwards.
+    /// Reads a box from six numbers and a sphere from exactly four. Anything else gives a box of
+    /// zeros. Brackets and commas count as blanks. The volume becomes valid and not empty.
     void setValue(const Char8 *text);
 
     void getCenter(Pnt3f &center) const override { getInstance().getCenter(center); }
@@ -44,8 +44,8 @@ public:
     void transform(const Matrix &matrix) override;
     void dump() const override { getInstance().dump(); }
 
-    /// Never equal, not even to itself: whoever asks whether a volume is unchanged is told to
-    /// look again.
+    /// Always false, even for the same volume. Callers that compare volumes to find changes always
+    /// see a change.
     bool operator==(const DynamicVolume &) const { return false; }
     bool operator!=(const DynamicVolume &) const { return true; }
 

@@ -4,8 +4,8 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// Handle to a container of the class FieldContainerTypeT; BasePtrTypeT is the handle of its
-/// parent class. It converts to every base handle; the other direction is dcast.
+/// Handle to a container of the class FieldContainerTypeT. BasePtrTypeT is the handle of its parent
+/// class. A handle converts to all its base handles. Use dcast for the other direction.
 template <class BasePtrTypeT, class FieldContainerTypeT> class FCPtr : public BasePtrTypeT
 {
 public:
@@ -14,7 +14,7 @@ public:
     typedef BasePtrTypeT Inherited;
     typedef FCPtr Self;
 
-    /// Null for a null handle and for a container of another class.
+    /// Returns null for a null handle and for a container of another class.
     template <class InTypeT> static FCPtr dcast(const InTypeT &oIn)
     {
         return FCPtr(dynamic_cast<FieldContainerTypeT *>(oIn.getBaseCPtr()));
@@ -49,7 +49,7 @@ std::ostream &operator<<(std::ostream &os, const FCPtr<BasePtrTypeT, FieldContai
     return HandleText::write(os, "FCPtr", handle);
 }
 
-/// Free spelling of XPtr::dcast.
+/// The same as PtrT::dcast.
 template <class PtrT, class InTypeT> PtrT dynamic_fcptr_cast(const InTypeT &handle)
 {
     return PtrT::dcast(handle);
@@ -75,8 +75,8 @@ template <class PtrT> void subRef(const PtrT &handle)
     subRefCP(handle);
 }
 
-/// Deliberate: OpenSG 1.8 drops a reference here, and clients that have come to terms with it
-/// behave the same with this library.
+/// Deliberate: this function of OpenSG 1.8 drops a reference. Clients that expect this behave the
+/// same with this library.
 template <class PtrT>
 [[deprecated("drops a reference, as in OpenSG 1.8; use addRefCP")]] void addRef(const PtrT &handle)
 {

@@ -4,8 +4,8 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// Widens silhouettes by moving vertices outwards, away from the viewer's line of sight; its
-/// vertex program is there from the start.
+/// Widens silhouettes by moving vertices outwards, away from the line of sight. A new chunk has its
+/// vertex program already.
 class FatBorderChunk : public FatBorderChunkBase
 {
     typedef FatBorderChunkBase Inherited;

@@ -11,7 +11,7 @@ class FieldContainerPtr;
 class FieldContainerType;
 class StringConversionStateBase;
 
-/// A value, or a list of them, that can be read and written without knowing its C++ type.
+/// A value or a list of values. Callers can read and write it without knowing its C++ type.
 class Field
 {
 public:
@@ -21,22 +21,23 @@ public:
     const DataType &getContentType() const { return getType().getContentType(); }
     FieldType::Cardinality getCardinality() const { return getType().getCardinality(); }
 
-    /// A single field is never empty and has size 1.
+    /// A single field is never empty. Its size is 1.
     virtual bool isEmpty() const = 0;
     virtual UInt32 getSize() const = 0;
 
-    /// Replaces the value of a single field, appends one value to a multi-field. A text that
-    /// does not parse is not reported: the type's reader decides what becomes of it.
+    /// Replaces the value of a single field. Appends a value to a multi-field. An invalid text is
+    /// not reported; the result depends on the type.
     virtual void pushValueByStr(const Char8 *str) = 0;
 
-    /// All return `str`. A single field replaces it, a multi-field appends; the form with a
-    /// conversion state always appends. A value without text form adds nothing.
+    /// Writes the text to `str` and returns `str`. Single fields replace `str`, multi-fields append
+    /// to it. The overload with a conversion state always appends. Values without a text form add
+    /// nothing.
     virtual std::string &getValueByStr(std::string &str) const = 0;
     virtual std::string &getValueByStr(
         std::string &str, StringConversionStateBase &state) const = 0;
     virtual std::string &getValueByStr(std::string &str, UInt32 index) const = 0;
 
-    /// Copies `obj` if it is of the very same field type, else does nothing.
+    /// Copies `obj` if it has exactly the same field type. Otherwise does nothing.
     virtual void setAbstrValue(const Field &obj) = 0;
     virtual void dump() const = 0;
 

@@ -11,9 +11,9 @@ OSG_BEGIN_NAMESPACE
 class BinaryDataHandler;
 class Field;
 
-/// Base of everything that consists of described fields and lives in the container store: nodes,
-/// cores, attachments, materials, images. Containers are made by their class's create(), held
-/// by handles and destroyed with their last reference; there is no other way to own one.
+/// Base of all classes with described fields: nodes, cores, attachments, materials, images. The
+/// create() of a class makes a container. Handles refer to it. It is destroyed with its last
+/// reference; nobody owns it in another way.
 class FieldContainer
 {
 public:
@@ -26,7 +26,7 @@ public:
 
     static FieldContainerType &getClassType();
     static UInt32 getClassTypeId();
-    /// Not redefined by derived classes: always the group of FieldContainer itself.
+    /// Derived classes do not redefine this. The result is always the group of FieldContainer.
     static UInt16 getClassGroupId();
 
     virtual FieldContainerType &getType();
@@ -35,24 +35,25 @@ public:
     UInt16 getGroupId() const { return getType().getGroupId(); }
     const Char8 *getTypeName() const { return getType().getCName(); }
 
-    /// Size in bytes of the most derived class.
+    /// Returns the size of the most derived class in bytes.
     virtual UInt32 getContainerSize() const = 0;
 
-    /// The field with this id or name; NULL if there is none.
+    /// Returns the field with this id or name, or NULL if there is none.
     Field *getField(UInt32 fieldId);
     Field *getField(const Char8 *fieldName);
 
-    /// A new container with the same field values. Nodes and attachments that it points to are
-    /// shared.
+    /// Creates a container with the same field values. It shares the nodes and attachments that its
+    /// fields point to.
     virtual FieldContainerPtr shallowCopy() const = 0;
 
-    /// Called at the end of an edit: the place to bring derived data up to date.
+    /// Called at the end of an edit. Classes override it to update data that depends on fields.
     virtual void changed(BitVector whichField, UInt32 origin);
 
-    /// Binary form of the masked fields, in the order of their ids; the same mask has to be given
-    /// to write and to read it. A pointer is the id of its container, and null if that is none
-    /// of its class when it is read. Left out are attachments, and what nodes, cores and
-    /// attachments know of each other. Nothing follows what was read until the edit is ended.
+    /// Binary form of the masked fields, in the order of their ids. Readers must use the mask of
+    /// the writer. A pointer is written as the id of its container. It is read as null if that
+    /// container does not exist or has another class. Attachments, and the pointers between nodes,
+    /// cores and attachments, are not written. After reading, end the edit to update dependent
+    /// data.
     virtual UInt32 getBinSize(const BitVector &whichField);
     virtual void copyToBin(BinaryDataHandler &target, const BitVector &whichField);
     virtual void copyFromBin(BinaryDataHandler &source, const BitVector &whichField);
@@ -60,7 +61,7 @@ public:
     /// Writes type, id and the text of every field to the log.
     virtual void dump(UInt32 uiIndent = 0, const BitVector bvFlags = 0) const;
 
-    // Containers carry their reference count and id in a header in front of the object.
+    // A header in front of the object holds its reference count and id.
     static void *operator new(std::size_t size);
     static void operator delete(void *container);
 
@@ -70,26 +71,29 @@ protected:
     virtual ~FieldContainer() = default;
     FieldContainer &operator=(const FieldContainer &) = delete;
 
-    /// Makes a container and enters it in the store; a copy if there is a prototype.
+    /// Creates a container and enters it in the store. It is a copy of `prototypeP` if that is
+    /// given.
     template <class PtrT>
     static void newPtr(PtrT &result, const typename PtrT::StoredObjectType *prototypeP);
     template <class PtrT> static void newPtr(PtrT &result);
 
-    /// The usual body of create(): a copy of the type's prototype, null if it has none.
+    /// The usual body of create(). Returns a copy of the type's prototype, or null if there is
+    /// none.
     template <class PtrT> static PtrT copyPrototype(const FieldContainerType &type);
 
-    /// Called once for every new container, after it has its id. A class hides it with its own.
+    /// Called once for every new container, when it has its id. Derived classes hide it with their
+    /// own function.
     void onCreate(const FieldContainer * = nullptr) { }
     void onCreateAspect(const FieldContainer *, const FieldContainer * = nullptr) { }
-    /// Called when the last reference has gone, before the destructors.
+    /// Called after the last reference was dropped, before the destructors.
     virtual void onDestroy() { }
 
     typedef std::function<void(const FieldContainerPtr &)> HeldFunction;
-    /// Calls `function` once for every reference that it holds to another container. References of
-    /// classes that do not tell of them are taken for somebody else's.
+    /// Calls `function` once for every reference that this container holds to another one. Classes
+    /// should override it if they hold references. Otherwise these count as references of clients.
     virtual void forEachHeld(const HeldFunction &) const { }
 
-    /// Takes over the masked fields of another container of the same type.
+    /// Copies the masked fields of another container of the same type.
     virtual void executeSync(FieldContainer &other, const BitVector &whichField);
     void executeSyncImpl(FieldContainer *pOther, const BitVector &whichField);
 
@@ -105,7 +109,7 @@ private:
     static void enterInStore(const FieldContainerPtr &container);
     void destroy();
     void destroyNow();
-    /// The fields whose containers know this one in return: only methods may set them.
+    /// The fields whose targets have a pointer back to this container. Only methods may set them.
     virtual BitVector getMutualFields() const { return FieldBits::NoField; }
 
     static FieldContainerType _type;

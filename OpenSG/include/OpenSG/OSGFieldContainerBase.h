@@ -4,7 +4,7 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// Masks that name fields: bit n stands for the field with the id n. Ids start at 1.
+/// Masks of fields. Bit n is the field with the id n. Ids start at 1.
 namespace FieldBits {
 constexpr BitVector AllFields = 0xffffffffffffffff;
 constexpr BitVector NoField = 0;
@@ -42,12 +42,12 @@ constexpr BitVector Field30 = BitVector(1) << 30;
 constexpr BitVector Field31 = BitVector(1) << 31;
 }
 
-/// Who caused a change; the second argument of FieldContainer::changed().
+/// The origin of a change, the second argument of FieldContainer::changed().
 namespace ChangedOrigin {
 constexpr UInt32 External = 0x0001;
 constexpr UInt32 Sync = 0x0002;
 constexpr UInt32 Child = 0x0004;
-/// The field was filled without its setter, by a scene file for example.
+/// The field was changed without its setter, by a scene file for example.
 constexpr UInt32 Abstract = 0x0008;
 constexpr UInt32 AbstrIgnoreCore = 0x0100;
 constexpr UInt32 AbstrIgnoreChild = 0x0200;

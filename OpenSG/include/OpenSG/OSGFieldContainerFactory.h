@@ -9,7 +9,7 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// Translates container ids, when several processes share one scene.
+/// Translates container ids if several processes share a scene.
 class FieldContainerMapper
 {
 public:
@@ -17,7 +17,7 @@ public:
     virtual UInt32 map(UInt32 uiId) const = 0;
 };
 
-/// Knows all container types, their groups and every living container.
+/// Knows all container types, their groups and all existing containers.
 class FieldContainerFactory
 {
 protected:
@@ -29,41 +29,44 @@ public:
 
     static FieldContainerFactory *the();
 
-    /// Initialised types only; exact names. NULL if there is none.
+    /// Finds initialized types only. Names must match exactly. Returns NULL if there is none.
     FieldContainerType *findType(UInt32 uiTypeId) const;
     FieldContainerType *findType(const Char8 *szName) const;
     UInt32 getNumTypes() const { return static_cast<UInt32>(_types.size()); }
     TypeMapIterator beginTypes() { return _types.begin(); }
     TypeMapIterator endTypes() { return _types.end(); }
 
-    /// Types that osgInit has not seen, since they came with a library loaded after it.
+    /// Finds a type that is not initialized, because its library was loaded after osgInit.
     FieldContainerType *findUninitializedType(const Char8 *szName) const;
-    /// Makes them known. False, and a warning each, if types lack their parent.
+    /// Initializes these types. If a type lacks its parent, writes a warning and returns false.
     bool initializePendingTypes();
 
-    /// Groups are numbered from 1 by first appearance; 0 and NULL stand for unknown ones.
+    /// Groups are numbered from 1, in the order of their first type. Unknown groups give 0 and
+    /// NULL.
     UInt16 findGroupId(const Char8 *szName) const;
     const Char8 *findGroupName(UInt16 uiGroupId) const;
     UInt16 getNumGroups() const { return static_cast<UInt16>(_groups.size()); }
 
     void setMapper(FieldContainerMapper *pMapper) { _mapper = pMapper; }
 
-    /// Ids start at 1 and never recur. Null past the last id and for destroyed containers.
+    /// Ids start at 1 and are never used again. Returns null for unknown ids and destroyed
+    /// containers.
     FieldContainerPtr getContainer(UInt32 uiFieldContainerId) const;
     FieldContainerPtr getMappedContainer(UInt32 uiFieldContainerId) const;
 
-    /// A new container of the type; null for unknown and abstract types and for those of another
-    /// family.
+    /// Creates a container of the type. Returns null if the type is unknown or abstract, or if it
+    /// is not a node, core or attachment as the function's name says.
     FieldContainerPtr createFieldContainer(const Char8 *name) const;
     NodePtr createNode(const Char8 *name) const;
     NodeCorePtr createNodeCore(const Char8 *name) const;
     AttachmentPtr createAttachment(const Char8 *name) const;
 
-    /// Writes the type of this name, or all types, with the fields of each in the form that
-    /// generate_containers.py reads, without defaults; to standard output if there is no `out`.
+    /// Writes the type of this name, or all types for NULL, with their fields. The form is that of
+    /// .fcd files (generate_containers.py), without defaults. Writes to standard output if `out` is
+    /// NULL.
     void writeFCD(const Char8 *name = nullptr, std::ostream *out = nullptr);
 
-    /// All containers by id; NULL before the first one exists.
+    /// Returns all containers by id, or NULL before the first container is created.
     const FieldContainerStore *getFieldContainerStore() const;
 
 private:

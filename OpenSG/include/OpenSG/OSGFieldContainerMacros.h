@@ -1,10 +1,10 @@
 #pragma once
 
-/// Short forms for container classes that are written by hand. In the class:
+/// Macros for container classes that are written by hand. In the class:
 ///   OSG_FC_FIRST_FIELD_IDM_DECL(AField)  OSG_FC_FIELD_IDM_DECL(BField, AField)
 ///   OSG_FC_LAST_FIELD_IDM_DECL(BField)   OSG_FIELD_CONTAINER_DECL(XPtr)
-/// and behind it the same names with _DEF, led by the class. OSG_FC_FIELD_IDM_DESC(AField) is
-/// the id and the mask of a field as FieldDescription takes them.
+/// After the class, use the macros with _DEF instead of _DECL and the class as first argument.
+/// OSG_FC_FIELD_IDM_DESC(AField) gives the id and the mask of a field for FieldDescription.
 
 #define OSG_FC_FIRST_FIELD_IDM_DECL(FIELD)                                                         \
     enum { FIELD##Id = Inherited::NextFieldId };                                                   \

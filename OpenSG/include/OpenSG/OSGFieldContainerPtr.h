@@ -29,8 +29,8 @@ public:
     void operator=(const NullFieldContainerPtr &null) { Inherited::operator=(null); }
     void operator=(const FieldContainerPtr &other) { Inherited::operator=(other); }
 
-    /// The global ignore-change switch: while it is set, endEditCP and changedCP do not call
-    /// changed(). Change lists are filled all the same.
+    /// The global ignore-change switch. While it is set, endEditCP and changedCP do not call
+    /// changed(). Change lists still get their entries.
     static void setIgnoreChanged(bool ignore);
     static bool isIgnoreChanged();
 
@@ -56,7 +56,7 @@ protected:
     void endEditNotChanged(BitVector whichField, UInt32 origin) const;
 };
 
-/// Type of NullFC, the one null object that every handle converts from and compares with.
+/// Type of NullFC. All handles convert from NullFC and compare with it.
 class NullFieldContainerPtr : public FieldContainerPtr
 {
 public:
@@ -68,9 +68,8 @@ public:
 extern const NullFieldContainerPtr NullFC;
 #define OSGNullFC osg::NullFC
 
-/// Brackets of an edit. Nothing happens at the beginning; the end enters the change in the
-/// thread's change list and then lets the container follow it (FieldContainer::changed). Null
-/// handles are ignored.
+/// The begin and the end of an edit. The begin does nothing. The end adds the change to the change
+/// list of the thread and then calls FieldContainer::changed. Null handles are ignored.
 inline void beginEditCP(const FieldContainerPtr &handle,
     BitVector whichField = FieldBits::AllFields, UInt32 origin = ChangedOrigin::External)
 {
@@ -83,21 +82,21 @@ inline void endEditCP(const FieldContainerPtr &handle, BitVector whichField = Fi
     handle.endEdit(whichField, origin);
 }
 
-/// Only lets the container follow.
+/// Only calls FieldContainer::changed.
 inline void changedCP(const FieldContainerPtr &handle, BitVector whichField = FieldBits::AllFields,
     UInt32 origin = ChangedOrigin::External)
 {
     handle.changed(whichField, origin);
 }
 
-/// Only enters the change in the change list.
+/// Only adds the change to the change list.
 inline void endEditNotChangedCP(const FieldContainerPtr &handle,
     BitVector whichField = FieldBits::AllFields, UInt32 origin = ChangedOrigin::External)
 {
     handle.endEditNotChanged(whichField, origin);
 }
 
-/// Keeps an edit open for the life of a scope.
+/// An edit for the life of a scope.
 class CPEditor
 {
 public:
@@ -127,12 +126,12 @@ std::ostream &operator<<(std::ostream &os, const FieldContainerPtr &handle);
 namespace HandleText {
 
 std::ostream &write(std::ostream &os, const Char8 *kind, const FieldContainerPtrBase &handle);
-/// The container's address as printf's %p has it.
+/// Returns the address of the container, in the form of %p in printf.
 std::string address(const FieldContainerPtrBase &handle);
-/// Whether handles of a content type may refer to containers of a type: the content type is called
-/// after a container type, with "Ptr" behind it.
+/// Returns whether handles of a content type may refer to containers of a type. The name of the
+/// content type is that of a container type with "Ptr" appended.
 bool leadsTo(const DataType &handle, const FieldContainerType &target);
-/// The container with this id; null if handles of the content type may not refer to it.
+/// Returns the container with this id, or null if handles of the content type may not refer to it.
 FieldContainerPtr containerOf(UInt32 id, const DataType &handle);
 
 } // namespace HandleText

@@ -7,9 +7,9 @@ OSG_BEGIN_NAMESPACE
 class FieldContainer;
 class NullFieldContainerPtr;
 
-/// What all handles share. A handle is a small value: the address of a container and a position
-/// that the container's parent may note in it. Copying a handle never touches the reference
-/// count; addRefCP and subRefCP do.
+/// Base of all handles. A handle holds the address of a container, and a position in a field of its
+/// parent that clients may set. Copies of a handle do not change the reference count; addRefCP and
+/// subRefCP do.
 class FieldContainerPtrBase
 {
     typedef FieldContainer *(FieldContainerPtrBase::*unspecified_bool_type)() const;
@@ -30,7 +30,7 @@ public:
     UInt16 getContainerSize() const;
 
     FieldContainer *getBaseCPtr() const { return _container; }
-    /// There is one aspect, so every number gives the container itself.
+    /// There is only one aspect, so the result is the same for every number.
     FieldContainer *getAspectCPtr(UInt32) const { return _container; }
 
     void operator=(const NullFieldContainerPtr &) { _container = nullptr; }
@@ -74,17 +74,17 @@ private:
     friend void addRefCP(const FieldContainerPtrBase &handle);
     friend void subRefCP(const FieldContainerPtrBase &handle);
 
-    // Mutable, since subRefCP nulls the handle with which the last reference goes.
+    // Mutable, because subRefCP sets the handle to null with the last reference.
     mutable FieldContainer *_container = nullptr;
     UInt16 _parentFieldPos = InvalidParentEPos;
 };
 
 /// Adds a reference. A new container has none. Null handles are ignored here and below.
 void addRefCP(const FieldContainerPtrBase &handle);
-/// Drops a reference and destroys the container if none is left, also when it never had one;
-/// `handle` is null afterwards, other handles to the container dangle.
+/// Drops a reference. Destroys the container if no reference is left, even if it never had one.
+/// Then `handle` becomes null and other handles to the container dangle.
 void subRefCP(const FieldContainerPtrBase &handle);
-/// Moves a counted handle to another container.
+/// Assigns another container to a handle that holds a reference.
 void setRefdCP(FieldContainerPtrBase &handle, const FieldContainerPtrBase &newHandle);
 /// Drops a reference and sets the handle to null.
 void clearRefCP(FieldContainerPtrBase &handle);

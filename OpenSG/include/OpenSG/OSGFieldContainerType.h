@@ -13,37 +13,39 @@ OSG_BEGIN_NAMESPACE
 typedef void (*InitContainerF)();
 typedef FieldContainerPtr (*PrototypeCreateF)();
 
-/// Type of a container class: a static object of the class. Its construction only announces the
-/// type. osgInit, or FieldContainerFactory::initializePendingTypes for types that a library
-/// loaded later brings, resolves the parent's name, inherits its descriptions and makes the
-/// prototype that new containers are copies of.
+/// Type of a container class, a static object of the class. Its constructor only registers it.
+/// osgInit initializes all types: it finds the parent by name, inherits its descriptions and
+/// creates the prototype, from which new containers are copied.
+/// FieldContainerFactory::initializePendingTypes does the same for types of a library that is
+/// loaded later.
 class FieldContainerType : public DataType
 {
 public:
-    /// Without a group name the type is a group of its own; without a prototype creator it is
-    /// abstract. `pDesc` points to `uiDescByteCounter` bytes of description pointers, which the
-    /// type takes over.
+    /// Without a group name the type has its own group. Without a prototype creator it is abstract.
+    /// `pDesc` points to `uiDescByteCounter` bytes of description pointers. The type owns these
+    /// descriptions.
     FieldContainerType(const Char8 *szName, const Char8 *szParentName = nullptr,
         const Char8 *szGroupName = nullptr, PrototypeCreateF fPrototypeCreate = nullptr,
         InitContainerF fInitMethod = nullptr, FieldDescription **pDesc = nullptr,
         UInt32 uiDescByteCounter = 0, bool bDescsAddable = false);
     ~FieldContainerType() override;
 
-    /// Attachments are keyed by group: all types of one group exclude each other at a container.
+    /// A container has only one attachment of each group.
     UInt16 getGroupId() const { return _groupId; }
     FieldContainerType *getParent() const { return _parent; }
 
-    /// Field ids run from 1 to getNumFieldDescs(), inherited fields first; NULL for others.
+    /// Field ids are 1 to getNumFieldDescs(), inherited fields first. Returns NULL for other ids.
     FieldDescription *getFieldDescription(UInt32 uiFieldId);
     const FieldDescription *getFieldDescription(UInt32 uiFieldId) const;
     FieldDescription *findFieldDescription(const Char8 *szFieldName);
     const FieldDescription *findFieldDescription(const Char8 *szFieldName) const;
     UInt32 getNumFieldDescs() const { return static_cast<UInt32>(_descriptions.size()); }
 
-    /// Only for types made with `bDescsAddable`. The id of the new field; 0 if refused, as it is
-    /// for a name that is taken and when the mask has no bit left.
+    /// Returns the id of the new field. Returns 0 if the type was constructed without
+    /// `bDescsAddable`, if the name exists already or if the mask has no free bit.
     UInt32 addDescription(const FieldDescription &description);
-    /// Of those that were added the last can go; the ids of others must not change.
+    /// Removes the last description that was added. Others cannot be removed, because ids would
+    /// change.
     bool subDescription(UInt32 uiFieldId);
 
     FieldContainerPtr getPrototype() const { return _prototype; }
@@ -52,7 +54,7 @@ public:
 
     bool isInitialized() const { return _initialized; }
     bool isAbstract() const { return !_prototype; }
-    /// Always false: a derivation shows only between container types.
+    /// Always false. Only the overload for container types knows derivations.
     bool isDerivedFrom(const TypeBase &other) const override;
     bool isDerivedFrom(const FieldContainerType &other) const;
 
@@ -60,7 +62,8 @@ public:
     bool isNodeCore() const { return _family == Family::NodeCore; }
     bool isAttachment() const { return _family == Family::Attachment; }
 
-    /// A copy of the prototype; null for an abstract type and for one of another family.
+    /// Creates a copy of the prototype. Returns null if the type is abstract or is not a node, core
+    /// or attachment as the function's name says.
     FieldContainerPtr createFieldContainer() const;
     NodePtr createNode() const;
     NodeCorePtr createNodeCore() const;

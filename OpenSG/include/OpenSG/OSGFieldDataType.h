@@ -8,20 +8,20 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// A type can be stored in fields when one of these three is specialised for it. The second and
-/// third serve types that are the same C++ type as another (Time and Real64). A specialisation
-/// derives from one of the bases below and provides
+/// Fields can store a type if one of these three templates is specialized for it. The second and
+/// third are for types that are the same C++ type as another one (Time and Real64). A
+/// specialization derives from one of the bases below and has these members:
 ///   static DataType _type;  static DataType &getType();   the content type, defined once
-///   enum { StringConvertable = ... };                      which of the two text forms exist
+///   enum { StringConvertable = ... };                      the existing directions of conversion
 ///   static const Char8 *getSName(), *getMName();           names of the two field types
 ///   static bool getFromString(T &outVal, const Char8 *&inVal);
-///   static void putToString(const T &inVal, std::string &outStr);   assigns, never appends
+///   static void putToString(const T &inVal, std::string &outStr);   assigns, does not append
 ///   static T getDefault();
 template <class T> struct FieldDataTraits;
 template <class T> struct FieldDataTraits1;
 template <class T> struct FieldDataTraits2;
 
-/// Finds the traits of the type T in the name space ns.
+/// Selects the traits of the type T. `ns` is the number of the template above, from 0.
 template <class T, Int32 ns> struct FieldTraitsSelector;
 template <class T> struct FieldTraitsSelector<T, 0>
 {
@@ -44,7 +44,7 @@ struct FieldTraits
     static const Char8 *getPName() { return "Field"; }
 };
 
-/// The binary form of several objects, one after the other, by the form of one.
+/// Defines the binary form of several objects as the forms of the objects in sequence.
 template <class T, class OneObject> struct FieldTraitsList : FieldTraits
 {
     static UInt32 getBinSize(const T *objects, UInt32 count)
@@ -69,7 +69,7 @@ template <class T, class OneObject> struct FieldTraitsList : FieldTraits
     }
 };
 
-/// Base of a type whose binary form is its text, closed by a zero byte.
+/// Base for a type whose binary form is its text and a zero byte.
 template <class T> struct FieldTraitsRecurseBase : FieldTraitsList<T, FieldTraitsRecurseBase<T>>
 {
     typedef const T &ArgumentType;
@@ -107,7 +107,7 @@ private:
     }
 };
 
-/// Base of a plain number: its bytes are its binary form and it is passed by value.
+/// Base for a plain number. Its binary form is its bytes. It is passed by value.
 template <class T> struct FieldTraitsIntegralRecurseMapper : FieldTraits
 {
     static_assert(std::is_trivially_copyable_v<T>);
@@ -134,9 +134,8 @@ template <class T> struct FieldTraitsIntegralRecurseMapper : FieldTraits
 class FieldContainerPtr;
 class FieldContainerPtrBase;
 
-/// Base of a type whose binary form is that of its `T::Inherited`; handles of all classes are
-/// written as FieldContainerPtr is. Without `forwards` the binary form is empty, and reading it
-/// changes nothing.
+/// Base for a type with the binary form of `T::Inherited`. Handles of all classes have the form of
+/// FieldContainerPtr. If `forwards` is false, the binary form is empty and reading changes nothing.
 template <class T, bool forwards = false> struct FieldTraitsRecurseMapper : FieldTraits
 {
     typedef const T &ArgumentType;
@@ -175,6 +174,7 @@ struct FieldTraitsRecurseMapper<T, true> : FieldTraitsList<T, FieldTraitsRecurse
 
 OSG_END_NAMESPACE
 
-// Client headers announce their field types with these; nothing needs announcing here.
+// Headers of clients declare their field types with these macros. This library needs no
+// declaration.
 #define OSG_DLLEXPORT_DECL1(FieldTemplate, Type, mapping)
 #define OSG_DLLEXPORT_DECL2(FieldTemplate, Type, nameSpace, mapping)

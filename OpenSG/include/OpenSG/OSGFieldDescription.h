@@ -12,12 +12,12 @@ typedef Field *(FieldContainer::*FieldAccessMethod)();
 typedef Field *(FieldContainer::*FieldIndexAccessMethod)(UInt32);
 typedef Field *(*FieldAccessFunction)(FieldContainer &);
 
-/// One field of a container class: its name, id, type and how to reach it in a container.
+/// Describes a field of a container class: its name, id and type, and how to access it.
 class FieldDescription
 {
 public:
-    /// `elementType` is the described type; the field that is reached may be of another (ask
-    /// Field::getType). `defaultValue` is a remark for readers, not what a new container holds.
+    /// `elementType` is the described type. The field itself may have another type
+    /// (Field::getType). `defaultValue` is a remark for readers, not the value in a new container.
     FieldDescription(const TypeBase &elementType, const Char8 *szName, const UInt32 uiFieldId,
         const BitVector vFieldMask, const bool bInternal, FieldAccessMethod fAccessMethod,
         const Char8 *defaultValue = nullptr);
@@ -41,7 +41,7 @@ public:
     void setFieldId(UInt32 uiFieldId) { _fieldId = uiFieldId; }
 
     const Char8 *getDefaultValue() const { return _defaultValue.str(); }
-    /// Internal fields are left out of scene files.
+    /// Internal fields are not written to scene files.
     bool isInternal() const { return _internal; }
     bool isValid() const { return _name.getLength() > 0; }
 
@@ -52,7 +52,7 @@ protected:
     friend class FieldContainer;
     friend class FieldContainerPtr;
 
-    /// NULL, and a warning, for a description without an access method.
+    /// Returns NULL, with a warning, if the description has no access method.
     Field *getField(FieldContainer &dataStore) const;
 
 private:

@@ -4,14 +4,14 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// The field types among all types. A field type is known as soon as it is constructed.
+/// Finds field types and creates fields. A field type is known as soon as it is constructed.
 /// Unknown numbers and names give NULL.
 class FieldFactory
 {
 public:
     static FieldFactory &the();
 
-    /// A new field that the caller deletes.
+    /// Creates a field. The caller deletes it.
     Field *createField(UInt32 typeId);
     Field *createField(const Char8 *szName);
 

@@ -6,8 +6,8 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// What the field tables of container classes are written with. A table is an array of
-/// descriptions, one row for each field:
+/// Functions for the field tables of container classes. A table is an array of descriptions with a
+/// row for each field:
 ///     FieldDescription *LineChunk::_desc[] = { describe<&LineChunk::_sfWidth>("width", 4), ... };
 
 template <auto Member> struct MemberPointer;
@@ -21,8 +21,8 @@ template <class Class, class FieldT, FieldT Class::*Member> struct MemberPointer
     }
 };
 
-/// The description of a field that is a member of its class. `Described` is the type that the
-/// description tells, should that differ from the field's own.
+/// Creates the description of a field that is a member of its class. `Described` is the type in the
+/// description, if that differs from the type of the field.
 template <auto Member, class Described = typename MemberPointer<Member>::Type>
 FieldDescription *describe(
     const Char8 *name, UInt32 id, bool internal = false, const Char8 *remark = nullptr)
@@ -32,13 +32,13 @@ FieldDescription *describe(
         TypeTraits<BitVector>::One << id, internal, access, remark);
 }
 
-/// A createEmpty function as FieldContainerType wants it.
+/// Makes a prototype creator for FieldContainerType from a createEmpty function.
 template <auto CreateEmpty> FieldContainerPtr prototypeOf()
 {
     return CreateEmpty();
 }
 
-/// A multi-field with its first values.
+/// Makes a multi-field with these values.
 template <class MFieldT> MFieldT listOf(std::initializer_list<typename MFieldT::StoredType> values)
 {
     MFieldT result;

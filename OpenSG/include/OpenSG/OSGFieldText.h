@@ -8,7 +8,7 @@ class Field;
 class FieldContainerPtr;
 class StringConversionStateBase;
 
-/// What SField and MField have in common: one value to and from text, one value as a handle.
+/// Functions for the text of a value and for handles in fields, for SField and MField.
 namespace FieldText {
 
 /// Append the text of all values of a multi-field and return `out`.
@@ -23,7 +23,7 @@ constexpr bool isWritable = (Traits::StringConvertable & FieldTraits::ToStringCo
 template <class Traits>
 constexpr bool isReadable = (Traits::StringConvertable & FieldTraits::FromStringConvertable) != 0;
 
-/// Assigns the text to `out`; without a text form logs a line and leaves `out` alone.
+/// Assigns the text to `out`. Without a text form, writes a line to the log and leaves `out` alone.
 template <class Traits, class T> void write(const T &value, std::string &out)
 {
     if constexpr (isWritable<Traits>) {
@@ -33,7 +33,7 @@ template <class Traits, class T> void write(const T &value, std::string &out)
     }
 }
 
-/// NULL is like an empty text; without a text form logs a line.
+/// NULL counts as an empty text. Without a text form, writes a line to the log.
 template <class Traits, class T> void read(T &value, const Char8 *str)
 {
     if constexpr (isReadable<Traits>) {
@@ -53,14 +53,14 @@ template <class T> const FieldContainerPtr *asHandle(const T &value)
     }
 }
 
-// A template, since FieldContainerPtr is not defined here.
+// A template, because FieldContainerPtr is not defined here.
 template <class HandleT> void assign(HandleT &handle, const HandleT &other)
 {
     handle = other;
 }
 
-/// Lets `value`, if it is a handle, refer to the container, which the caller knows to be of its
-/// class. False if it is none. The class itself need not be complete here.
+/// If `value` is a handle, assigns the container and returns true. Otherwise returns false. The
+/// caller guarantees that the container has the right class, which may be incomplete here.
 template <class T> bool assignHandle(T &value, const FieldContainerPtr &container)
 {
     if constexpr (std::is_base_of_v<FieldContainerPtr, T>) {

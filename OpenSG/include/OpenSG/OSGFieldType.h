@@ -6,7 +6,7 @@ OSG_BEGIN_NAMESPACE
 
 class Field;
 
-/// Type of a field: what it holds, one or many of them, and how to make one.
+/// Type of a field: its content type, its cardinality and a function that creates a field.
 class FieldType : public DataType
 {
 public:
@@ -20,10 +20,10 @@ public:
 
     const DataType &getContentType() const { return _contentType; }
     Cardinality getCardinality() const { return _cardinality; }
-    /// The type whose text syntax the field follows: its own unless told otherwise.
+    /// The type whose text syntax the field has. By default it is this type.
     UInt32 getScanTypeId() const { return _scanAsType.getId(); }
 
-    /// A new field that the caller deletes; NULL if the type cannot be created.
+    /// Creates a field. The caller deletes it. Returns NULL if the type has no creator.
     Field *createField() const { return _createMethod ? _createMethod() : nullptr; }
 
 private:

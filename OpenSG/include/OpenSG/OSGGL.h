@@ -1,5 +1,5 @@
 #pragma once
 
-/// The one OpenGL type that fields need. Repeating the alias is well-formed, so this header and
-/// the system's GL header can be included together, while no client is forced to have the latter.
+/// The only OpenGL type that fields need. An alias may be repeated, so clients can include the GL
+/// header of the system too, but do not need it.
 typedef unsigned int GLenum;

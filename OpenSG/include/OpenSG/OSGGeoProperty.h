@@ -15,8 +15,8 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// A geometry property: an attachment with one field of values. DescT names its base, field type,
-/// type and field.
+/// A geometry property: an attachment with one field of values. DescT defines its base class, the
+/// type of the field and the names of type and field.
 template <class DescT> class GeoProperty : public DescT::Inherited
 {
     typedef typename DescT::Inherited Inherited;
@@ -52,7 +52,7 @@ public:
         return result;
     }
 
-    /// The values as they are stored.
+    /// The values in the stored type.
     StoredFieldType &getField() { return _field; }
     const StoredFieldType &getField() const { return _field; }
     StoredFieldType *getFieldPtr() { return &_field; }
@@ -103,7 +103,7 @@ FieldContainerType GeoProperty<DescT>::_type(DescT::getTypeName(), DescT::getGro
     DescT::getGroupName(), prototypeOf<&GeoProperty::createEmpty>, nullptr, fieldTable(),
     sizeof(FieldDescription *));
 
-/// The property types, one row each: DO(type, base and group, field type, name of the field).
+/// A row for each property type: DO(type, base class and group, field type, name of the field).
 #define OSG_GEO_PROPERTIES(DO)                                                                     \
     DO(GeoPositions2f, GeoPositions, MFPnt2f, "positions")                                         \
     DO(GeoPositions3f, GeoPositions, MFPnt3f, "positions")                                         \

@@ -7,9 +7,9 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// Converts between the values that a geometry property stores and its generic values: missing
-/// components are 0 (the fourth of a point 1), colours of bytes run from 0 to 255 for 0 to 1,
-/// normals of integers to the largest one for 1.
+/// Converts between the stored values of a geometry property and its generic values. Missing
+/// components are 0, but the fourth component of a point is 1. Byte colours have 255 for 1. Integer
+/// normals have the largest integer for 1.
 namespace GeoValue {
 
 template <class To, class From> To convert(const From &from);
@@ -29,7 +29,7 @@ template <class T> struct IsColor<Color4<T>> : std::true_type
 template <class T> constexpr bool isVector = false;
 template <class T, class S> constexpr bool isVector<VectorInterface<T, S>> = true;
 
-/// What a component of 1 is stored as.
+/// Returns the stored value of a component that is 1.
 template <class T, bool scaled> constexpr Real32 one()
 {
     if constexpr (scaled && std::is_integral_v<T>) {

@@ -7,10 +7,10 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// Points, lines and faces. `types` and `lengths` tell the primitives, the other properties the
-/// values of their vertices. Without indices the values are used one after the other. With
-/// indices each vertex takes one, good for all properties; or, with an index mapping, as many as
-/// the mapping has entries, each of which names by bits the properties that the index is for.
+/// Points, lines and faces. `types` and `lengths` define the primitives. The other properties hold
+/// the values of the vertices. Without indices the vertices use the values in sequence. With
+/// indices each vertex has one index for all properties. With an index mapping each vertex has an
+/// index for each entry of the mapping; the bits of an entry are the properties that use the index.
 ///
 /// A geometry holds references to its properties and is one of their parents.
 class Geometry : public GeometryBase
@@ -32,7 +32,7 @@ public:
     static constexpr UInt16 MapTexCoords7 = 2048;
     static constexpr UInt16 MapEmpty = 4096;
 
-    /// Position of the mapping's entry for a property; -1 if it has none.
+    /// Returns the position of the mapping entry for a property, or -1 if there is none.
     Int16 calcMappingIndex(UInt16 attrib) const;
 
     void setTypes(const GeoPTypesPtr &p) { put(TypesFieldId, _sfTypes, p); }

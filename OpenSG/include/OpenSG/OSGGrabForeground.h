@@ -4,8 +4,8 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// Copies what the viewport shows into an image. Unlike other foregrounds it is not active until
-/// it is told to be.
+/// Copies the picture of the viewport into an image. Unlike other foregrounds it is inactive by
+/// default.
 class GrabForeground : public GrabForegroundBase
 {
     typedef GrabForegroundBase Inherited;

@@ -8,8 +8,8 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// An operation on a tree: callbacks at each node, parameters as a text, and a list of nodes that
-/// the operation should leave alone, which it has to ask for itself.
+/// An operation on a tree: callbacks for each node, parameters as a text, and a list of nodes to
+/// leave alone. The derived class has to check this list.
 class GraphOp
 {
 public:
@@ -22,7 +22,7 @@ public:
     virtual void setParams(const std::string params) = 0;
     virtual std::string usage() = 0;
 
-    /// False if a callback ended the traversal. A null root is an empty tree.
+    /// Returns false if a callback ended the traversal. A null root counts as an empty tree.
     virtual bool traverse(NodePtr &root);
 
     const std::string &getName() const { return _name; }
@@ -36,18 +36,18 @@ public:
 
     bool isInExcludeListNodes(const NodePtr &node) const;
     bool isInExcludeListNames(const std::string &name) const;
-    /// Whether the node itself is listed, or its name.
+    /// Returns true if the node or its name is in the lists.
     bool isInExcludeList(const NodePtr &node) const;
 
 protected:
-    /// The words of a parameter text, `key=value flag key2=x`. Keys are not case-sensitive, a
-    /// flag is a key whose value is true.
+    /// The parameters in a text such as `key=value flag key2=x`. Keys are not case-sensitive. A
+    /// flag is a key with the value true.
     class ParamSet
     {
     public:
         explicit ParamSet(const std::string &params);
 
-        /// False, and `value` stays, if there is no such key.
+        /// Returns false and leaves `value` alone if there is no such key.
         bool operator()(const char *name, std::string &value);
         bool operator()(const char *name, Real32 &value);
         bool operator()(const char *name, UInt16 &value);
@@ -55,7 +55,7 @@ protected:
         bool operator()(const char *name, bool &value);
 
         void markUsed(const char *name);
-        /// The keys that nobody asked for, separated by blanks.
+        /// Returns the keys that were not used, separated by blanks.
         std::string getUnusedParams() const;
 
     private:
@@ -69,7 +69,7 @@ protected:
         std::map<std::string, Value> _values;
     };
 
-    /// An operation overrides one form of each. Only the first is called from outside.
+    /// Derived classes override one overload of each. Traversals call only the first overload.
     virtual Action::ResultE traverseEnter(NodePtr &node);
     virtual Action::ResultE traverseEnter(const NodePtr &node);
     virtual Action::ResultE traverseLeave(NodePtr &node, Action::ResultE res);

@@ -7,8 +7,8 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// Makes graph operations by name. Prototypes belong to whoever registers them and have to be
-/// unregistered before they go.
+/// Creates graph operations by name. The caller of registerOp owns the prototype and has to
+/// unregister it before its destruction.
 class GraphOpFactory
 {
     typedef std::map<std::string, GraphOp *> Prototypes;
@@ -18,15 +18,15 @@ public:
 
     static GraphOpFactory &the();
 
-    /// Under the prototype's name, in place of an earlier one of that name.
+    /// Registers the prototype under its name. It replaces an earlier one of the same name.
     void registerOp(GraphOp *prototype);
     void unRegisterOp(GraphOp *prototype);
     void unRegisterOp(const char *name);
 
-    /// A new operation that the caller deletes; NULL if the name is unknown.
+    /// Creates an operation. The caller deletes it. Returns NULL if the name is unknown.
     GraphOp *create(const char *name);
 
-    /// Pairs of name and prototype. Names that were asked for in vain have NULL.
+    /// Pairs of name and prototype. Unknown names that were passed to create() have NULL.
     iterator begin() const { return _prototypes.begin(); }
     iterator end() const { return _prototypes.end(); }
 

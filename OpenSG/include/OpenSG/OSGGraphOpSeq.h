@@ -7,16 +7,16 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// Graph operations that are applied one after the other.
+/// A sequence of graph operations.
 class GraphOpSeq
 {
 public:
-    /// Names of operations as GraphOpFactory knows them, each with its parameters in parentheses:
+    /// Takes names that GraphOpFactory knows, each with its parameters in parentheses:
     ///     SharePtr(includes=Material) Prune()
     explicit GraphOpSeq(const std::string &operations = std::string());
 
-    /// A step of an unknown name is reported in the log and left out. False if an operation ended
-    /// its traversal before its time; the steps behind it are then left out, too.
+    /// Applies the operations. Unknown names are reported in the log and skipped. If an operation
+    /// ends its traversal early, the remaining operations are skipped and the result is false.
     bool traverse(NodePtr &root);
 
 private:

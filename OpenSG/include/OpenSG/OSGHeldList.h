@@ -9,11 +9,11 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// One reference to each container of a multi-field of handles, which holds none itself.
+/// Holds a reference to each container in a multi-field of handles. The field itself holds none.
 template <class PtrT> class HeldList
 {
 public:
-    /// References what the field holds now and drops what it held before.
+    /// References the containers that are in the field now and drops the previous references.
     void follow(const MField<PtrT> &field)
     {
         const auto [kept, added]

@@ -6,8 +6,8 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// A C string that may be NULL: either a copy of its own (COPY) or a reference to memory that
-/// the caller keeps alive (LINK). Two strings compare as strcmp does; NULL counts as empty.
+/// A C string that may be NULL. It owns a copy (COPY) or refers to memory that the caller owns
+/// (LINK). Comparisons are those of strcmp. NULL counts as empty.
 class IDString
 {
 public:

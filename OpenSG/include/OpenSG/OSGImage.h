@@ -4,8 +4,8 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// Pixels in memory: rows from bottom to top, images behind each other in depth, mipmaps from
-/// large to small, then sides, then frames. Formats and data types are numbers of OpenGL.
+/// Pixels in memory. The order is: rows from bottom to top, depth, mipmaps from large to small,
+/// sides, frames. Formats and data types are OpenGL constants.
 class Image : public ImageBase
 {
     typedef ImageBase Inherited;
@@ -33,27 +33,27 @@ public:
         OSG_FLOAT16_IMAGEDATA = 5131
     };
 
-    /// Becomes an image of the given kind; announces no edit. The pixels are copied from `data`;
-    /// without data they are zeros, and without `allocMem` there are none. False, and nothing
-    /// changes, for an unknown format or type, for sizes and counts below 1, for more than 31
-    /// mipmaps and for more than 2^31 - 1 bytes.
+    /// Sets format, sizes and pixels. The caller has to begin and end the edit. The pixels are
+    /// copied from `data`. Without `data` they are zeros. Without `allocMem` there are no pixels.
+    /// Returns false and changes nothing for an unknown format or type, for sizes and counts below
+    /// 1, for more than 31 mipmaps and for more than 2^31 - 1 bytes.
     bool set(UInt32 pixelFormat, Int32 width, Int32 height = 1, Int32 depth = 1,
         Int32 mipmapCount = 1, Int32 frameCount = 1, Time frameDelay = 0.0,
         const UInt8 *data = nullptr, Int32 type = OSG_UINT8_IMAGEDATA, bool allocMem = true,
         Int32 sideCount = 1);
-    /// Reads or writes a binary PNM file (P5 or P6) of bytes, the only format that is known here;
-    /// no other image is written. False, and a warning, if that fails. Reading announces no edit.
+    /// Reads or writes a binary PNM file (P5 or P6) of bytes, the only known format. Returns false,
+    /// with a warning, if that fails. The caller of read() has to begin and end the edit.
     bool read(const Char8 *fileName);
     bool write(const Char8 *fileName);
 
-    /// The first byte of an image; NULL if there are no pixels.
+    /// Returns the first byte of an image, or NULL if there are no pixels.
     UInt8 *getData(UInt32 mipmap = 0, UInt32 frame = 0, UInt32 side = 0);
     bool isValid() const { return !_mfPixel.empty(); }
     bool hasAlphaChannel() const;
-    /// Bytes of all pixels.
+    /// Returns the size of all pixels in bytes.
     UInt32 getSize() const { return _mfPixel.size(); }
 
-    /// Bytes per component, pixel, side and frame follow from the other fields.
+    /// Computes the bytes per component, pixel, side and frame from the other fields.
     void changed(BitVector whichField, UInt32 origin) override;
 
 private:

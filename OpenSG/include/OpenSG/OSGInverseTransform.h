@@ -4,8 +4,8 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// Cancels all transformations above its node: the children are placed in the world. What it
-/// takes up is told for its first node.
+/// Cancels all transformations above its node, so that the children have world coordinates. Its
+/// volume is computed for the first of its nodes.
 class InverseTransform : public InverseTransformBase
 {
     typedef InverseTransformBase Inherited;

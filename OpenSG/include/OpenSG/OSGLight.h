@@ -4,8 +4,8 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// A light is a core: it lights the subtree of its node, and shines from the place of another
-/// node, its beacon. It holds no reference to the beacon.
+/// A core that lights the subtree of its node. Another node, the beacon, defines the position of
+/// the light. The light holds no reference to the beacon.
 class Light : public LightBase
 {
     typedef LightBase Inherited;

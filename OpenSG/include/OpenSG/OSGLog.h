@@ -15,13 +15,13 @@ enum LogLevel {
     LOG_DEBUG = 5
 };
 
-/// Parts of the header of a line.
+/// Parts of the header of a line in the log.
 enum LogHeaderElem { LOG_TYPE_HEADER = 0x01, LOG_FILE_HEADER = 0x02, LOG_LINE_HEADER = 0x04 };
 
-/// The log is a stream; text inserted directly appears without header whatever the level. The
-/// macros below print a line of a level, with or without header. The environment variables
-/// OSG_LOG_LEVEL, OSG_LOG_TYPE and OSG_LOG_HEADER (numbers) and OSG_LOG_FILE (a path) win over
-/// the setters unless these are called with `force`.
+/// The log is a stream. Text that is inserted directly has no header and no level. The macros below
+/// print a line of a level, with or without header. The environment variables OSG_LOG_LEVEL,
+/// OSG_LOG_TYPE and OSG_LOG_HEADER (numbers) and OSG_LOG_FILE (a path) override the setters unless
+/// `force` is true.
 class Log : public std::ostream
 {
 public:
@@ -35,15 +35,15 @@ public:
     void setHeaderElem(UInt32 mask, bool force = false);
     LogBuf &getLogBuf() { return _buffer; }
 
-    /// Whether lines of this level are printed.
+    /// Returns true if lines of this level are printed.
     bool checkLevel(LogLevel level) const { return level <= _level; }
 
-    /// The stream for a line of this level: this one, or one that swallows everything.
+    /// Returns the stream for a line of this level: the log, or a stream that prints nothing.
     std::ostream &stream(LogLevel level);
-    /// The same with the header printed already.
+    /// Prints the header and returns the same stream.
     std::ostream &startLine(LogLevel level, const Char8 *file, UInt32 line);
 
-    /// Prints in the manner of printf, regardless of the level.
+    /// Prints like printf, independent of the level.
     [[gnu::format(printf, 2, 3)]] void doLog(const Char8 *format, ...);
 
 private:

@@ -10,19 +10,19 @@ OSG_BEGIN_NAMESPACE
 
 enum LogType { LOG_NONE = 0, LOG_STDOUT = 1, LOG_STDERR = 2, LOG_FILE = 3, LOG_BUFFER = 4 };
 
-/// Where the log's characters go. Nothing is held back: text appears as it is written.
+/// The destination of the log. It is not buffered.
 class LogBuf : public std::streambuf
 {
 public:
-    /// `data` is not terminated by a zero.
+    /// `data` has no terminating zero.
     typedef void (*Callback)(const Char8 *data, Int32 size, void *clientData);
 
     void setType(LogType type) { _type = type; }
     /// Opens the file that LOG_FILE writes to; NULL closes it.
     void setFile(const Char8 *fileName);
 
-    /// The receiver of what is written under LOG_BUFFER. What came while there was none is
-    /// kept, and handed over now if `flushData`; without it that text is dropped.
+    /// Sets the receiver of the text for LOG_BUFFER. Earlier text without a receiver has been kept.
+    /// If `flushData` is true, the new receiver gets it; if false, it is dropped.
     void setCallback(Callback callback, void *clientData = nullptr, bool flushData = false);
 
 protected:

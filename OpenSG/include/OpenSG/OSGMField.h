@@ -69,7 +69,7 @@ void MField<FieldTypeT, fieldNameSpace>::setAbstrValue(const Field &obj)
     }
 }
 
-/// A text that does not parse still adds an element, the type's default.
+// An invalid text adds an element too, the default value of the type.
 template <class FieldTypeT, Int32 fieldNameSpace>
 void MField<FieldTypeT, fieldNameSpace>::pushValueByStr(const Char8 *str)
 {
@@ -108,8 +108,8 @@ void MField<FieldTypeT, fieldNameSpace>::copyToBin(BinaryDataHandler &target)
     }
 }
 
-/// The list ends with the bytes, whatever length they promise; elements that take up none are no
-/// more than the bytes that follow.
+// The list ends at the end of the bytes, even if its length is larger. Elements without bytes are
+// not more than the bytes that follow.
 template <class FieldTypeT, Int32 fieldNameSpace>
 void MField<FieldTypeT, fieldNameSpace>::copyFromBin(BinaryDataHandler &source)
 {

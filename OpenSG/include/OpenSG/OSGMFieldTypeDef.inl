@@ -2,8 +2,8 @@
 
 #include <OpenSG/OSGMField.h>
 
-/// Defines, and thereby registers, the field type of MField<Type, nameSpace>. Each type has to
-/// be defined in exactly one translation unit, inside namespace osg.
+/// Defines and registers the field type of MField<Type, nameSpace>. Use it in exactly one
+/// translation unit for each type, inside namespace osg.
 #define OSG_DLLEXPORT_MFIELD_DEF2(Type, nameSpace, mapping)                                        \
     template <>                                                                                    \
     FieldType MField<Type, nameSpace>::_fieldType(                                                 \

@@ -5,8 +5,8 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// How surfaces look. The end of any edit of a material brings its State up to date, which
-/// exists from the first such edit on: editing a material makes containers.
+/// The look of a surface. The end of an edit updates the State of the material. The first such edit
+/// creates the State, so edits of a material create containers.
 class Material : public MaterialBase
 {
     typedef MaterialBase Inherited;
@@ -17,12 +17,13 @@ public:
     static constexpr Int32 TransparencyForceTransparent = 1;
     static constexpr Int32 TransparencyForceOpaque = 2;
 
-    /// A new State for the caller.
+    /// Creates a State. It belongs to the caller.
     virtual StatePtr makeState();
     virtual void rebuildState();
-    /// The material's own State of the pass `index`, made if need be.
+    /// Returns the material's own State of the pass `index`. Creates it if necessary.
     virtual StatePtr getState(UInt32 index = 0);
-    /// Follows `transparencyMode`, and by default whether a part of the material is transparent.
+    /// The field `transparencyMode` decides. By default a material is transparent if one of its
+    /// parts is.
     virtual bool isTransparent() const;
 
     void changed(BitVector whichField, UInt32 origin) override;
@@ -31,7 +32,7 @@ protected:
     friend class FieldContainer;
 
     Material() = default;
-    /// The copy makes a State of its own.
+    /// The copy has its own State.
     Material(const Material &source);
     ~Material() override = default;
 

@@ -4,13 +4,13 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// Colours and shininess of the front, and of the back where it differs.
+/// Colours and shininess of the front, and of the back if it differs.
 class MaterialChunk : public MaterialChunkBase
 {
     typedef MaterialChunkBase Inherited;
 
 public:
-    /// True if the diffuse colour's alpha is below 1.
+    /// True if the alpha of the diffuse colour is below 1.
     bool isTransparent() const override { return getDiffuse().alpha() < 1.f; }
 
 protected:

@@ -6,7 +6,7 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// Sixteen numbers row by row.
+/// The text is sixteen numbers, row by row.
 template <class T> struct MatrixFieldTraits : TextFieldTraits<T>
 {
     typedef const T &ArgumentType;
@@ -25,7 +25,7 @@ template <class T> struct MatrixFieldTraits : TextFieldTraits<T>
     }
 };
 
-/// Axis and angle in radians.
+/// The text is the axis and the angle in radians.
 template <class T> struct QuaternionFieldTraits : TextFieldTraits<T>
 {
     typedef const T &ArgumentType;

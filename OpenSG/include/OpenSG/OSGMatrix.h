@@ -7,9 +7,9 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// A 4x4 matrix of four column vectors: `m[column][row]`, the translation is `m[3]`, and
-/// getValues() is in the order that OpenGL expects. Sixteen scalars are given row by row, as one
-/// reads them. The identity unless given. Matrices compare with the absolute tolerance Eps.
+/// A 4x4 matrix of four column vectors: `m[column][row]`. The translation is `m[3]`. getValues()
+/// has the order of OpenGL. Functions with sixteen scalars take them row by row. A default matrix
+/// is the identity. Comparisons have the absolute tolerance Eps.
 template <class T> class TransformationMatrix
 {
 public:
@@ -39,9 +39,10 @@ public:
         T rVal10, T rVal11, T rVal12, T rVal13, //
         T rVal20, T rVal21, T rVal22, T rVal23, //
         T rVal30, T rVal31, T rVal32, T rVal33);
-    /// Column by column if `bTransposed`, else row by row.
+    /// The values are column by column if `bTransposed` is true, row by row if it is false.
     void setValue(const T *values, bool bTransposed = true);
-    /// The same from a text. Missing numbers are 0, but NULL or an empty text is the identity.
+    /// Reads the values from a text. Missing numbers are 0. NULL and an empty text give the
+    /// identity.
     void setValue(const Char8 *text, bool bTransposed = true);
 
     T *getValues() { return _columns[0].getValues(); }
@@ -49,7 +50,7 @@ public:
     VectorType &operator[](UInt32 column) { return _columns[column]; }
     const VectorType &operator[](UInt32 column) const { return _columns[column]; }
 
-    /// These change only their part: the diagonal, the last column, the upper left 3x3.
+    /// These change only a part of the matrix: the diagonal, the last column or the upper left 3x3.
     void setScale(T scale) { setScale(scale, scale, scale); }
     void setScale(T x, T y, T z);
     void setScale(const VectorType3f &scale) { setScale(scale.x(), scale.y(), scale.z()); }
@@ -58,8 +59,8 @@ public:
     void setTranslate(const PointType3f &p) { setTranslate(p.x(), p.y(), p.z()); }
     void setRotate(const QuaternionType &rotation);
 
-    /// These set everything: T(translation) T(center) R(rotation) R(scaleOrientation) S(scale)
-    /// R(scaleOrientation)^-1 T(-center), applied to column vectors.
+    /// These set the whole matrix to T(translation) T(center) R(rotation) R(scaleOrientation)
+    /// S(scale) R(scaleOrientation)^-1 T(-center), for column vectors.
     void setTransform(const VectorType3f &translation);
     void setTransform(const QuaternionType &rotation);
     void setTransform(const VectorType3f &translation, const QuaternionType &rotation);
@@ -71,13 +72,13 @@ public:
         const VectorType3f &scale, const QuaternionType &scaleOrientation,
         const VectorType3f &center);
 
-    /// Finds parts from which setTransform makes this matrix; the center is given.
+    /// Finds arguments for setTransform that give this matrix. The center is an argument.
     void getTransform(VectorType3f &translation, QuaternionType &rotation, VectorType3f &scale,
         QuaternionType &scaleOrientation) const;
     void getTransform(VectorType3f &translation, QuaternionType &rotation, VectorType3f &scale,
         QuaternionType &scaleOrientation, const VectorType3f &center) const;
 
-    /// A point is moved, a direction is not; neither is divided by w.
+    /// The translation applies to points, not to directions. The result is not divided by w.
     void multMatrixPnt(PointType3f &point) const { multMatrixPnt(point, point); }
     void multMatrixPnt(const PointType3f &source, PointType3f &result) const;
     void multMatrixVec(VectorType3f &vector) const { multMatrixVec(vector, vector); }
@@ -88,7 +89,7 @@ public:
     /// this = other * this.
     void multLeft(const TransformationMatrix &other);
 
-    /// Return false, and leave the target alone, if there is no inverse.
+    /// Return false and leave the result alone if there is no inverse.
     bool inverse(TransformationMatrix &result) const;
     bool invert() { return inverse(*this); }
     bool invertFrom(const TransformationMatrix &other) { return other.inverse(*this); }
@@ -115,7 +116,7 @@ typedef TransformationMatrix<Real32> Matrix4f;
 typedef TransformationMatrix<Real64> Matrix4d;
 typedef Matrix4f Matrix;
 
-/// Four rows, a line each.
+/// Writes a line for each of the four rows.
 std::ostream &operator<<(std::ostream &os, const Matrix4f &matrix);
 std::ostream &operator<<(std::ostream &os, const Matrix4d &matrix);
 

@@ -4,7 +4,7 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// Counts references to an object that is no container; the last one deletes it.
+/// An object, other than a container, that counts its references. It is deleted with the last one.
 class MemoryObject
 {
 public:

@@ -10,7 +10,7 @@ class MultiPassMaterial : public MultiPassMaterialBase
     typedef MultiPassMaterialBase Inherited;
 
 public:
-    /// The State of the material at the index; null if there is none.
+    /// Returns the State of the material at the index, or null if there is none.
     StatePtr getState(UInt32 index = 0) override;
 
 protected:

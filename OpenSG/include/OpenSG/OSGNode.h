@@ -8,8 +8,8 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// A place in the scene. A node holds references to its core and children; it has one parent at
-/// most, its core may be shared by several nodes. Trees may be of any depth.
+/// A node of the scene. It holds references to its core and its children and has at most one
+/// parent. Several nodes may share a core. Trees may have any depth.
 class Node : public NodeBase
 {
     typedef NodeBase Inherited;
@@ -17,7 +17,7 @@ class Node : public NodeBase
 public:
     NodeCorePtr getCore() { return _sfCore.getValue(); }
     NodeCorePtr getCore() const { return _sfCore.getValue(); }
-    /// Null takes the core away.
+    /// Null removes the core.
     void setCore(const NodeCorePtr &core);
 
     NodePtr getParent() { return _sfParent.getValue(); }
@@ -27,23 +27,23 @@ public:
     /// The index is not checked.
     NodePtr getChild(UInt32 childIndex) { return _mfChildren[childIndex]; }
     NodePtr getChild(UInt32 childIndex) const { return _mfChildren[childIndex]; }
-    /// -1 if it is no child.
+    /// Returns -1 if `child` is no child of this node.
     Int32 findChild(const NodePtr &child) const;
 
-    /// A new child leaves its earlier parent; null is ignored. A child that is taken away loses
-    /// a reference, which may be its last.
+    /// A new child is removed from its earlier parent. Null is ignored. A removed child loses
+    /// a reference, which may be its last one.
     void addChild(const NodePtr &child);
     void insertChild(UInt32 childIndex, const NodePtr &child);
     void replaceChild(UInt32 childIndex, const NodePtr &child);
-    /// False if `child` is no child.
+    /// Returns false if `child` is no child of this node.
     bool replaceChildBy(const NodePtr &child, const NodePtr &newChild);
-    /// A stranger is reported in the log.
+    /// If `child` is no child of this node, writes a warning to the log.
     void subChild(const NodePtr &child);
     void subChild(UInt32 childIndex);
 
-    /// For renderers and exports, which leave out a node whose mask has no bit in common with
-    /// theirs; `traverse` does not look at it. An active node has all bits, one without any counts
-    /// in no volume. Setting it announces no edit.
+    /// Renderers and exports leave out a node if its mask and theirs have no bit in common.
+    /// `traverse` ignores the mask. An active node has all bits. A node without any bit is not part
+    /// of volumes. The caller of the setters has to begin and end the edit.
     void setTravMask(UInt32 mask) { _sfTravMask.setValue(mask); }
     UInt32 getTravMask() const { return _sfTravMask.getValue(); }
     void setActive(bool active) { setTravMask(active ? allBits : 0); }
@@ -51,12 +51,13 @@ public:
     void setOcclusionMask(UInt8 mask) { _occlusionMask = mask; }
     UInt8 getOcclusionMask() const { return _occlusionMask; }
 
-    /// From the node's coordinates to those of its root; its own core is included.
+    /// Returns the matrix from the node's coordinates to those of its root. It includes the node's
+    /// own core.
     Matrix getToWorld();
     void getToWorld(Matrix &result);
 
-    /// What the subtree takes up, in the coordinates of the parent. It is computed on demand:
-    /// changes of cores and children make it invalid.
+    /// Returns the volume of the subtree, in the coordinates of the parent. Changes of cores and
+    /// children make it invalid. It is computed again if `update` is true.
     DynamicVolume &getVolume(bool update);
     const DynamicVolume &getVolume() const { return _sfVolume.getValue(); }
     void getWorldVolume(DynamicVolume &result);
@@ -71,7 +72,7 @@ protected:
     static const NodePtr NullNode;
 
     Node() = default;
-    /// The copy shares core and attachments and has neither parent nor children.
+    /// The copy shares core and attachments. It has no parent and no children.
     Node(const Node &source);
     ~Node() override;
 
@@ -98,10 +99,10 @@ private:
     UInt8 _occlusionMask = 0;
 };
 
-/// A new node with this core; null for a null core.
+/// Creates a node with this core. Returns null for a null core.
 NodePtr makeNodeFor(NodeCorePtr core);
 
-/// A new node with a new core, which is also given to `coreP`.
+/// Creates a node with a new core and assigns the core to `coreP`.
 template <class Core> NodePtr makeCoredNode(typename Core::Ptr *coreP = nullptr)
 {
     const typename Core::Ptr core = Core::create();
@@ -111,14 +112,14 @@ template <class Core> NodePtr makeCoredNode(typename Core::Ptr *coreP = nullptr)
     return makeNodeFor(core);
 }
 
-/// Copies the nodes of a tree; the copies share cores and attachments with the originals.
+/// Copies the nodes of a tree. The copies share cores and attachments with the originals.
 NodePtr cloneTree(const NodePtr &root);
 
-/// Copies a tree with all that its nodes refer to: cores, attachments, materials and so on. What is
-/// shared within the tree is shared within the copy. Pointers to nodes of the tree lead to their
-/// copies, those to other nodes to the same nodes as ever.
-/// \param shareString types, separated by commas, whose containers are not copied but shared with
-/// the original, as are those of types derived from them: "Material,Image"
+/// Copies a tree and all containers that its nodes refer to: cores, attachments, materials and so
+/// on. Containers that are shared in the tree are shared in the copy. Pointers to nodes of the tree
+/// become pointers to their copies. Pointers to other nodes stay the same.
+/// \param shareString names of types, separated by commas: "Material,Image". Containers of these
+/// types and of derived types are not copied but shared with the original.
 NodePtr deepCloneTree(const NodePtr &root, const std::string &shareString = std::string());
 
 OSG_END_NAMESPACE

@@ -6,8 +6,8 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// What a node is. Its parents are the nodes that have it as their core, Node::setCore keeps
-/// them.
+/// The kind of a node: a group, a transformation, a geometry. The parents of a core are the nodes
+/// that have it. Node::setCore updates them.
 class NodeCore : public NodeCoreBase
 {
     typedef NodeCoreBase Inherited;
@@ -23,13 +23,13 @@ protected:
     friend class Node;
 
     NodeCore() = default;
-    /// The copy is no node's core yet.
+    /// The copy has no parents.
     NodeCore(const NodeCore &source);
     ~NodeCore() override = default;
 
-    /// Multiplies what the core does to its subtree's coordinates onto the matrix.
+    /// Multiplies the matrix by the transformation that the core applies to its subtree.
     virtual void accumulateMatrix(Matrix &result);
-    /// Adds what the core itself takes up to the volume of the children, or transforms it.
+    /// Extends the volume of the children by that of the core, or transforms it.
     virtual void adjustVolume(Volume &volume);
 
 private:

@@ -8,26 +8,27 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// Numbers as text, always as in the "C" locale: a file written on a desktop with decimal commas
-/// reads back on every other.
+/// Reads and writes numbers as text, always in the "C" locale. So files do not depend on the locale
+/// of the machine.
 namespace NumberText {
 
-/// What separates the numbers of a vector, a colour or a matrix.
+/// The separators between the numbers of a vector, a colour or a matrix.
 constexpr const char *separators = " \t\n,";
 
-/// Reading skips leading white space, stops at the first foreign character and never fails:
-/// nothing readable is 0, an integer out of 64 bits saturates. Integers know 0x and leading 0.
+/// Reading skips leading white space and stops at the first character that does not belong to the
+/// number. It never fails: without a number the result is 0, and integers beyond 64 bits saturate.
+/// Integers may be hexadecimal (0x) or octal (0).
 std::int64_t readSigned(const char *text);
 std::uint64_t readUnsigned(const char *text);
 void readReal(const char *text, float &value);
 void readReal(const char *text, double &value);
 void readReal(const char *text, long double &value);
 
-/// Reads numbers up to the first thing that is none and returns how many there were, `count` at
-/// most; brackets and commas count as blanks.
+/// Reads at most `count` numbers, up to the first word that is no number. Returns the count of
+/// numbers that were read. Brackets and commas count as blanks.
 unsigned readReals(std::string text, float *values, unsigned count);
 
-/// Reals with six decimals and an exponent (`1.500000e+00`), integers in plain decimal.
+/// Reals are written with six decimals and an exponent (`1.500000e+00`), integers in decimal.
 void append(std::string &out, float value);
 void append(std::string &out, double value);
 void append(std::string &out, long double value);
@@ -70,13 +71,13 @@ void writeList(std::string &out, const T *values, unsigned count, const char *gl
     }
 }
 
-/// Walks over the tokens of a text.
+/// Splits a text into tokens.
 class Tokens
 {
 public:
     explicit Tokens(const char *text, const char *separatorCharacters = separators);
 
-    /// Moves to the next token; false, and an empty token, at the end of the text.
+    /// Moves to the next token. At the end of the text, returns false and the token is empty.
     bool next();
     const std::string &token() const { return _token; }
 
@@ -86,7 +87,7 @@ private:
     std::string _token;
 };
 
-/// Reads `count` numbers; those the text lacks become 0, those beyond are ignored.
+/// Reads `count` numbers. Missing numbers become 0. Further numbers are ignored.
 template <class T>
 void readList(
     const char *text, T *values, unsigned count, const char *separatorCharacters = separators)

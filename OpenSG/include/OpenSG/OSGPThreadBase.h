@@ -6,16 +6,17 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// The calling thread as the scene graph sees it.
+/// A thread that the scene graph knows.
 class PThreadBase
 {
 public:
     PThreadBase(const PThreadBase &) = delete;
     PThreadBase &operator=(const PThreadBase &) = delete;
 
-    /// There is one aspect: 0 on every thread.
+    /// There is only one aspect, so the result is 0 on every thread.
     static UInt32 getAspect() { return 0; }
-    /// NULL on threads that the scene graph does not know, before osgInit and after osgExit.
+    /// Returns NULL on threads that the scene graph does not know, before osgInit and after
+    /// osgExit.
     static ChangeList *getCurrentChangeList();
 
     const Char8 *getCName() const { return _name.c_str(); }

@@ -4,8 +4,8 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// Order in which particles are drawn from back to front. Only drawing builds such a tree, and
-/// this library does not draw: the tree has no nodes.
+/// The order of particles from back to front. Only renderers build such a tree. This library has no
+/// renderer, so the tree has no nodes.
 class ParticleBSPTree
 {
 };

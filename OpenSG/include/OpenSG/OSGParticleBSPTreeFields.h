@@ -7,7 +7,7 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// Text: the number of nodes, a semicolon, the nodes.
+/// The text is the count of nodes, a semicolon and the nodes.
 template <> struct FieldDataTraits<ParticleBSPTree> : public FieldTraitsRecurseBase<ParticleBSPTree>
 {
     static DataType _type;

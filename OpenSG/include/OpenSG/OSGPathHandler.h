@@ -7,7 +7,7 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// Finds files: where their name says, else in one of a list of folders.
+/// Finds files by their name alone or in a list of folders.
 class PathHandler
 {
 public:
@@ -15,7 +15,8 @@ public:
     /// Folders are searched in this order.
     void push_backPath(const Char8 *folder) { _folders.emplace_back(folder); }
 
-    /// The path of the first that is no folder; empty if there is none.
+    /// Returns the path of the first match that is no folder. Returns an empty text if there is
+    /// none.
     std::string findFile(const Char8 *fileName) const;
 
 private:

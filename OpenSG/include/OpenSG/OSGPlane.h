@@ -4,14 +4,14 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// The points p with `normal . p == distance`. Everything is 0 unless given.
+/// The points p with `normal . p == distance`. A default plane has only zeros.
 class Plane
 {
 public:
     Plane() = default;
     Plane(const Vec3f &normal, Real32 distance) { set(normal, distance); }
 
-    /// `normal` is kept as it is given.
+    /// `normal` is not normalized.
     void set(const Vec3f &normal, Real32 distance)
     {
         _normal = normal;

@@ -6,9 +6,9 @@ OSG_BEGIN_NAMESPACE
 
 template <class T> class TransformationMatrix;
 
-/// A rotation: components x, y, z, w; the identity (0, 0, 0, 1) unless given. Two quaternions are
-/// equal when their components are within Eps: q and -q, the same rotation, differ. An axis
-/// shorter than 1e-6, or not finite, stands for the identity.
+/// A rotation with the components x, y, z, w. A default quaternion is the identity (0, 0, 0, 1).
+/// Comparisons have the absolute tolerance Eps for each component, so q and -q differ although they
+/// are the same rotation. An axis that is shorter than 1e-6 or not finite gives the identity.
 template <class T> class QuaternionBase
 {
 public:
@@ -19,7 +19,7 @@ public:
     QuaternionBase() = default;
     explicit QuaternionBase(const MatrixType &matrix) { setValue(matrix); }
     QuaternionBase(const VectorType &axis, T angle) { setValueAsAxisRad(axis, angle); }
-    /// The shortest rotation of one direction to another.
+    /// The shortest rotation from one direction to another.
     QuaternionBase(const VectorType &from, const VectorType &to) { setValue(from, to); }
 
     static QuaternionBase identity() { return {}; }
@@ -28,7 +28,7 @@ public:
     void setValue(const MatrixType &matrix);
     void setValue(const VectorType &from, const VectorType &to);
 
-    /// Four numbers x y z angle; those of a text are separated by white space only.
+    /// The numbers are x, y, z and angle. In a text they are separated by white space only.
     void setValueAsAxisRad(T x, T y, T z, T angle);
     void setValueAsAxisRad(const VectorType &axis, T angle);
     void setValueAsAxisRad(const T *values);
@@ -41,13 +41,13 @@ public:
     void setValueAsQuat(const T *values);
     void setValueAsQuat(const Char8 *text);
 
-    /// The angle is 0 to 2 Pi, or 360 degrees; the axis of the identity is z.
+    /// The angle is 0 to 2 Pi, or 0 to 360 degrees. The axis of the identity is z.
     void getValueAsAxisRad(T &x, T &y, T &z, T &angle) const;
     void getValueAsAxisRad(VectorType &axis, T &angle) const;
     void getValueAsAxisDeg(T &x, T &y, T &z, T &angle) const;
     void getValueAsAxisDeg(VectorType &axis, T &angle) const;
     void getValueAsQuat(T &x, T &y, T &z, T &w) const;
-    /// Becomes the rotation matrix.
+    /// Sets `matrix` to the rotation matrix.
     void getValue(MatrixType &matrix) const;
 
     const T *getValues() const { return _values; }
@@ -70,7 +70,7 @@ public:
     QuaternionBase operator*(const QuaternionBase &other) const;
     QuaternionBase &operator*=(const QuaternionBase &other);
 
-    /// Becomes the rotation at `share`, 0 to 1, of the shorter way between the two.
+    /// Interpolates on the shorter way between the two rotations. `share` is 0 to 1.
     void slerpThis(const QuaternionBase &from, const QuaternionBase &to, T share);
 
     bool equals(const QuaternionBase &other, T tolerance) const;

@@ -4,8 +4,8 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// A real of 16 bits (1 sign, 5 exponent, 10 mantissa) for compact arrays; arithmetic happens in
-/// Real32. Conversion rounds to nearest; what is too large becomes infinite.
+/// A real number of 16 bits (1 sign, 5 exponent, 10 mantissa) for compact arrays. Arithmetic uses
+/// Real32. Conversion rounds to nearest. Too large numbers become infinite.
 class Real16
 {
 public:

@@ -2,8 +2,8 @@
 
 #include <OpenSG/OSGSField.h>
 
-/// Defines, and thereby registers, the field type of SField<Type, nameSpace>. Each type has to
-/// be defined in exactly one translation unit, inside namespace osg.
+/// Defines and registers the field type of SField<Type, nameSpace>. Use it in exactly one
+/// translation unit for each type, inside namespace osg.
 #define OSG_DLLEXPORT_SFIELD_DEF2(Type, nameSpace, mapping)                                        \
     template <>                                                                                    \
     FieldType SField<Type, nameSpace>::_fieldType(                                                 \

@@ -12,13 +12,13 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// Reads and writes scene files. The format is told by what follows the last dot of a name, in
-/// any letter case; it may also be given bare. There is one: "osg", the ASCII format.
+/// Reads and writes scene files. The suffix of a file name selects the format, in any letter case.
+/// The suffix alone may be given, too. There is one format: "osg", the ASCII format.
 ///
-/// Containers inside each other, nodes and what they refer to, are read and written up to 1000
-/// levels deep; what is deeper is reported and left out by the reader, and not written at all.
+/// Containers can be nested 1000 levels deep. The reader reports deeper containers in the log and
+/// skips them. The writer does not write a scene with deeper containers.
 ///
-/// What comes of a read has no references yet: the caller takes the first, or destroys it.
+/// The results of a read have no references. The caller adds the first reference or destroys them.
 class SceneFileHandler
 {
 public:
@@ -28,38 +28,38 @@ public:
     static SceneFileHandler &the();
     virtual ~SceneFileHandler() = default;
 
-    /// A new root with a Group core; the nodes and cores that stand at the top of the file are
-    /// below it. Null, and a line in the log, if there is no such file or format, or no node or
-    /// core in the file.
+    /// Returns a new root with a Group core. Its children are the nodes and cores at the top of the
+    /// file. Returns null, with a line in the log, if there is no such file or format or if the
+    /// file has no node or core.
     ///
-    /// The operations of `graphOpSeq` are applied to the scene. Those of the default sequence
-    /// merge equal materials and state chunks; NULL gives the scene as it is in the file.
+    /// The operations of `graphOpSeq` are applied to the scene. The default sequence merges equal
+    /// materials and state chunks. NULL leaves the scene unchanged.
     virtual NodePtr read(const Char8 *fileName, GraphOpSeq *graphOpSeq = _defaultgraphOpSeq);
     virtual NodePtr read(
         std::istream &is, const Char8 *ext, GraphOpSeq *graphOpSeq = _defaultgraphOpSeq);
 
-    /// The containers of all types at the top of the file themselves. Empty, and a line in the log,
-    /// if there are none. The operations are applied to those that are nodes.
+    /// Returns all containers at the top of the file. Returns an empty list, with a line in the
+    /// log, if there are none. The operations are applied to the nodes among them.
     virtual FCPtrStore readTopNodes(
         const Char8 *fileName, GraphOpSeq *graphOpSeq = _defaultgraphOpSeq);
     virtual FCPtrStore readTopNodes(
         std::istream &is, const Char8 *ext, GraphOpSeq *graphOpSeq = _defaultgraphOpSeq);
 
-    /// Writes a scene and all that it refers to. False for null, which leaves the file alone.
-    /// False, and a line in the log, if that failed; what is in the file then is incomplete.
-    /// `compress` is for formats that can; the ASCII format cannot.
+    /// Writes a scene and all containers that it refers to. Returns false for null and leaves the
+    /// file alone. Returns false, with a line in the log, if writing fails; the file is then
+    /// incomplete. The ASCII format ignores `compress`.
     virtual bool write(const NodePtr &node, const Char8 *fileName, bool compress = false);
     virtual bool write(
         const NodePtr &node, std::ostream &os, const Char8 *ext, bool compress = false);
 
-    /// NULL if the format is unknown.
+    /// Returns NULL if the format is unknown.
     virtual SceneFileType *getFileType(const Char8 *fileNameOrExtension);
-    /// Appends the suffixes of formats that can be read or written, as asked for; returns how many.
+    /// Appends the suffixes of formats with these flags and returns their count.
     virtual int getSuffixList(std::list<const Char8 *> &result,
         UInt32 flags = SceneFileType::OSG_READ_SUPPORTED | SceneFileType::OSG_WRITE_SUPPORTED);
 
-    /// Progress is in per cent, at first 0 and then now and then, always on the thread that reads
-    /// or writes. Begin and end tell the name of a file; a stream has none.
+    /// The progress is in per cent and starts with 0. Callbacks are called on the thread that reads
+    /// or writes. Begin and end get the name of the file; they are not called for a stream.
     void setReadProgressCB(progresscbfp callback, bool = true) { _readProgress = callback; }
     void setReadBeginCB(filenamecbfp callback) { _readBegin = callback; }
     void setReadEndCB(filenamecbfp callback) { _readEnd = callback; }
@@ -67,18 +67,20 @@ public:
     void setWriteBeginCB(filenamecbfp callback) { _writeBegin = callback; }
     void setWriteEndCB(filenamecbfp callback) { _writeEnd = callback; }
 
-    /// Where files are looked for that are to be read.
+    /// Finds the files to read.
     virtual PathHandler *getPathHandler() { return &_pathHandler; }
 
     virtual GraphOpSeq *getDefaultGraphOp() { return _defaultgraphOpSeq; }
-    /// The sequence still belongs to the caller. NULL for none.
+    /// The caller keeps the ownership of the sequence. NULL means no operations.
     virtual void setDefaultGraphOp(GraphOpSeq *graphOpSeq) { _defaultgraphOpSeq = graphOpSeq; }
 
-    /// Options of a format, all at once and with blanks between them; false if the format is
-    /// unknown. Of "osg": `whitespace=keep`, to write the blanks and line ends in strings as they
-    /// are, which other writers of the format do not; and `lists=replace`, to read lists as they
-    /// were written: values replace those that new containers have in the field, to which they are
-    /// appended otherwise, and pointers keep their empty places.
+    /// Sets all options of a format, separated by blanks. Returns false if the format is unknown.
+    /// Options of "osg":
+    /// - `whitespace=keep` writes blanks and line ends in strings unchanged. Other writers of the
+    ///   format change them.
+    /// - `lists=replace` reads lists as they were written. Values in the file replace the values in
+    ///   the field of a new container; without the option they are appended. Lists of pointers keep
+    ///   their empty places.
     virtual bool setOptions(const Char8 *suffix, const Char8 *options);
 
 protected:

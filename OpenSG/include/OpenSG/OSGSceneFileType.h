@@ -17,7 +17,7 @@ class SceneFileType
 public:
     enum { OSG_READ_SUPPORTED = 0x01, OSG_WRITE_SUPPORTED = 0x02 };
 
-    /// Told often, with how much is done of how much.
+    /// Called often, with the amount that is done and the total amount.
     typedef std::function<void(std::size_t done, std::size_t total)> Progress;
 
     SceneFileType(const Char8 *name, std::vector<std::string> suffixes, UInt32 flags);
@@ -25,20 +25,20 @@ public:
     SceneFileType(const SceneFileType &) = delete;
     SceneFileType &operator=(const SceneFileType &) = delete;
 
-    /// What users call the format.
+    /// The name of the format for users.
     const Char8 *getName() const { return _name.c_str(); }
     /// Lower case, without the dot.
     const std::vector<std::string> &getSuffixes() const { return _suffixes; }
     UInt32 getFlags() const { return _flags; }
 
-    /// What the format understands is told by its class; everything else in it is ignored.
+    /// The derived class documents the options of the format. Unknown options are ignored.
     virtual void setOptions(const Char8 *options) { _options = options ? options : ""; }
     const Char8 *getOptions() const { return _options.c_str(); }
 
-    /// The containers at the top of a file, without references. What cannot be read is reported in
-    /// the log and left out.
+    /// Returns the containers at the top of a file, without references. Errors are reported in the
+    /// log and skipped.
     virtual FCPtrStore readTopNodes(std::istream &is, const Progress &progress) const = 0;
-    /// False, and a line in the log, if the scene did not get into the stream as a whole.
+    /// Returns false, with a line in the log, if the scene was not written completely.
     virtual bool write(const NodePtr &node, std::ostream &os, const Progress &progress) const = 0;
 
 private:

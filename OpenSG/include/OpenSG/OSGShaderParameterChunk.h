@@ -5,22 +5,22 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// A chunk that has named parameters. It holds a reference to each.
+/// A chunk with named parameters. It holds a reference to each.
 class ShaderParameterChunk : public ShaderParameterChunkBase
 {
     typedef ShaderParameterChunkBase Inherited;
 
 public:
-    /// Sets, and adds if need be, a parameter. T is bool, Int32, Real32, std::string, Vec2f,
-    /// Vec3f, Vec4f, Matrix or a multi-field of them. False if the name has another type or is
-    /// NULL.
+    /// Sets a parameter and adds it if necessary. T is bool, Int32, Real32, std::string, Vec2f,
+    /// Vec3f, Vec4f, Matrix or a multi-field of them. Returns false if the parameter has another
+    /// type or the name is NULL.
     template <class T> bool setUniformParameter(const Char8 *name, const T &value);
-    /// False, and `value` stays, unless there is a parameter of that name and type.
+    /// Returns false and leaves `value` alone if there is no parameter of this name and type.
     template <class T> bool getUniformParameter(const Char8 *name, T &value) const;
-    /// False if there is none.
+    /// Removes a parameter. Returns false if there is none.
     bool subUniformParameter(const Char8 *name);
 
-    /// Null if there is none.
+    /// Returns null if there is none.
     ShaderParameterPtr findParameter(const Char8 *name) const;
 
 protected:

@@ -22,7 +22,7 @@ template <class ParameterT> struct ShaderParameterIs
     typedef ParameterT Type;
 };
 
-/// The parameter class that holds values of the type T, as `Type`.
+/// `Type` is the parameter class for values of the type T.
 template <class T> struct ShaderParameterFor;
 
 // clang-format off

@@ -6,13 +6,13 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// An attachment with one field. DescT tells what it is:
+/// An attachment with one field. DescT describes it:
 ///     typedef ... FieldTypeT;                     the field's type
 ///     static const Char8 *getTypeName();          also getFieldName, getGroupName and
 ///                                                 getParentTypeName
 ///     static InitContainerF getInitMethod();      NULL for none
 ///     static FieldDescription **getDesc();        NULL: the field is described by its name
-/// The type is registered by OSG_SIMPLE_ATTACHMENT_DEF(DescT) in one source, in namespace osg.
+/// Register the type with OSG_SIMPLE_ATTACHMENT_DEF(DescT) in one source, in namespace osg.
 template <class DescT> class SimpleAttachment : public Attachment
 {
     typedef Attachment Inherited;
@@ -48,7 +48,7 @@ public:
 
     FieldTypeT *getFieldPtr() { return &_field; }
     const FieldTypeT *getFieldPtr() const { return &_field; }
-    /// Hides the reflective access by name; that is reached through the base class.
+    /// Hides FieldContainer::getField. Use a handle of the base class for that.
     FieldTypeT &getField() { return _field; }
     const FieldTypeT &getField() const { return _field; }
 

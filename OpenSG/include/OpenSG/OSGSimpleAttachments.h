@@ -38,21 +38,21 @@ struct VoidPAttachmentDesc
     static FieldDescription **getDesc() { return nullptr; }
 };
 
-/// An address that an application keeps with a container.
+/// An address that an application stores at a container.
 typedef SimpleAttachment<VoidPAttachmentDesc> VoidPAttachment;
 typedef VoidPAttachment::PtrType VoidPAttachmentPtr;
 
 extern template class SimpleAttachment<NameAttachmentDesc>;
 extern template class SimpleAttachment<VoidPAttachmentDesc>;
 
-/// The container's name, a pointer into its attachment; NULL for a null handle and a container
-/// without one.
+/// Returns the name of a container, as a pointer into its attachment. Returns NULL for a null
+/// handle and for a container without a name.
 const Char8 *getName(AttachmentContainerPtr container);
-/// Names a container. An empty name is one, a NULL takes the name away.
+/// Sets the name of a container. An empty text is a name. NULL removes the name.
 void setName(AttachmentContainerPtr container, const std::string &name);
 void setName(AttachmentContainerPtr container, const Char8 *name);
 
-/// NULL without an attachment.
+/// Returns NULL if there is no attachment.
 void *getVoidP(AttachmentContainerPtr container);
 void setVoidP(AttachmentContainerPtr container, void *data, bool internal = false);
 

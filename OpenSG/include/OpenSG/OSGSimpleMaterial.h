@@ -6,8 +6,8 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// A material of colours, shininess and transparency. It makes a MaterialChunk and a BlendChunk
-/// for itself with its first State; they never appear in its list of chunks.
+/// A material with colours, shininess and transparency. It creates its own MaterialChunk and
+/// BlendChunk with its first State. They are not in its list of chunks.
 class SimpleMaterial : public SimpleMaterialBase
 {
     typedef SimpleMaterialBase Inherited;
@@ -16,7 +16,7 @@ protected:
     friend class FieldContainer;
 
     SimpleMaterial() = default;
-    /// The copy makes chunks of its own.
+    /// The copy has its own chunks.
     SimpleMaterial(const SimpleMaterial &source);
     ~SimpleMaterial() override = default;
 

@@ -6,8 +6,8 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// A simple material with one texture, which mirrors its surroundings if `envMap` is set. The
-/// chunks of the texture are its own, too.
+/// A simple material with one texture. If `envMap` is true, the texture is a reflection of the
+/// surroundings. The material has its own texture chunks.
 class SimpleTexturedMaterial : public SimpleTexturedMaterialBase
 {
     typedef SimpleTexturedMaterialBase Inherited;
@@ -16,7 +16,7 @@ protected:
     friend class FieldContainer;
 
     SimpleTexturedMaterial() = default;
-    /// The copy makes chunks of its own.
+    /// The copy has its own chunks.
     SimpleTexturedMaterial(const SimpleTexturedMaterial &source);
     ~SimpleTexturedMaterial() override = default;
 

@@ -4,8 +4,8 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// An operation that is called only for nodes whose core is a Type. What the callbacks return is
-/// ignored: the whole tree is visited. Nodes without a core are passed over.
+/// A graph operation with callbacks only for nodes whose core is a Type. The results of the
+/// callbacks are ignored, so the whole tree is visited. Nodes without a core are skipped.
 template <class Type> class SingleTypeGraphOp : public GraphOp
 {
 public:
@@ -17,14 +17,14 @@ public:
     }
 
 protected:
-    /// An operation overrides one form of each; if both, the first is called.
+    /// Derived classes override one overload of each. If both are overridden, the first is called.
     virtual bool travNodeEnter(NodePtr node);
     virtual bool travNodeEnter(const NodePtr &node);
     virtual bool travNodeLeave(NodePtr node);
     virtual bool travNodeLeave(const NodePtr &node);
 
 private:
-    // A call by name would be ambiguous between the two forms.
+    // A call by name would be ambiguous.
     typedef bool (SingleTypeGraphOp::*ByValue)(NodePtr);
     typedef bool (SingleTypeGraphOp::*ByReference)(const NodePtr &);
 

@@ -4,7 +4,7 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// A sphere; a point at the origin unless given.
+/// A sphere. By default it is a point at the origin.
 class SphereVolume : public Volume
 {
 public:
@@ -16,7 +16,7 @@ public:
 
     const Pnt3f &getCenter() const { return _center; }
     Real32 getRadius() const { return _radius; }
-    /// The sphere is valid and not empty after setValue.
+    /// The sphere becomes valid and not empty.
     void setValue(const Pnt3f &center, Real32 radius);
     void setCenter(const Pnt3f &center) { _center = center; }
     void setRadius(Real32 radius) { _radius = radius; }

@@ -4,9 +4,9 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// Writes values as words joined by single blanks, starts a new line where one would get longer
-/// than `width`, begins every line with `indent` blanks and separates the values of a multi-field
-/// by ", ".
+/// Writes values as words with single blanks between them. The values of a multi-field are
+/// separated by ", ". Lines begin with `indent` blanks and are at most `width` characters long, if
+/// no single word is longer.
 class StandardStringConversionState : public StringConversionStateBase
 {
 public:
@@ -14,7 +14,7 @@ public:
 
     UInt32 getIndent() const { return _indent; }
     void setIndent(UInt32 indent) { _indent = indent; }
-    /// In characters, the indent not counted.
+    /// The width in characters, without the indent.
     UInt32 getWidth() const { return _width; }
     void setWidth(UInt32 width) { _width = width; }
 

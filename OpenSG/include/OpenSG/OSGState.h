@@ -5,18 +5,18 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// The chunks that a material sets, as its State. Materials make theirs on their first edit.
+/// The chunks that a material sets. The first edit of a material creates its State.
 class State : public StateBase
 {
     typedef StateBase Inherited;
 
 public:
-    /// Slots tell chunks of one type apart. AutoSlot takes the next free one, AutoSlotReplace
-    /// the first.
+    /// Slots distinguish chunks of the same type. AutoSlot selects the next free slot,
+    /// AutoSlotReplace the first slot.
     static constexpr Int32 AutoSlot = -1;
     static constexpr Int32 AutoSlotReplace = -2;
 
-    /// The state holds a reference to each chunk. Null is refused with false.
+    /// The state holds a reference to each chunk. Returns false for null.
     bool addChunk(const StateChunkPtr &chunk, Int32 slot = AutoSlotReplace);
     void clearChunks();
     /// The chunk of exactly this type in the slot; null if there is none.

@@ -4,13 +4,13 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// Part of the render state. A chunk that is ignored has no effect.
+/// A part of the render state. A chunk with the field `ignore` set has no effect.
 class StateChunk : public StateChunkBase
 {
     typedef StateChunkBase Inherited;
 
 public:
-    /// Whether what is drawn with the chunk lets show what lies behind.
+    /// Returns true if the chunk makes surfaces transparent.
     virtual bool isTransparent() const { return false; }
 
 protected:
@@ -20,7 +20,7 @@ protected:
     StateChunk(const StateChunk &) = default;
     ~StateChunk() override = default;
 
-    /// A number that no other object of OpenGL has, from 1.
+    /// Returns a number that no other OpenGL object has. Numbers start at 1.
     static UInt32 newGLId();
 };
 

@@ -6,18 +6,18 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// Texts by name: `keys` and `values` belong together by index.
+/// Texts by name. The key and the value with the same index belong together.
 class StringAttributeMap : public StringAttributeMapBase
 {
     typedef StringAttributeMapBase Inherited;
 
 public:
-    /// Announces no edit.
+    /// The caller has to begin and end the edit.
     void setAttribute(const std::string &key, const std::string &value);
     bool hasAttribute(const std::string &key) const;
-    /// False, and `value` stays, if there is none.
+    /// Returns false and leaves `value` alone if there is none.
     bool getAttribute(const std::string &key, std::string &value) const;
-    /// Empty if there is none.
+    /// Returns an empty text if there is none.
     const std::string getAttribute(const std::string &key) const;
 
     const MFString &getKeys() const { return _mfKeys; }
@@ -31,7 +31,7 @@ protected:
     ~StringAttributeMap() override = default;
 
 private:
-    /// The number of pairs if there is none.
+    /// Returns the count of pairs if there is none.
     UInt32 indexOf(const std::string &key) const;
 };
 

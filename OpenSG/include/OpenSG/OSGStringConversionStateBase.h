@@ -8,7 +8,7 @@ OSG_BEGIN_NAMESPACE
 
 class Field;
 
-/// Lays out the text of a field's values while the field walks over them.
+/// Lays out the text of a field. The field calls addValueStr for each of its values.
 class StringConversionStateBase
 {
 public:

@@ -4,7 +4,7 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// Shows the child with the index `choice`, all or none.
+/// Shows the child with the index `choice`, all children or none.
 class Switch : public SwitchBase
 {
     typedef SwitchBase Inherited;

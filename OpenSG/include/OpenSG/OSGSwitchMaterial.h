@@ -10,7 +10,7 @@ class SwitchMaterial : public SwitchMaterialBase
     typedef SwitchMaterialBase Inherited;
 
 public:
-    /// The State of the chosen material; null if there is none.
+    /// Returns the State of the chosen material, or null if there is none.
     StatePtr getState(UInt32 index = 0) override;
 
 protected:

@@ -5,8 +5,8 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// Written TRUE or FALSE. Read from a text that begins with true or false in any letter case;
-/// any other text leaves the value as it is.
+/// The text is TRUE or FALSE. Reading accepts texts that begin with true or false in any letter
+/// case. Any other text leaves the value alone.
 template <class T> struct BoolFieldTraits : TextFieldTraits<T>
 {
     static bool getFromString(bool &outVal, const Char8 *&inVal);
@@ -20,8 +20,8 @@ template <> bool BoolFieldTraits<bool>::getFromString(bool &outVal, const Char8 
 
 OSG_SYS_VALUE_TYPES(OSG_VALUE_TRAITS)
 
-/// Half floats have traits and typedefs of fields; their field types are not registered, so such a
-/// field can be named but not made.
+/// Half floats have traits and field typedefs, but their field types are not registered. So such
+/// fields can be declared but not created.
 template <> struct FieldDataTraits<Real16> : FieldTraitsIntegralRecurseMapper<Real16>
 {
     static DataType _type;

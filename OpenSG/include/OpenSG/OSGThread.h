@@ -4,13 +4,13 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// A named thread of the scene graph. osgInit makes one for its caller, called "OSGMain".
+/// A named thread of the scene graph. osgInit creates the thread "OSGMain" for its caller.
 class Thread : public ThreadBase
 {
 public:
-    /// NULL where getCurrentChangeList() is.
+    /// Returns NULL on the threads for which getCurrentChangeList() returns NULL.
     static ThreadBase *getCurrent() { return _current; }
-    /// The thread of this name; NULL if there is none.
+    /// Returns the thread of this name, or NULL if there is none.
     static Thread *get(const Char8 *szName) { return find(szName); }
     static Thread *find(const Char8 *szName);
 

@@ -4,16 +4,16 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// Starts and ends the scene graph's view of threads; osgInit and osgExit call it.
+/// Manages the threads of the scene graph. osgInit and osgExit call it.
 class ThreadManager
 {
 public:
-    /// Gives the calling thread a change list.
+    /// Creates the change list of the calling thread.
     static bool initialize();
     static bool terminate();
 
     static UInt32 getNumAspects() { return 1; }
-    /// NULL before osgInit and after osgExit.
+    /// Returns NULL before osgInit and after osgExit.
     static Thread *getMainThread() { return _mainThread; }
 
 private:

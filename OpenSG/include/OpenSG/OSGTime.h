@@ -4,7 +4,7 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// Seconds.
+/// A time in seconds.
 typedef Real64 Time;
 
 /// Seconds since the epoch, with the resolution of the system's clock.

@@ -4,7 +4,7 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// Places the children by a matrix.
+/// Transforms its children by a matrix.
 class Transform : public TransformBase
 {
     typedef TransformBase Inherited;

@@ -5,9 +5,9 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// A named type with a number. Content types, field types and container types all draw their
-/// numbers from TypeFactory in order of construction, so a number is good for this run only.
-/// Number 0 means that the name was taken already.
+/// A named type with a number. Content types, field types and container types get their numbers
+/// from TypeFactory in the order of construction, so a number is valid for this run only. The
+/// number is 0 if another type has the name already.
 class TypeBase
 {
 public:
@@ -23,7 +23,7 @@ public:
     const Char8 *getCParentName() const { return _parentName.str(); }
     UInt32 getNameSpace() const { return 0; }
 
-    /// Always false here: only container types, compared as such, know a derivation.
+    /// Always false. Only container types know derivations, by their own overload.
     virtual bool isDerivedFrom(const TypeBase &other) const;
 
     bool operator==(const TypeBase &other) const { return _id == other._id; }

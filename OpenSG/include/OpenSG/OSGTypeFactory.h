@@ -8,20 +8,20 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// The registry of all types. It exists from the first type's construction to the end of the
-/// process, whatever the order in which translation units are initialised.
+/// The registry of all types. It exists from the construction of the first type to the end of the
+/// process.
 class TypeFactory
 {
 public:
     static TypeFactory *the();
 
-    /// The new type's number; 0, and a warning, if another type has the name.
+    /// Returns the number of the new type. Returns 0, with a warning, if another type has the name.
     UInt32 registerType(TypeBase *type);
     void unregisterType(const TypeBase &type);
 
     TypeBase *findType(UInt32 typeId) const;
     TypeBase *findType(const Char8 *szName) const;
-    /// Numbers handed out so far; they run from 1 to this.
+    /// Numbers are 1 to getNumTypes().
     UInt32 getNumTypes() const;
 
 private:

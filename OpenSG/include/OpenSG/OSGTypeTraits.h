@@ -29,7 +29,7 @@ template <class T> struct TypeTraits : ArithmeticTypeTraits<T>
 {
 };
 
-/// Bit masks are 64 bit wide; `TypeTraits<BitVector>::One << id` is how a mask is written.
+/// Bit masks have 64 bits. Write a mask as `TypeTraits<BitVector>::One << id`.
 template <> struct TypeTraits<std::uint64_t> : ArithmeticTypeTraits<std::uint64_t>
 {
     static constexpr std::uint64_t Zero = 0;

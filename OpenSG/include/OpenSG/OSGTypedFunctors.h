@@ -7,20 +7,20 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// How a functor takes a handle: by reference. Callees may also take it by value or by reference
-/// to const.
+/// A functor with this argument type passes a handle by reference. The called function may take it
+/// by reference, by reference to const or by value.
 template <class PtrT> struct CPtrRefCallArg
 {
     typedef PtrT &ArgType;
 };
 
-/// How a functor takes a plain value.
+/// A functor with this argument type passes a value.
 template <class T> struct ArgsCollector
 {
     typedef T ArgType;
 };
 
-/// A callable of one argument; empty when default constructed.
+/// A callable of one argument. A default functor is empty.
 template <class RetT, class Arg1T> class TypedFunctor1Base
 {
 public:
@@ -78,8 +78,8 @@ TypedFunctor1Base<RetT, CPtrRefCallArg<PtrT>> osgTypedFunctionFunctor1CPtrRef(Re
     return { f };
 }
 
-/// The object has to outlive the functor. Of methods of one name, that which takes the handle by
-/// reference is meant.
+/// The object must outlive the functor. Among overloads, the method that takes the handle by
+/// reference is used.
 template <class RetT, class ObjectT, class PtrT>
 TypedFunctor1Base<RetT, CPtrRefCallArg<PtrT>> osgTypedMethodFunctor1ObjPtrCPtrRef(
     ObjectT *object, RetT (ObjectT::*method)(PtrT &))

@@ -2,11 +2,11 @@
 
 #include <OpenSG/OSGFieldDataType.h>
 
-/// The value types that fields hold, one row each:
+/// A row for each value type of fields:
 ///   DO(C++ type, name space of its traits, name after SF and MF, content type, parent of that,
-///      template of the traits that it derives its text and binary form from)
-/// The traits, the typedefs of the fields and the definitions of the field types all come from
-/// these rows.
+///      base template of its traits with its text and binary form)
+/// These rows generate the traits, the typedefs of the fields and the definitions of the field
+/// types.
 
 #define OSG_SYS_VALUE_TYPES(DO)                                                                    \
     DO(bool, 2, Bool, "bool", "IntegralType", BoolFieldTraits)                                     \
@@ -72,7 +72,7 @@
         static const Char8 *getMName() { return "MF" #Name; }                                      \
     };
 
-/// The typedef of a row's field; the library holds the one instance of its code.
+/// The typedef of the field of a row. Only the library instantiates its code.
 #define OSG_VALUE_FIELD(Template, prefix, Type, nameSpace, Name)                                   \
     typedef Template<Type, nameSpace> prefix##Name;                                                \
     template <> FieldType Template<Type, nameSpace>::_fieldType;                                   \
@@ -84,7 +84,7 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// Base of types that have both text forms.
+/// Base for types whose text can be read and written.
 template <class T> struct TextFieldTraits : FieldTraitsIntegralRecurseMapper<T>
 {
     enum {
@@ -93,7 +93,7 @@ template <class T> struct TextFieldTraits : FieldTraitsIntegralRecurseMapper<T>
     static T getDefault() { return T(); }
 };
 
-/// Base of types that have no text at all.
+/// Base for types without a text form.
 template <class T> struct TextlessFieldTraits : FieldTraitsIntegralRecurseMapper<T>
 {
     enum { StringConvertable = 0 };

@@ -5,7 +5,7 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// Components separated by two blanks.
+/// The text is the components, separated by two blanks.
 template <class T> struct VectorFieldTraits : TextFieldTraits<T>
 {
     typedef const T &ArgumentType;

@@ -11,8 +11,8 @@ OSG_BEGIN_NAMESPACE
 
 template <class T, class StorageT> class VectorInterface;
 
-/// A point: the difference of two points is a vector, point and vector add up to a point. All
-/// components are 0 unless given. Points and vectors compare with the absolute tolerance Eps.
+/// A point. The difference of two points is a vector. The sum of a point and a vector is a point.
+/// All components of a default point are 0. Comparisons have the absolute tolerance Eps.
 template <class T, class StorageT> class PointInterface : public StorageT
 {
 public:
@@ -31,7 +31,7 @@ public:
     {
         setValues(values...);
     }
-    /// Takes as many components as both have; further ones are 0.
+    /// Copies the components that both types have. Further components are 0.
     template <class OtherT, class OtherStorageT>
     explicit PointInterface(const PointInterface<OtherT, OtherStorageT> &other)
     {
@@ -45,8 +45,8 @@ public:
         std::copy_n(list, Size, this->_values);
     }
     void setValue(const PointInterface &other) { *this = other; }
-    /// As many numbers as there are components, separated by white space or commas; missing or
-    /// unreadable ones are 0.
+    /// Reads a number for each component. They are separated by white space or commas. Missing and
+    /// unreadable numbers are 0.
     void setValueFromCString(const Char8 *text) { NumberText::readList(text, this->_values, Size); }
     void setNull() { std::fill_n(this->_values, Size, T(0)); }
 
@@ -66,7 +66,7 @@ public:
     T maxValue() const { return *std::max_element(this->_values, this->_values + Size); }
     RealType dist2(const PointInterface &other) const { return (*this - other).squareLength(); }
     RealType dist(const PointInterface &other) const { return (*this - other).length(); }
-    /// The vector from the origin to here.
+    /// The vector from the origin to this point.
     VectorType subZero() const { return VectorType(*this); }
 
     void negate();
@@ -114,11 +114,11 @@ public:
 
     T dot(const PointType &other) const;
     VectorInterface cross(const VectorInterface &other) const;
-    /// The angle between the two in radians, 0 to Pi.
+    /// The angle between the two vectors in radians, 0 to Pi.
     RealType enclosedAngle(const VectorInterface &other) const;
-    /// Becomes its own projection onto `direction`; returns the signed length of it.
+    /// Projects this vector onto `direction` and returns the signed length of the projection.
     RealType projectTo(const VectorInterface &direction);
-    /// The point that this vector leads to from the origin.
+    /// The point at this vector from the origin.
     const PointType &addToZero() const { return *this; }
 
     VectorInterface operator-() const { return VectorInterface(*this) *= T(-1); }

@@ -4,9 +4,8 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// A region of space that bounds what is in it. A new volume is valid and empty. An invalid one
-/// waits to be computed anew, a static one is never invalidated, an infinite one contains
-/// everything.
+/// A bounding volume. A new volume is valid and empty. An invalid volume has to be computed again.
+/// A static volume never becomes invalid. An infinite volume contains everything.
 class Volume
 {
 public:
@@ -24,7 +23,7 @@ public:
 
     /// Static volumes stay valid.
     void setValid(bool value = true);
-    /// An emptied volume is valid.
+    /// An empty volume is valid.
     void setEmpty(bool value = true);
     void setStatic(bool value = true) { put(OSGSTATIC, value); }
     void setInfinite(bool value = true) { put(OSGINFINITE, value); }
@@ -35,16 +34,17 @@ public:
     Pnt3f getMin() const;
     Pnt3f getMax() const;
 
-    /// Grow as little as possible to contain the point or the volume. An invalid, infinite or
-    /// static volume stays as it is, and an empty or invalid one adds nothing.
+    /// Extends the volume by as little as possible to contain the point or the other volume.
+    /// Invalid, infinite and static volumes do not change. Empty and invalid arguments are ignored.
     virtual void extendBy(const Pnt3f &point) = 0;
     virtual void extendBy(const Volume &volume) = 0;
 
-    /// False for empty volumes, true for infinite ones; volumes meet where their boxes do.
+    /// Returns false for empty volumes and true for infinite ones. Two volumes intersect if their
+    /// boxes do.
     virtual bool intersect(const Pnt3f &point) const = 0;
     virtual bool intersect(const Volume &volume) const;
 
-    /// Becomes a volume that contains this one after the transformation.
+    /// Replaces the volume by one that contains the transformed volume.
     virtual void transform(const Matrix &matrix) = 0;
     virtual void dump() const = 0;
 
@@ -54,7 +54,8 @@ protected:
     Volume &operator=(const Volume &) = default;
 
     bool isExtendable() const { return isValid() && !isInfinite() && !isStatic(); }
-    /// Whether `volume` takes part in extending; infinity is passed on here.
+    /// Returns whether this volume must be extended by `volume`. Makes this volume infinite if
+    /// `volume` is.
     bool contributes(const Volume &volume);
 
 private:

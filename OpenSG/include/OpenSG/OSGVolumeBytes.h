@@ -4,14 +4,13 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// A volume as bytes: what it is, the state it is in and where it lies. Unlike the text this loses
-/// nothing.
+/// A volume as bytes: type, state and numbers. Unlike the text it is complete.
 struct VolumeBytes
 {
-    /// One of DynamicVolume::Type; anything but a sphere is a box.
+    /// A DynamicVolume::Type. Unknown numbers mean a box.
     UInt32 type;
     UInt32 state;
-    /// Two corners, or center and radius.
+    /// The two corners, or center and radius.
     Real32 numbers[6];
 
     static VolumeBytes of(const BoxVolume &box);

@@ -9,7 +9,7 @@ OSG_BEGIN_NAMESPACE
 
 namespace {
 
-// Whatever the locale.
+// Independent of the locale.
 std::string lowered(std::string text)
 {
     std::transform(text.begin(), text.end(), text.begin(),

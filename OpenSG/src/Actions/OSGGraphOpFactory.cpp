@@ -29,7 +29,7 @@ void GraphOpFactory::unRegisterOp(const char *name)
     }
 }
 
-// Deliberate: clients that list the operations are used to finding unknown names, too.
+// Deliberate: an unknown name is entered in the list with NULL. Clients rely on it.
 GraphOp *GraphOpFactory::create(const char *name)
 {
     GraphOp *prototype = name ? _prototypes[name] : nullptr;

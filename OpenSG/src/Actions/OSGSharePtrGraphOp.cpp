@@ -34,9 +34,9 @@ void appendText(const Field &field, BinaryDataHandler &key)
     text.copyToBin(key);
 }
 
-// A type of others may have a binary form that does not tell its values apart, or none at all; then
-// its text may do so. Everything is preceded by its size, or is followed by what cannot begin
-// another of its kind: no two fields run into each other.
+// The key of a value type of a client has its text too, because different values may have the same
+// binary form. Each part begins with its size or ends with a mark, so that different fields never
+// give the same key.
 void appendFieldKey(Field &field, BinaryDataHandler &key)
 {
     const FieldSyntax::Kind kind = FieldSyntax::of(field.getType()).kind;
@@ -69,7 +69,7 @@ void appendKey(const FieldContainerPtr &container, BinaryDataHandler &key)
     }
 }
 
-// The same for equal containers only.
+// Two containers have the same key only if they are equal.
 std::string keyOf(const FieldContainerPtr &container)
 {
     BinaryDataHandler bytes;
@@ -79,7 +79,7 @@ std::string keyOf(const FieldContainerPtr &container)
     return key;
 }
 
-/// A container on the way from a core to what is below it.
+// A container on the path from a core to the container that is visited.
 struct Level
 {
     explicit Level(const FieldContainerPtr &container)
@@ -143,7 +143,7 @@ Action::ResultE SharePtrGraphOp::traverseEnter(NodePtr &node)
     return Action::Continue;
 }
 
-// What the targets of a container refer to comes first: they may be equal afterwards.
+// Depth first: targets may become equal after their own targets have been shared.
 void SharePtrGraphOp::shareBelow(const FieldContainerPtr &core)
 {
     std::vector<Level> path;

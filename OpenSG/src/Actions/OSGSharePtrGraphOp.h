@@ -9,8 +9,8 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// Lets pointers to equal containers of some types lead to one of them. Containers are equal if
-/// they are of one type, have the same values and attachments and refer to the same containers.
+/// Makes pointers to equal containers of some types point to one of them. Containers are equal if
+/// they have the same type, values, attachments and targets of pointers.
 class SharePtrGraphOp : public GraphOp
 {
     typedef GraphOp Inherited;
@@ -21,7 +21,8 @@ public:
     explicit SharePtrGraphOp(const char *name = "SharePtr");
     GraphOp *create() override;
 
-    /// `includes=Type,Type,...`: the types, and all derived from them, to share. None by default.
+    /// `includes=Type,Type,...`: containers of these types and of types derived from them are
+    /// shared. No types by default.
     void setParams(const std::string params) override;
     std::string usage() override;
     bool traverse(NodePtr &root) override;

@@ -8,8 +8,8 @@ namespace {
 
 constexpr UInt32 fetchedAhead = 4;
 
-// Nodes lie scattered in memory: waiting for them is what a traversal mostly does. Those that come
-// next are on their way while others are visited.
+// Nodes are scattered in memory, so a traversal mostly waits for memory. This prefetches a node
+// that is visited soon.
 void fetchChild(const NodePtr &node, UInt32 index)
 {
     const NodePtr child = index < node->getNChildren() ? node->getChild(index) : NodePtr();
@@ -37,7 +37,7 @@ Action::ResultE Traversal::visit(const NodePtr &root)
     return result;
 }
 
-// By index: a callback may add to the list.
+// By index, because a callback may add nodes to the list.
 Action::ResultE Traversal::visitAll(const std::vector<NodePtr> &nodes)
 {
     for (std::size_t i = 0; i < nodes.size(); ++i) {
@@ -60,7 +60,7 @@ void Traversal::forget(const NodePtr &node)
     }
 }
 
-// Leaves are left at once: most nodes are, and they need no place on the path.
+// Most nodes have no children. They are left at once and not added to the path.
 Action::ResultE Traversal::enter(const NodePtr &node)
 {
     if (!node) {
@@ -79,7 +79,7 @@ Action::ResultE Traversal::enter(const NodePtr &node)
     return result;
 }
 
-// The next one to visit; null behind the last. A null child is passed over.
+// Returns the next child to visit and skips null children. Returns null after the last child.
 NodePtr Traversal::takeChild()
 {
     Level &level = _path.back();

@@ -8,20 +8,20 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// Walks trees depth first, in a loop: they may be deeper than the stack. Callbacks may change the
-/// tree: children count when it is their turn, and a node that is destroyed on the way is passed
-/// over from there on, neither its children are visited nor is it left.
+/// Visits trees depth first. It is a loop, because trees may be deeper than the stack. Callbacks
+/// may change the tree: the children of a node are those that it has when their turn comes. If a
+/// node on the path is destroyed, its remaining children are not visited and it is not left.
 class Traversal
 {
 public:
     Traversal(TraverseEnterFunctor enter, TraverseLeaveFunctor leave);
 
     Action::ResultE visit(const NodePtr &root);
-    /// The list may grow, but its nodes have to live until it is their turn.
+    /// The list may grow meanwhile. Its nodes must exist until their turn comes.
     Action::ResultE visitAll(const std::vector<NodePtr> &nodes);
 
 private:
-    /// A node that was entered and not left yet; null when it has been destroyed since.
+    /// A node that was entered and not left yet. Null after its destruction.
     struct Level
     {
         NodePtr node;

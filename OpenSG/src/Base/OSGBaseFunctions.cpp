@@ -24,14 +24,14 @@ struct PhaseLists
 };
 
 // Static objects of any translation unit add to the lists, and osgExit may run after static
-// objects have died: the lists are made on first use and stay.
+// objects have been destroyed. So the lists are made at their first use and never destroyed.
 PhaseLists &phaseLists()
 {
     static PhaseLists *const lists = new PhaseLists;
     return *lists;
 }
 
-// The list is emptied first, so that a function may add to it without disturbing the loop.
+// The list is emptied before the loop, because a function may add to it.
 bool runAll(Functions &functions)
 {
     const Functions toRun = std::exchange(functions, {});

@@ -121,7 +121,7 @@ void BoxVolume::dump() const
     osgLog() << "BoxVolume " << _min << ", " << _max << endLog;
 }
 
-// Deliberate: the upper z is left out and so is the state. Clients were written against this.
+// Deliberate: the comparison ignores the upper z and the state. Clients rely on it.
 bool BoxVolume::operator==(const BoxVolume &other) const
 {
     return _min.equals(other._min, 0) && _max.x() == other._max.x() && _max.y() == other._max.y();

@@ -9,7 +9,7 @@ namespace {
 constexpr Real32 sector = 60.f;
 constexpr Real32 fullCircle = 360.f;
 
-// Sectors from the primary that dominates: red 0, green 2, blue 4.
+// The dominant primary selects the sector: 0 for red, 2 for green, 4 for blue.
 Real32 hueOf(const Real32 rgb[3], UInt32 dominant, Real32 range)
 {
     if (range <= 0) {

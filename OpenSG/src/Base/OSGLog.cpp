@@ -11,7 +11,7 @@ namespace {
 
 constexpr const Char8 *levelNames[] = { "LOG", "FATAL", "WARNING", "NOTICE", "INFO", "DEBUG" };
 
-// The environment wins over the program, unless the program insists.
+// An environment variable overrides the program, unless the program uses force.
 bool isFixed(const Char8 *variable, bool force)
 {
     return !force && std::getenv(variable);
@@ -106,7 +106,7 @@ void Log::doLog(const Char8 *format, ...)
     write(text.data(), static_cast<std::streamsize>(text.size() - 1)).flush();
 }
 
-// Never destroyed: static objects log while they are taken down.
+// Never destroyed, because destructors of static objects write to the log.
 Log &osgLog()
 {
     static Log *const log = new Log;

@@ -10,7 +10,8 @@ constexpr Matrix3 unit { { { 1, 0, 0 }, { 0, 1, 0 }, { 0, 0, 1 } } };
 constexpr int maxIterations = 64;
 constexpr Real64 converged = 1e-14;
 
-// Rows are the cross products of a's rows: the inverse transposed times the determinant.
+// The rows are the cross products of the rows of `a`. The result equals the transposed inverse
+// times the determinant.
 Matrix3 cofactors(const Matrix3 &a)
 {
     Matrix3 result;
@@ -32,8 +33,9 @@ Real64 determinant(const Matrix3 &a, const Matrix3 &cofactor)
         + a.m[0][2] * cofactor.m[0][2];
 }
 
-// The orthogonal factor of the polar decomposition: the mean of a matrix and its inverse
-// transposed, repeated, converges to it. A singular matrix has none; the unit stands in.
+// The orthogonal factor of the polar decomposition. The iteration replaces a matrix by the mean of
+// itself and its transposed inverse until it converges. A singular matrix has no such factor, so
+// the result is the identity.
 Matrix3 orthogonalFactor(Matrix3 a)
 {
     for (int iteration = 0; iteration < maxIterations; ++iteration) {
@@ -67,11 +69,11 @@ Matrix3 negated(Matrix3 a)
     return a;
 }
 
-// The rotation in the plane of axes p and q that makes s[p][q] vanish.
+// The rotation in the plane of the axes p and q that makes s[p][q] zero.
 Matrix3 planeRotation(const Matrix3 &s, int p, int q)
 {
     const Real64 angle = std::atan2(2 * s.m[p][q], s.m[q][q] - s.m[p][p]) / 2;
-    // Axes keep their names: of the two solutions the one of at most 45 degrees.
+    // Of the two solutions, the one up to 45 degrees does not exchange the axes.
     const Real64 small = std::remainder(angle, std::acos(0.0));
     Matrix3 result = unit;
     result.m[p][p] = result.m[q][q] = std::cos(small);
@@ -85,7 +87,7 @@ Real64 offDiagonal(const Matrix3 &s)
     return std::fabs(s.m[0][1]) + std::fabs(s.m[0][2]) + std::fabs(s.m[1][2]);
 }
 
-// Jacobi's method: the axes in which the symmetric matrix `s` is diagonal; `s` becomes so.
+// Jacobi's method. Makes the symmetric matrix `s` diagonal and returns the axes for this.
 Matrix3 diagonalize(Matrix3 &s)
 {
     Matrix3 axes = unit;

@@ -14,7 +14,7 @@ Matrix3 product(const Matrix3 &a, const Matrix3 &b);
 Matrix3 transposed(const Matrix3 &a);
 
 /// The factors of a = rotation * scaleOrientation * diagonal(scale) * scaleOrientation^T. Both
-/// rotations are proper; a mirroring shows as negative scale.
+/// rotations are proper. A mirroring gives negative scale factors.
 struct Decomposition
 {
     Matrix3 rotation;

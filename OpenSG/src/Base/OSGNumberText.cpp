@@ -18,7 +18,7 @@ locale_t classicLocale()
     return locale;
 }
 
-// The longest is a long double such as -1.234567e+4932.
+// The longest number is a long double such as -1.234567e+4932.
 constexpr int longestNumber = 32;
 
 template <class... Format> void appendChars(std::string &out, Format... format)
@@ -29,9 +29,9 @@ template <class... Format> void appendChars(std::string &out, Format... format)
 
 constexpr int decimals = 6;
 
-// Nearly all reals are plain decimals, which from_chars reads several times as fast as strtod. What
-// it does not read in the same way (white space and signs in front, hexadecimal, numbers out of
-// range) is left to strtod.
+// Nearly all reals are plain decimals. from_chars reads these several times as fast as strtod.
+// strtod still reads what from_chars treats differently: leading white space and signs,
+// hexadecimal numbers, numbers out of range.
 template <class T> bool readPlainReal(const char *text, T &value)
 {
     const auto [end, error] = std::from_chars(text, text + std::strlen(text), value);

@@ -17,7 +17,7 @@ template <class T> std::array<T, 4> readFour(const Char8 *text)
 
 template <class T> constexpr T degrees = static_cast<T>(180 / 3.14159265358979323846);
 
-// Below this the sine of the half angle is too small to divide by.
+// A shorter axis is not divided by: the sine of the half angle is too small.
 template <class T> constexpr T shortestAxis = static_cast<T>(1e-6);
 
 template <class T>
@@ -33,7 +33,7 @@ VectorInterface<T, VecStorage3<T>> anyNormalTo(const VectorInterface<T, VecStora
 
 template <class T> void QuaternionBase<T>::setValue(const MatrixType &m)
 {
-    // The largest component is found first and the others divided by it, which is stable.
+    // Dividing by the largest component is numerically stable.
     const T trace = m[0][0] + m[1][1] + m[2][2];
     T squares[4] = { 0, 0, 0, 1 + trace };
     for (UInt32 i = 0; i < 3; ++i) {
@@ -58,7 +58,8 @@ template <class T> void QuaternionBase<T>::setValue(const MatrixType &m)
 
 template <class T> void QuaternionBase<T>::setValue(const VectorType &from, const VectorType &to)
 {
-    // Cross and dot product are the quaternion of the full turn; the identity added halves it.
+    // Cross and dot product form the quaternion of twice the rotation. Adding the identity halves
+    // it.
     const T lengths = from.length() * to.length();
     const T w = from.dot(to) + lengths;
     if (w <= shortestAxis<T> * lengths) {

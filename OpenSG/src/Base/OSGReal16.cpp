@@ -25,11 +25,11 @@ UInt16 magnitudeBits(Real32 value)
     }
     int exponent = 0;
     std::frexp(value, &exponent);
-    // Below the smallest normal number the exponent stays and the mantissa loses digits.
+    // Numbers below the smallest normal number share one exponent and have fewer digits.
     const int stored = value == 0 ? 0 : std::max(exponent - 1 + exponentBias, 0);
     const int scale = mantissaBits + exponentBias - std::max(stored, 1);
     const auto mantissa = std::lrint(std::ldexp(value, scale));
-    // A normal number's leading bit lies in the exponent's lowest bit, hence the difference.
+    // The leading bit of a normal number adds 1 to the stored exponent, so 1 is subtracted here.
     return static_cast<UInt16>(((std::max(stored, 1) - 1) << mantissaBits) + mantissa);
 }
 

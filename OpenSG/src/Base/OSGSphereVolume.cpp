@@ -41,7 +41,7 @@ void SphereVolume::extendBy(const Volume &volume)
     extendBy(center, sphere ? sphere->getRadius() : center.dist(high));
 }
 
-// The sphere around two spheres reaches from the far end of the one to that of the other.
+// The sphere around two spheres reaches from the far end of one to the far end of the other.
 void SphereVolume::extendBy(const Pnt3f &center, Real32 radius)
 {
     const Vec3f way = center - _center;

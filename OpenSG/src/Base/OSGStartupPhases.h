@@ -4,18 +4,18 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// osgInit runs the functions of one phase after the other, osgExit those of the matching phases
-/// from last to first; within a phase start functions run in the order in which they were added
-/// and stop functions in reverse.
+/// osgInit runs the start functions phase by phase, in the order in which they were added. osgExit
+/// runs the stop functions in reverse order of phases and of addition.
 enum class StartupPhase { BeforeThreads, Threads, ContainerTypes, Running, Count };
 
 void addStartFunction(StartupPhase phase, InitFuncF function);
 void addStopFunction(StartupPhase phase, ExitFuncF function);
 
-/// Loads what preloadSharedObject and the environment name.
+/// Loads the shared objects that preloadSharedObject and the environment name.
 void loadSharedObjects();
 
-/// A static object of this type adds to a phase; the layers above register themselves so.
+/// A static object of this type adds functions to a phase. Later rooms register themselves in this
+/// way.
 struct StartupRegistration
 {
     StartupRegistration(StartupPhase phase, InitFuncF start, ExitFuncF stop = nullptr)

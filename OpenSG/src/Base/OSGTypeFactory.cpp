@@ -9,7 +9,7 @@ TypeFactory::TypeFactory()
 {
 }
 
-// Never destroyed: types that are static objects take their leave after main has ended.
+// Never destroyed, because types that are static objects unregister after the end of main.
 TypeFactory *TypeFactory::the()
 {
     static TypeFactory *const factory = new TypeFactory;

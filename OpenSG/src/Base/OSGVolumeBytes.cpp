@@ -10,7 +10,7 @@ VolumeBytes VolumeBytes::of(const BoxVolume &box)
         { low.x(), low.y(), low.z(), high.x(), high.y(), high.z() } };
 }
 
-// An instance may have changed without the volume around it having been told yet.
+// The instance may have changed since the volume around it was last updated.
 VolumeBytes VolumeBytes::of(const DynamicVolume &volume)
 {
     VolumeBytes bytes {};

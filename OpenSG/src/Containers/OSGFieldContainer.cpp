@@ -14,7 +14,7 @@ OSG_BEGIN_NAMESPACE
 
 namespace {
 
-/// One call deeper as long as it lives.
+// Counts a level of nested calls for the life of a scope.
 class Nested
 {
 public:
@@ -34,7 +34,7 @@ private:
 
 FieldContainerType FieldContainer::_type("FieldContainer");
 
-// The copy is another container, with a count and an id of its own.
+// The copy has its own header, with its own reference count and id.
 FieldContainer::FieldContainer(const FieldContainer &)
 {
 }
@@ -159,8 +159,9 @@ void FieldContainer::enterInStore(const FieldContainerPtr &container)
     }
 }
 
-// A container may take others along, these further ones, and so on: what lies too deep for the
-// stack waits in a list, which holds a reference to it, until the first of them has gone.
+// A container's destruction may destroy others, and so on. Beyond maxDepth containers go into a
+// list instead, so that the stack does not overflow. The list holds a reference to each. The
+// outermost call destroys them.
 void FieldContainer::destroy()
 {
     constexpr UInt32 maxDepth = 64;
@@ -187,8 +188,9 @@ void FieldContainer::destroy()
     }
 }
 
-// It holds a reference to itself: a client that takes and drops one meanwhile must not destroy it
-// again. An exception goes no further: handles are dropped in destructors.
+// The container holds a reference to itself meanwhile. Otherwise a client that adds and drops
+// a reference in onDestroy would destroy it a second time. Exceptions end here, because references
+// are dropped in destructors.
 void FieldContainer::destroyNow()
 {
     header().refCount = 1;

@@ -11,7 +11,7 @@ OSG_BEGIN_NAMESPACE
 
 namespace {
 
-// The prototypes are nobody's change.
+// The creation of prototypes is no change that clients should see.
 bool initializeContainerTypes()
 {
     const bool complete = FieldContainerFactory::the()->initializePendingTypes();
@@ -23,7 +23,8 @@ const StartupRegistration containerTypes(StartupPhase::ContainerTypes, initializ
 
 } // namespace
 
-// Never destroyed: handles and types that are static objects take their leave after main ended.
+// Never destroyed, because handles and types that are static objects are destroyed after the end of
+// main.
 FieldContainerFactory *FieldContainerFactory::the()
 {
     static FieldContainerFactory *const factory = new FieldContainerFactory;

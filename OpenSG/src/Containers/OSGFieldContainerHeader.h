@@ -6,7 +6,7 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// Stands in front of every container in the same block of memory.
+/// The block of memory of a container begins with this header. The object follows.
 struct alignas(std::max_align_t) FieldContainer::Header
 {
     Int32 refCount = 0;

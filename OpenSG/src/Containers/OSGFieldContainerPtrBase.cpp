@@ -55,7 +55,8 @@ void subRefCP(const FieldContainerPtrBase &handle)
     }
 }
 
-// The new container is referenced first: the old one may be all that keeps it alive.
+// The new container gets its reference first, because the old container may hold the only other
+// one.
 void setRefdCP(FieldContainerPtrBase &handle, const FieldContainerPtrBase &newHandle)
 {
     if (handle == newHandle) {

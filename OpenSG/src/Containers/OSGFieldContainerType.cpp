@@ -30,8 +30,8 @@ FieldContainerType::FieldContainerType(const Char8 *szName, const Char8 *szParen
     }
 }
 
-// A prototype has to go while the code of its class is still loaded. At the end of the process
-// it stays: containers of other libraries may be destroyed after this and look at it.
+// The prototype is destroyed while the code of its class is still loaded. At the end of the process
+// it is not destroyed, because containers of other libraries may still use it.
 FieldContainerType::~FieldContainerType()
 {
     FieldContainerFactory::the()->unregisterType(this);
@@ -126,7 +126,7 @@ void FieldContainerType::dump(UInt32 uiIndent, const BitVector) const
     }
 }
 
-// A type that is asked for while it looks for its parent is its own ancestor.
+// A type that is initialized again while it looks for its parent is its own ancestor.
 bool FieldContainerType::initialize()
 {
     if (_initialized || _isInitializing) {

@@ -21,7 +21,7 @@ std::string boxText(const Volume &box)
     return listOf({ low.x(), low.y(), low.z(), high.x(), high.y(), high.z() });
 }
 
-// Deliberate: the center's y stands where its z belongs. Files in use are written so.
+// Deliberate: the y of the center is written in the place of its z. Existing files have this form.
 std::string sphereText(const SphereVolume &sphere)
 {
     const Pnt3f &center = sphere.getCenter();

@@ -16,7 +16,7 @@ struct ContentSyntax
 {
     FieldSyntax::Kind kind;
     UInt32 count;
-    /// The cardinalities that all readers understand.
+    // The cardinalities that all readers of the format understand.
     Forms common;
 };
 
@@ -53,7 +53,7 @@ const SyntaxTable scalars {
     { "VoidP", { FieldSyntax::None, 0, Neither } },
 };
 
-// Of all vectors and points, these are in the files of every program.
+// All programs know these vectors and points in files.
 bool isCommonVector(const std::string &name)
 {
     return name == "Vec2f" || name == "Vec3f" || name == "Vec4f" || name == "Pnt3f";

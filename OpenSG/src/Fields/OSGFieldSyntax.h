@@ -6,8 +6,8 @@ OSG_BEGIN_NAMESPACE
 
 class FieldType;
 
-/// How the values of a field stand in an ASCII scene file. The field's own type decides, not the
-/// one that it is described with.
+/// The form of a field's values in an ASCII scene file. It depends on the type of the field itself,
+/// not on the type in the field's description.
 struct FieldSyntax
 {
     enum Kind {
@@ -15,20 +15,20 @@ struct FieldSyntax
         String,
         Integers,
         Reals,
-        Volume, // six reals of a box, four of a sphere
+        Volume, // six reals for a box, four for a sphere
         Pointers,
         Attachments,
-        Text, // a type that the format does not know: its text as a string
+        Text, // a type unknown to the format, written as a string
         None // a type without text
     };
 
     Kind kind;
-    /// Numbers that make up one value.
+    /// The count of numbers in one value.
     UInt32 count;
-    /// Whether all readers of the format understand the field. There are some that know neither
-    /// 64-bit integers nor lists of bool, to name two.
+    /// True if all readers of the format understand the field. Some readers do not know 64-bit
+    /// integers or lists of bool, for example.
     bool isCommon;
-    /// Whether values may stand in brackets.
+    /// True if the values may be in brackets.
     bool isList;
 
     static FieldSyntax of(const FieldType &type);

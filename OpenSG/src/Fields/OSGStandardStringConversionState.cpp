@@ -38,8 +38,8 @@ std::string &StandardStringConversionState::addValueStr(std::string &value, std:
     return outStr;
 }
 
-// Deliberate: without values there is no separator to take back, and what goes instead are the
-// first two characters of the text, normally two blanks of the indent. Files are laid out so.
+// Deliberate: an empty field has no last separator to remove. Its first two characters are removed
+// instead, which are normally two blanks of the indent. Existing files have this form.
 std::string &StandardStringConversionState::endField(const Field *pF, std::string &outStr)
 {
     if (_isMultiField) {

@@ -3,8 +3,8 @@
 #include <OpenSG/OSGMFieldTypeDef.inl>
 #include <OpenSG/OSGSFieldTypeDef.inl>
 
-/// The content type and the two field types of a row of OSGValueFieldTypes.h, and the code of the
-/// two fields.
+/// Defines the content type, the two field types and the code of the two fields for a row of
+/// OSGValueFieldTypes.h.
 #define OSG_VALUE_DEFINITION(Type, nameSpace, Name, contentName, parentName, Base)                 \
     DataType FieldTraitsSelector<Type, nameSpace>::Traits::_type(contentName, parentName);         \
     OSG_DLLEXPORT_SFIELD_DEF2(Type, nameSpace, );                                                  \

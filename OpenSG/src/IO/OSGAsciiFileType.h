@@ -4,7 +4,7 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// The ASCII format, suffix "osg".
+/// The ASCII format. Its suffix is "osg".
 class AsciiFileType : public SceneFileType
 {
 public:

@@ -6,18 +6,19 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// What reader and writer of ASCII scene files share.
+/// Shared by the reader and the writer of ASCII scene files.
 namespace AsciiFormat {
 
-/// First line of a file. Deliberate: the blank at its end belongs to it.
+/// First line of a file. Deliberate: it ends with a blank.
 constexpr const Char8 *header = "#OSG V1.0 ";
 
-/// Containers that a file has inside each other, more than which are neither written nor read. The
-/// limit bounds the stack; and since lines are indented by their depth, files that need more are of
-/// no use. A scene may be deeper than its file, by USE, and by names and cores that reading adds.
+/// Deeper nested containers are neither written nor read. The limit bounds the stack, and the size
+/// of files, because lines are indented by their depth. A scene may be deeper than its file by USE
+/// and by the names and cores that reading adds.
 constexpr std::size_t maxDepth = 1000;
 
-/// For the log: a value that the format cannot tell, or not to everybody.
+/// Reports a value that the format cannot store, or that some readers of the format do not
+/// understand.
 inline void report(const Char8 *owner, const Char8 *fieldName, const std::string &problem)
 {
     SWARNING << "Scene file, field " << fieldName << " of " << owner << ": " << problem << endLog;

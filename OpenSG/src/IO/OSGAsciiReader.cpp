@@ -32,7 +32,7 @@ std::string_view withoutByteOrderMark(std::string_view text)
     return startsWith(text, byteOrderMark) ? text.substr(byteOrderMark.size()) : text;
 }
 
-// To the scanner the line is a comment.
+// Checked here, because for the scanner the line is a comment.
 void checkHeader(std::string_view text)
 {
     if (startsWith(text, "#") && !startsWith(text, AsciiFormat::header)) {
@@ -57,7 +57,7 @@ void addDefaultCore(const NodePtr &node)
     }
 }
 
-// An internal pointer is the other side of one that stands elsewhere in the file.
+// An internal pointer is the counterpart of a pointer elsewhere in the file.
 bool isReadable(const FieldContainerPtr &owner, const FieldDescription &description)
 {
     const Field *field = owner->getField(description.getFieldId());
@@ -217,7 +217,8 @@ bool AsciiReader::readField(const FieldContainerPtr &owner)
                       : readValues(field, syntax);
 }
 
-// A list may come element by element, and at the end of an edit its owner goes through all.
+// The edit of a field stays open until another field follows. A list may be written element by
+// element, and at the end of an edit its owner goes through the whole list.
 void AsciiReader::edit(BitVector field)
 {
     OpenContainer &open = _open.back();
@@ -233,7 +234,7 @@ void AsciiReader::edit(BitVector field)
     }
 }
 
-// A field that comes again goes on with the list it has read.
+// A repeated field continues its list.
 bool AsciiReader::startsList(const Field &field, const FieldDescription &description)
 {
     BitVector &started = _open.back().startedFields;
@@ -257,7 +258,7 @@ bool AsciiReader::readPointers(PointerField field)
     return true;
 }
 
-// A list goes on behind an element of an unknown type, unless it lacks its bracket.
+// An element of an unknown type is skipped. A field name means that the closing bracket is missing.
 bool AsciiReader::readListedPointer(PointerField &field, const FieldContainerType &owner)
 {
     const bool isName = _cursor.at(SceneToken::Identifier);

@@ -15,19 +15,19 @@ OSG_BEGIN_NAMESPACE
 
 struct FieldSyntax;
 
-/// Makes the containers that the text of an ASCII scene file describes.
+/// Makes containers from the text of an ASCII scene file.
 ///
-/// What it does not understand it reports in the log, with line and token, and skips: unknown
-/// containers with all that is in them, otherwise up to the next field of the container that is
-/// being read.
+/// Errors are reported in the log, with line and token, and skipped. Unknown containers are skipped
+/// with their contents. After other errors the reader skips to the next field of the current
+/// container.
 class AsciiReader
 {
 public:
-    /// The text must outlive the reader. Lists of values are appended to those that new containers
-    /// have, or replace them.
+    /// The text must outlive the reader. If `replacesLists` is true, lists in the file replace the
+    /// lists of new containers; if false, they are appended.
     AsciiReader(std::string_view text, bool replacesLists, SceneFileType::Progress progress);
 
-    /// The containers at the top of the file; nobody holds a reference to them yet.
+    /// Returns the containers at the top of the file. They have no references.
     FCPtrStore read();
 
 private:
@@ -35,11 +35,12 @@ private:
     {
         FieldContainerPtr container;
         BitVector startedFields = 0;
-        /// Of the field that was read last, whose edit goes on until another begins.
+        // The field that was read last. Its edit is open.
         BitVector editedField = 0;
     };
 
-    // Each stands on the first token of what it reads. False: the text goes on in an unknown way.
+    // When these are called, the current token is the first one of what they read. They return
+    // false if the text does not continue as expected.
     bool readField(const FieldContainerPtr &owner);
     void edit(BitVector field);
     bool startsList(const Field &field, const FieldDescription &description);
@@ -66,9 +67,9 @@ private:
     SceneFileType::Progress _progress;
     std::size_t _size;
     ContainerKeeper _keeper;
-    /// By name; where several containers have the same, the first.
+    // The first container of each name.
     std::unordered_map<std::string, FieldContainerPtr> _definitions;
-    /// The containers whose bodies are being read, outermost first.
+    // The containers whose bodies are being read, outermost first.
     std::vector<OpenContainer> _open;
 };
 

@@ -13,7 +13,7 @@ OSG_BEGIN_NAMESPACE
 
 namespace {
 
-/// Beyond what any type of real can hold, so that it reads back as infinite.
+// Greater than the maximum of all real types, so that it is read as infinite.
 constexpr const Char8 *infinite = "1.000000e+9999";
 constexpr const Char8 *zero = "0.000000e+00";
 
@@ -30,7 +30,7 @@ std::string withSingleBlanks(std::string text)
     return text;
 }
 
-// A quote gets a backslash, and so does a backslash that would be taken for the one of an escape.
+// Adds a backslash before each quote, and before each backslash that would start an escape.
 std::string withEscapes(const std::string &text)
 {
     std::string result;
@@ -113,7 +113,7 @@ std::string AsciiValues::quoted(const Field &field, UInt32 index)
     return '"' + withEscapes(text) + '"';
 }
 
-// The text of a sphere has the y of its centre in the place of z, too.
+// The text of a sphere has the y of its center in the place of the z.
 void AsciiValues::reportDepth(const DynamicVolume &volume) const
 {
     Pnt3f center;

@@ -8,19 +8,22 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// The values of a field as they stand in an ASCII scene file.
+/// Writes the values of a field in the form of ASCII scene files.
 ///
-/// Some values have no form of their own in the format. What is written instead is reported in the
-/// log: of a number that is none, 0; of the z of a sphere, its y; of blanks, tabs and line ends in
-/// a string, one blank, unless they are kept. A quote in a string is protected by a backslash,
-/// which is reported, too, since not every program writes it so. Lines never end inside a string.
+/// The format cannot store some values. Substitutes are written and reported in the log:
+/// - 0 for NaN
+/// - the y of a sphere's center for its z
+/// - one blank for blanks, tabs and line ends in a string, unless they are kept
+/// - a backslash before a quote in a string, because some programs do not read it
+///
+/// Lines never end inside a string.
 class AsciiValues
 {
 public:
-    /// \param owner what reports call the field, the owner's type
+    /// Reports name the field by the type of its owner and its own name.
     AsciiValues(bool keepsWhiteSpace, const Char8 *owner, const Char8 *fieldName);
 
-    /// In lines that begin with `indent` blanks and are at most `width` characters long besides.
+    /// Lines begin with `indent` blanks and have at most `width` further characters.
     std::string write(const Field &field, const FieldSyntax &syntax, UInt32 indent, UInt32 width);
 
 private:

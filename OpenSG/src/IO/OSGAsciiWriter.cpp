@@ -18,7 +18,8 @@ constexpr UInt32 indentStep = 4;
 constexpr UInt32 listWidth = 60;
 constexpr UInt32 unlimitedWidth = std::numeric_limits<UInt32>::max();
 constexpr std::size_t blockSize = 1 << 16;
-constexpr UInt32 bindingMask = 0xffff; // of a key in an attachment map
+// The binding in a key of an attachment map.
+constexpr UInt32 bindingMask = 0xffff;
 
 bool isDefault(const FieldContainerPtr &owner, const Field &field, UInt32 id)
 {
@@ -138,7 +139,7 @@ void AsciiWriter::writeField(
     }
 }
 
-// Deliberate: the bracket that closes the list has a blank before and after it.
+// Deliberate: the closing bracket of the list has a blank before and after it.
 void AsciiWriter::writeAttachments(const Field &field, UInt32 indent)
 {
     bool isFirst = true;

@@ -12,17 +12,17 @@ OSG_BEGIN_NAMESPACE
 class AsciiValues;
 struct FieldSyntax;
 
-/// Writes a container, and all that it refers to, as an ASCII scene file. Every field that is not
-/// internal is written, with one exception: one of a type that some readers of the format stumble
-/// over is left out while it has the value of a new container. What will not read back as it is
-/// (bindings of attachments, empty places in lists, some values) is reported in the log.
+/// Writes a container and all containers that it refers to as an ASCII scene file. Fields that are
+/// not internal are written. A field of a type that some readers of the format do not understand is
+/// written only if it differs from the field of a new container. Everything that cannot be read
+/// back (bindings of attachments, empty places in lists, some values) is reported in the log.
 class AsciiWriter
 {
 public:
     AsciiWriter(std::ostream &out, bool keepsWhiteSpace, SceneFileType::Progress progress);
 
-    /// False, and a line in the log, if the graph is too deep for the format. The stream is the
-    /// caller's to check.
+    /// Returns false, with a line in the log, if the graph is too deep for the format. The caller
+    /// has to check the stream.
     bool write(const FieldContainerPtr &root);
 
 private:

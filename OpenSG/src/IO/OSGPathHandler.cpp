@@ -6,7 +6,7 @@ OSG_BEGIN_NAMESPACE
 
 namespace {
 
-// Anything that can be read will do, a pipe as well.
+// Anything that can be read is accepted, for example a pipe.
 bool isFile(const std::filesystem::path &path)
 {
     std::error_code error;

@@ -30,7 +30,7 @@ PointerField::Kind PointerField::kindOf(const FieldContainerPtr &owner, const Fi
     return field.getCardinality() == FieldType::MULTI_FIELD ? Kind::List : Kind::Single;
 }
 
-// A core among the children gets a node around it.
+// A core is accepted as a child, because add() makes a node for it.
 bool PointerField::accepts(const FieldContainerType &type) const
 {
     switch (_kind) {
@@ -69,7 +69,8 @@ void PointerField::add(const FieldContainerPtr &container)
     }
 }
 
-// Whoever walks over nodes would never come back, and materials that hold each other never go.
+// Traversals of a circle of nodes never end. Materials that reference each other are never
+// destroyed.
 bool PointerField::mustBeTree(const FieldContainerType &type) const
 {
     return _kind == Kind::Children || type.isDerivedFrom(Material::getClassType());

@@ -4,21 +4,20 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// A pointer field of a container that is being read: what it takes and how that gets in. Where the
-/// owner's class has a method for it, that is what is called.
+/// A pointer field of a container that is being read. It knows which containers the field accepts
+/// and how to add them. It calls the method of the owner's class where there is one.
 class PointerField
 {
 public:
-    /// `field` is a field of pointers, or an attachment map, of the owner.
+    /// `field` is a pointer field or an attachment map of `owner`.
     PointerField(const FieldContainerPtr &owner, Field &field, bool keepsEmptyPlaces);
 
-    /// Whether containers of the type can be put in.
     bool accepts(const FieldContainerType &type) const;
-    /// Puts in what is accepted. Null takes away what a single pointer refers to; lists skip it
-    /// unless they keep empty places, which those of children and attachments do not have.
+    /// Adds a container of an accepted type, or null. Null clears a single pointer. Lists skip null
+    /// unless they keep empty places; lists of children and attachments always skip it.
     void add(const FieldContainerPtr &container);
     bool isList() const { return _kind != Kind::Single && _kind != Kind::Core; }
-    /// Whether it must not lead back to its owner.
+    /// True if a container of the type must not refer back to the owner, directly or indirectly.
     bool mustBeTree(const FieldContainerType &type) const;
 
 private:

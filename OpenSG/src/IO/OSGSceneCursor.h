@@ -8,8 +8,8 @@ OSG_BEGIN_NAMESPACE
 
 class FieldContainerType;
 
-/// Goes through the tokens of a scene file: tells what stands there, complains about what should
-/// not, and gets past it.
+/// Goes through the tokens of a scene file. Tests the current token, reports wrong tokens and skips
+/// them.
 class SceneCursor
 {
 public:
@@ -25,19 +25,19 @@ public:
     void advance() { _scanner.advance(); }
 
     bool at(SceneToken::Kind kind) const { return _scanner.token().kind == kind; }
-    /// One of the reserved words.
+    /// True if the current token is this reserved word.
     bool atWord(std::string_view word) const;
-    /// The beginning of a container.
+    /// True if a container begins at the current token.
     bool atNode() const;
-    /// NULL if no type has the name that stands there.
+    /// Returns NULL if the current token is not the name of a type.
     const FieldContainerType *typeAtToken() const;
 
-    /// Reports the token as an error; always false. There is one line for each token, however many
-    /// levels fail at it.
+    /// Reports the current token as an error and returns false. Repeated calls for the same token
+    /// give only one line in the log.
     bool fail();
-    /// Skips a token, or all up to the bracket that closes the one it is.
+    /// Skips the current token. If it is an opening bracket, skips up to the closing bracket.
     void skipGroup();
-    /// Skips what should have been a container: perhaps its type, perhaps its body.
+    /// Skips the type and the body of a container, if they are there.
     void skipNode();
 
 private:

@@ -22,8 +22,7 @@ namespace {
 
 GraphOpSeq standardSequence("SharePtr(includes=Material,StateChunk)");
 
-/// Turns amounts into per cent for a callback, which it does not call more often than anybody
-/// could see.
+// Calls a callback with the progress in per cent, but not more often than a user can see.
 class ThrottledProgress
 {
 public:
@@ -63,7 +62,7 @@ bool hasPlaceInScene(const FieldContainerPtr &container)
     return NodePtr::dcast(container) || NodeCorePtr::dcast(container);
 }
 
-// The new root of all. A node that the file uses again further down has found its place already.
+// Makes the root of the scene. A node that the file uses again further down has a parent already.
 NodePtr makeRoot(const FCPtrStore &containers)
 {
     const NodePtr root = makeCoredNode<Group>();
@@ -92,7 +91,8 @@ void reportLost(const NamesById &names)
     }
 }
 
-// What has no place in a scene goes, with all that belongs to nothing else. Null if that is all.
+// Makes the scene. Containers that cannot be part of a scene are destroyed, with everything that
+// only they refer to. Returns null if nothing is left.
 NodePtr gather(const FCPtrStore &containers)
 {
     FCPtrStore strangers;
@@ -112,8 +112,8 @@ NodePtr gather(const FCPtrStore &containers)
     return root;
 }
 
-// What the operations take out of the scene lives as long as they run: a pointer that counts
-// nothing may lead to it.
+// Containers that the operations remove from the scene must exist until all operations have run,
+// because pointers without a reference may lead to them.
 FCPtrStore withOperations(FCPtrStore containers, GraphOpSeq *operations)
 {
     if (!operations) {
@@ -136,7 +136,8 @@ NodePtr withOperations(const NodePtr &root, GraphOpSeq *operations)
     return NodePtr::dcast(withOperations(FCPtrStore { root }, operations).front());
 }
 
-constexpr const Char8 *streamName = "the stream"; // in the log
+// Used in the log.
+constexpr const Char8 *streamName = "the stream";
 
 void reportNoScene(const Char8 *name)
 {
@@ -269,7 +270,7 @@ const SceneFileType *SceneFileHandler::findType(const Char8 *fileNameOrExtension
     return type;
 }
 
-// The type of the file, ready to be read; NULL if it cannot be.
+// Opens the file and returns its type. Returns NULL if it cannot be read.
 const SceneFileType *SceneFileHandler::open(const Char8 *fileName, std::ifstream &file)
 {
     const SceneFileType *type = findType(fileName, SceneFileType::OSG_READ_SUPPORTED);

@@ -60,7 +60,8 @@ bool is(CharacterClass which, char character)
     return classTable[static_cast<UInt8>(character)] & which;
 }
 
-// The words of the format's ancestor VRML, most of which mean nothing in scene files.
+// The reserved words of VRML, from which the format is derived. Most have no meaning in scene
+// files.
 bool isReserved(std::string_view word)
 {
     static const std::unordered_set<std::string_view> words { "DEF", "USE", "NULL", "IS", "ROUTE",
@@ -214,7 +215,8 @@ std::size_t SceneScanner::hexLength(std::size_t sign) const
     return end > prefix + 2 ? end - _next : 0;
 }
 
-// Digits, perhaps a point and more digits, perhaps an exponent; 0 if there is no digit before it.
+// Returns the length of a real number: digits, optionally a point and digits, optionally an
+// exponent. Returns 0 if there is no digit before the exponent.
 std::size_t SceneScanner::realLength(std::size_t sign) const
 {
     std::size_t end = _next + sign;

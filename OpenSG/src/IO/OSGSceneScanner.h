@@ -24,27 +24,27 @@ struct SceneToken
     };
 
     Kind kind = End;
-    /// As it stands in the file; a string without its quotes, but with its escapes.
+    /// The characters in the file. A string is without its quotes but with its escapes.
     std::string_view text;
-    /// Counted from 1; of a string, the line where it begins.
+    /// The line of the first character, counted from 1.
     UInt32 line = 1;
 };
 
-/// Cuts the text of an ASCII scene file into tokens. White space and commas separate them, `#`
-/// begins a comment that ends with the line. The text must outlive the scanner.
+/// Splits the text of an ASCII scene file into tokens. White space and commas separate tokens. A
+/// `#` begins a comment that ends with the line. The text must outlive the scanner.
 class SceneScanner
 {
 public:
-    /// Stands on the first token from the start.
+    /// The first token is the current one.
     explicit SceneScanner(std::string_view text);
 
     const SceneToken &token() const { return _token; }
-    /// At the end of the text it stays there.
+    /// At the end of the text it does nothing.
     void advance();
-    /// How much of the text has been scanned, the token included.
+    /// The count of characters that have been scanned, including the current token.
     std::size_t position() const { return _next; }
 
-    /// Whether the whole text is one identifier, and not a reserved word.
+    /// True if the whole text is one identifier and not a reserved word.
     static bool isIdentifier(std::string_view text);
 
 private:

@@ -57,7 +57,7 @@ bool SceneValueReader::readString()
     return true;
 }
 
-// Fields take a text up to its first null character.
+// Fields read a text only up to its first null character.
 void SceneValueReader::leaveOutNulls()
 {
     const auto end = std::remove(_text.begin(), _text.end(), '\0');
@@ -81,7 +81,7 @@ bool SceneValueReader::readNumbers(UInt32 count, bool areReals)
     return true;
 }
 
-// Whether it is a box or a sphere shows only by the number of numbers.
+// Six numbers make a box, four a sphere.
 bool SceneValueReader::readVolume()
 {
     constexpr UInt32 sphereCount = 4;

@@ -8,8 +8,7 @@ OSG_BEGIN_NAMESPACE
 
 struct FieldSyntax;
 
-/// Takes the tokens of one value from a scanner and puts them together as the text that fields
-/// read.
+/// Takes the tokens of one value from a scanner and joins them to a text that a field can read.
 class SceneValueReader
 {
 public:
@@ -18,7 +17,8 @@ public:
     {
     }
 
-    /// False if the tokens are no such value; the scanner then stands on the first wrong one.
+    /// Returns false if the tokens are no such value. The current token is then the first wrong
+    /// one.
     bool read(const FieldSyntax &syntax);
     const std::string &text() const { return _text; }
 

@@ -45,8 +45,8 @@ const std::string &SharedContainers::giveName(const FieldContainerPtr &container
     return name;
 }
 
-// Deliberate: a name that another container has taken is not used again, as a reader would take
-// the one for the other.
+// Deliberate: each name is used for one container only. A reader would confuse two containers with
+// the same name.
 std::string SharedContainers::makeName(const FieldContainerPtr &container) const
 {
     const Char8 *ownName = getName(AttachmentContainerPtr::dcast(container));

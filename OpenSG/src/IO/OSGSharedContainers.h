@@ -8,20 +8,19 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// Knows which containers of a graph are reached more than once, and gives these the names by which
-/// a file refers to them: their own, if that can be told from all others, or one made of type and
-/// id.
+/// Knows which containers of a graph are reached more than once and names them for a file. The name
+/// is that of the container, if it is usable and unique, else it is made from type and id.
 class SharedContainers
 {
 public:
     explicit SharedContainers(const FieldContainerPtr &root);
 
-    /// Of different containers.
+    /// The count of different containers.
     std::size_t count() const { return _entries.size(); }
     bool isShared(const FieldContainerPtr &container) const;
-    /// Empty until it has one.
+    /// Returns an empty text before giveName.
     const std::string &name(const FieldContainerPtr &container) const;
-    /// Gives it one.
+    /// Chooses the name and returns it.
     const std::string &giveName(const FieldContainerPtr &container);
 
 private:

@@ -4,8 +4,8 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// Lays out the strings of a field without touching what is in them: lines end between strings
-/// only, where the next one would make them longer than `width`.
+/// Lays out the strings of a field and leaves their contents alone. A line ends only between
+/// strings, if the next string would make it longer than `width`.
 class UnbrokenStringState : public StringConversionStateBase
 {
 public:

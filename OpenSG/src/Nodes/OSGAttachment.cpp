@@ -16,7 +16,8 @@ void Attachment::addParent(FieldContainerPtr parent)
     _mfParents.push_back(parent);
 }
 
-// From the back: what is taken down goes from there, and an attachment may have very many parents.
+// Searches from the back. An attachment may have very many parents, and scenes are destroyed from
+// the back.
 void Attachment::subParent(FieldContainerPtr parent)
 {
     const auto found = std::find(_mfParents.rbegin(), _mfParents.rend(), parent);

@@ -37,7 +37,7 @@ void AttachmentContainer::forEachHeld(const HeldFunction &function) const
     }
 }
 
-// The argument may be the handle in the map that is about to be replaced.
+// The argument may be the handle in the map that this function replaces, so it is copied.
 void AttachmentContainer::addAttachment(const AttachmentPtr &newAttachment, UInt16 binding)
 {
     const AttachmentPtr attachment = newAttachment;

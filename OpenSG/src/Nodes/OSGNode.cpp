@@ -37,8 +37,8 @@ Node::Node(const Node &source)
     exchangeCore(source.getCore());
 }
 
-// Children have no parent any more when the first of them goes. The last ones go first: cores and
-// attachments that they share look for their parents from the back.
+// All children lose their parent before the first of them is destroyed. The last child is destroyed
+// first, because shared cores and attachments search for their parents from the back.
 Node::~Node()
 {
     NodeDestructionWatch::tell(NodePtr(this));
@@ -152,7 +152,7 @@ void Node::setParent(const NodePtr &parent)
     _sfParent.setValue(parent);
 }
 
-// The reference comes first: leaving the earlier parent must not destroy the child.
+// The reference comes first, so that the earlier parent does not destroy the child.
 void Node::takeAsChild(const NodePtr &child)
 {
     addRefCP(child);
@@ -219,7 +219,8 @@ void Node::getWorldVolume(DynamicVolume &result)
     }
 }
 
-// Children stand behind their parents in the list, so that from its end each is ready in time.
+// The list has children behind their parents. Going through it from the end, every node is computed
+// after its children.
 void Node::updateVolume()
 {
     std::vector<Node *> outdated;
@@ -258,7 +259,7 @@ void Node::computeVolume()
     volume.instanceChanged();
 }
 
-// A volume that is invalid already says that those above it are, too.
+// If a volume is invalid, the volumes above it are invalid already.
 void Node::invalidateVolume()
 {
     for (Node *node = this; node && node->getVolume().isValid();

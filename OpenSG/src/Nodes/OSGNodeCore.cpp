@@ -35,7 +35,7 @@ void NodeCore::addParent(const NodePtr &parent)
     _mfParents.push_back(parent);
 }
 
-// From the back: a tree takes its nodes down from there, and a core may have very many parents.
+// Searches from the back. A core may have very many parents, and trees are destroyed from the back.
 void NodeCore::subParent(const NodePtr &parent)
 {
     const auto found = std::find(_mfParents.rbegin(), _mfParents.rend(), parent);

@@ -6,8 +6,8 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// Calls a function for each node that its thread destroys. Watches of one thread must end in the
-/// reverse order of their beginning.
+/// Calls a function for each node that its thread destroys. The watches of a thread must be
+/// destroyed in the reverse order of their construction.
 class NodeDestructionWatch
 {
 public:

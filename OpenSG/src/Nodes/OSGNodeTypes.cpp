@@ -6,7 +6,7 @@
 
 OSG_BEGIN_NAMESPACE
 
-// These members of container types stand here, since they know the classes of nodes.
+// These members of FieldContainerType are in this room because they need the classes of nodes.
 
 FieldContainerType::Family FieldContainerType::findFamily() const
 {

@@ -34,7 +34,7 @@ NodePtr TreeCopy::of(const NodePtr &root)
     return result;
 }
 
-// All nodes come first: pointers to them are found anywhere.
+// All nodes are copied first, because any container may point to them.
 NodePtr TreeCopy::copyNodes(const NodePtr &root)
 {
     std::vector<std::pair<NodePtr, NodePtr>> nodes { { root, NodePtr::dcast(makeCopy(root)) } };
@@ -99,7 +99,7 @@ void TreeCopy::followField(const FieldContainerPtr &copy, const FieldDescription
     endEditCP(copy, description.getFieldMask());
 }
 
-// The copy shares the attachments so far, all with binding 0.
+// At this point the copy shares the attachments of the original, all with binding 0.
 void TreeCopy::followAttachments(AttachmentContainer &original, const AttachmentContainerPtr &copy)
 {
     beginEditCP(copy, AttachmentContainer::AttachmentsFieldMask);

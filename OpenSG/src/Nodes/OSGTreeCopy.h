@@ -11,11 +11,11 @@ OSG_BEGIN_NAMESPACE
 
 class AttachmentContainer;
 
-/// Copies one tree with all that it refers to, except containers of the types that stay shared.
+/// Copies a tree and all containers that it refers to, except containers of the shared types.
 class TreeCopy
 {
 public:
-    /// `sharedTypes` are names separated by commas; an unknown one is reported in the log.
+    /// `sharedTypes` are names separated by commas. Unknown names are reported in the log.
     explicit TreeCopy(const std::string &sharedTypes);
 
     NodePtr of(const NodePtr &root);
@@ -31,7 +31,7 @@ private:
 
     std::vector<const FieldContainerType *> _sharedTypes;
     std::unordered_map<UInt32, FieldContainerPtr> _copies;
-    // Originals and copies that still refer to what the originals refer to.
+    // Originals and their copies. The fields of these copies still refer to the original targets.
     std::vector<std::pair<FieldContainerPtr, FieldContainerPtr>> _pending;
 };
 

@@ -73,7 +73,8 @@ void Geometry::hold(UInt32 fieldId, const AttachmentPtr &property)
     held = property;
 }
 
-// Properties that came without a setter, from a scene file say, are held from the edit's end on.
+// Adds references to properties that were assigned without their setter, by a scene file for
+// example.
 void Geometry::holdFields(BitVector whichField)
 {
     for (UInt32 id = TypesFieldId; id <= IndicesFieldId; ++id) {

@@ -15,7 +15,7 @@ typedef TriangleBuilder::Vertex Vertex;
 constexpr UInt32 leastSides = 3;
 constexpr UInt16 maxSphereDepth = 8;
 
-// A face of a box: `normal` points outwards, `right` and `up` span it.
+// Adds a face of a box. `normal` points outwards. `right` and `up` are the half sides of the face.
 void addFace(TriangleBuilder &builder, const Vec3f &normal, const Vec3f &right, const Vec3f &up,
     UInt32 columns, UInt32 rows)
 {
@@ -27,7 +27,7 @@ void addFace(TriangleBuilder &builder, const Vec3f &normal, const Vec3f &right, 
     });
 }
 
-// A horizontal disc that faces up or down.
+// Adds a horizontal disc that faces up or down.
 void addDisc(TriangleBuilder &builder, Real32 height, Real32 radius, UInt32 sides, bool up)
 {
     const Vec3f normal(0.f, up ? 1.f : -1.f, 0.f);
@@ -44,7 +44,7 @@ void addDisc(TriangleBuilder &builder, Real32 height, Real32 radius, UInt32 side
     }
 }
 
-// The side of a cylinder or cone around the y axis.
+// Adds the side of a cylinder or cone around the y axis.
 void addMantle(TriangleBuilder &builder, Real32 height, Real32 bottom, Real32 top, UInt32 sides)
 {
     builder.addGrid(sides, 1, [&](Real32 u, Real32 v) {
@@ -57,7 +57,7 @@ void addMantle(TriangleBuilder &builder, Real32 height, Real32 bottom, Real32 to
     });
 }
 
-// Divides the faces of an icosahedron on the sphere.
+// Makes a sphere by dividing the faces of an icosahedron.
 class SphereBuilder
 {
 public:

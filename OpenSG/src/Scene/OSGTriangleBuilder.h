@@ -7,7 +7,7 @@
 
 OSG_BEGIN_NAMESPACE
 
-/// Collects vertices and triangles and makes a geometry of them.
+/// Collects vertices and triangles and makes a geometry from them.
 class TriangleBuilder
 {
 public:
@@ -18,16 +18,16 @@ public:
         Vec2f texCoord;
     };
 
-    /// The vertex's index.
+    /// Returns the index of the vertex.
     UInt32 addVertex(const Vertex &vertex);
     Pnt3f position(UInt32 index) const { return _vertices[index].position; }
-    /// Counter-clockwise as seen from the front.
+    /// The vertices are counter-clockwise, seen from the front.
     void addTriangle(UInt32 a, UInt32 b, UInt32 c);
-    /// A surface over the unit square, seen from where u runs right and v up.
+    /// Adds a surface over the unit square. In front of it, u increases to the right and v upwards.
     void addGrid(
         UInt32 columns, UInt32 rows, const std::function<Vertex(Real32 u, Real32 v)> &surface);
 
-    /// The geometry, with the shared default material; null before osgInit.
+    /// Returns the geometry, with the shared default material. Returns null before osgInit.
     GeometryPtr finish() const;
 
 private:

@@ -10,7 +10,7 @@ OSG_BEGIN_NAMESPACE
 
 namespace {
 
-// Of the chunks of each type, by the type's id, in the order of their slots.
+// Type id to the indices of the chunks of that type, in the order of their slots.
 typedef std::unordered_map<UInt32, std::vector<UInt32>> IndicesByType;
 
 IndicesByType indicesByType(const MFStateChunkPtr &chunks)
@@ -79,7 +79,8 @@ void ChunkMaterial::clearChunks()
     _heldChunks.follow(_mfChunks);
 }
 
-// Puts each chunk where State::addChunk would, which looks through the whole list every time.
+// The result is the same as that of State::addChunk for each chunk. That function searches the
+// whole list each time.
 void ChunkMaterial::fillState(State &state)
 {
     MFStateChunkPtr &chunks = state.getChunks();

@@ -56,18 +56,19 @@ const TypeInfo *findType(Int32 type)
     return found != std::end(types) ? found : nullptr;
 }
 
-/// More than that an image of the largest size does not have.
+// An image of the largest size has this many mipmaps.
 constexpr UInt32 maxMipMaps = 31;
 
 constexpr double maxSize = std::numeric_limits<Int32>::max();
 
-// Each mipmap is half as large as the one before in every direction, but never below 1.
+// Each mipmap has half the size of the previous one in each direction, but at least 1.
 double halved(Int32 size, UInt32 level)
 {
     return std::max(size >> level, 1);
 }
 
-// In numbers that the product of three sizes does not overflow. None unless all three are positive.
+// The result is real, because the product of three sizes may overflow integers. It is 0 unless all
+// sizes are positive.
 double pixelsOfMipMaps(Int32 width, Int32 height, Int32 depth, UInt32 count)
 {
     if (std::min({ width, height, depth }) < 1) {
@@ -137,8 +138,8 @@ void Image::changed(BitVector whichField, UInt32 origin)
     Inherited::changed(whichField, origin);
 }
 
-// A format that is not known here leaves its bytes per pixel to whoever set it. An image of
-// impossible size has none.
+// For an unknown format the bytes per pixel stay as they were set. If the size is impossible, the
+// derived sizes are 0.
 void Image::deriveSizes()
 {
     const FormatInfo *format = findFormat(getPixelFormat());
@@ -167,7 +168,7 @@ bool Image::hasAlphaChannel() const
     return format && format->hasAlpha;
 }
 
-// In bytes.
+// The offset of a mipmap in its side, in bytes.
 double Image::mipmapOffset(UInt32 mipmap) const
 {
     return pixelsOfMipMaps(getWidth(), getHeight(), getDepth(), mipmap) * getBpp();

@@ -9,7 +9,7 @@ OSG_BEGIN_NAMESPACE
 
 namespace {
 
-// A number of the header; comments between the numbers are passed over.
+// Reads a number of the header and skips comments before it.
 Int32 readNumber(std::istream &in)
 {
     while ((in >> std::ws).peek() == '#') {
@@ -28,7 +28,7 @@ std::streamoff bytesLeft(std::istream &in)
     return end - here;
 }
 
-// Files begin with the top row, images with the bottom one.
+// Files begin with the top row, images with the bottom row.
 void readRows(std::istream &in, Image &image, std::streamsize rowSize)
 {
     for (Int32 row = image.getHeight() - 1; row >= 0; --row) {

@@ -19,15 +19,15 @@ MaterialPtr chosenBy(const SwitchMaterial &choice)
     return at(choice.getMaterials(), choice.getChoice());
 }
 
-// Null if it is of another class. Derived ones are others, too: they may look for their parts in a
-// way of their own, and have to see to it that they come to an end.
+// Returns NULL for a material of another class, including derived classes. A derived class may
+// choose its parts differently and has to avoid endless loops itself.
 template <class MaterialT> const MaterialT *exactly(const MaterialPtr &material)
 {
     const bool isOfType = material->getType() == MaterialT::getClassType();
     return isOfType ? dynamic_cast<const MaterialT *>(material.getCPtr()) : nullptr;
 }
 
-// Materials can be nested deeper than calls fit on the stack, and in circles.
+// A loop, because materials can be nested deeper than the stack allows, and in circles.
 StatePtr stateOf(MaterialPtr material, UInt32 index)
 {
     std::set<std::pair<UInt32, UInt32>> visited;

@@ -25,7 +25,7 @@ bool ShaderParameterChunk::subUniformParameter(const Char8 *name)
     return true;
 }
 
-// The end of the edit takes the reference.
+// The reference is added when the edit ends.
 void ShaderParameterChunk::addParameter(const ShaderParameterPtr &parameter, const Char8 *name)
 {
     parameter->setName(name);

@@ -19,7 +19,7 @@ SimpleMaterial::SimpleMaterial(const SimpleMaterial &source)
 {
 }
 
-// The material's own chunks come first, so that those of its list can replace them.
+// The chunks made from the fields come first, so that chunks in the list can replace them.
 void SimpleMaterial::fillState(State &state)
 {
     createChunks();

@@ -29,7 +29,8 @@ StateChunkPtr State::getChunk(const FieldContainerType &type, UInt32 slot) const
     return index < _mfChunks.size() ? _mfChunks[index] : StateChunkPtr();
 }
 
-// The chunks of a type are in the order of their slots; the index is past the end for a new one.
+// Returns the index of the chunk of this type in this slot, or the size of the list if there is
+// none. The chunks of a type are in the order of their slots.
 UInt32 State::findSlot(const FieldContainerType &type, Int32 slot) const
 {
     UInt32 index = 0;
