@@ -98,7 +98,7 @@ protected:
     void executeSyncImpl(FieldContainer *pOther, const BitVector &whichField);
 
 private:
-    friend class ContainerKeeper;
+    friend class TemporaryReferences;
     friend class FieldContainerPtrBase;
     friend void addRefCP(const FieldContainerPtrBase &handle);
     friend void subRefCP(const FieldContainerPtrBase &handle);

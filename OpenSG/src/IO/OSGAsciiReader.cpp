@@ -89,7 +89,7 @@ FCPtrStore AsciiReader::read()
             containers.push_back(container);
         }
     }
-    _keeper.release(containers);
+    _references.release(containers);
     return containers;
 }
 
@@ -143,7 +143,7 @@ FieldContainerPtr AsciiReader::create(const std::string &name, const PointerFiel
     }
     _progress(_cursor.position(), _size);
     const FieldContainerPtr container = type->createFieldContainer();
-    _keeper.keep(container);
+    _references.add(container);
     if (!name.empty()) {
         define(name, container);
     }

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "IO/OSGContainerKeeper.h"
 #include "IO/OSGPointerField.h"
 #include "IO/OSGSceneCursor.h"
 #include "IO/OSGSceneValueReader.h"
+#include "IO/OSGTemporaryReferences.h"
 
 #include <OpenSG/OSGSceneFileType.h>
 
@@ -66,7 +66,7 @@ private:
     bool _replacesLists;
     SceneFileType::Progress _progress;
     std::size_t _size;
-    ContainerKeeper _keeper;
+    TemporaryReferences _references;
     // The first container of each name.
     std::unordered_map<std::string, FieldContainerPtr> _definitions;
     // The containers whose bodies are being read, outermost first.

@@ -1,7 +1,7 @@
 #include <OpenSG/OSGSceneFileHandler.h>
 
 #include "IO/OSGAsciiFileType.h"
-#include "IO/OSGContainerKeeper.h"
+#include "IO/OSGTemporaryReferences.h"
 
 #include <OpenSG/OSGFieldContainerFactory.h>
 #include <OpenSG/OSGGroup.h>
@@ -102,10 +102,10 @@ NodePtr gather(const FCPtrStore &containers)
     for (const FieldContainerPtr &stranger : strangers) {
         names.emplace_back(stranger.getFieldContainerId(), stranger->getTypeName());
     }
-    ContainerKeeper keeper;
-    keeper.keepAllFrom(strangers);
+    TemporaryReferences references;
+    references.addAllFrom(strangers);
     const NodePtr root = strangers.size() < containers.size() ? makeRoot(containers) : NodePtr();
-    keeper.release({ root });
+    references.release({ root });
     if (root) {
         reportLost(names);
     }
@@ -119,15 +119,15 @@ FCPtrStore withOperations(FCPtrStore containers, GraphOpSeq *operations)
     if (!operations) {
         return containers;
     }
-    ContainerKeeper keeper;
-    keeper.keepAllFrom(containers);
+    TemporaryReferences references;
+    references.addAllFrom(containers);
     for (FieldContainerPtr &container : containers) {
         if (NodePtr root = NodePtr::dcast(container)) {
             operations->traverse(root);
             container = root;
         }
     }
-    keeper.release(containers);
+    references.release(containers);
     return containers;
 }
 

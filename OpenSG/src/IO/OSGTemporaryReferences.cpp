@@ -1,4 +1,4 @@
-#include "IO/OSGContainerKeeper.h"
+#include "IO/OSGTemporaryReferences.h"
 
 #include "Containers/OSGFieldContainerHeader.h"
 #include "Nodes/OSGContainerTargets.h"
@@ -17,7 +17,7 @@ namespace {
 
 typedef std::vector<FieldContainerPtr> Containers;
 
-/// Internal attachments belong to their containers like all others.
+// Internal attachments belong to their containers too.
 void forEachReachedDirectly(const FieldContainerPtr &container, const TargetFunction &function)
 {
     forEachTarget(container, function);
@@ -30,7 +30,7 @@ void forEachReachedDirectly(const FieldContainerPtr &container, const TargetFunc
     }
 }
 
-/// The starts among them; each once.
+// Returns each reached container once, including the starts.
 Containers reachedFrom(const Containers &starts, std::unordered_set<UInt32> &ids)
 {
     Containers reached;
@@ -57,7 +57,7 @@ void removeAttachments(const FieldContainerPtr &container)
     }
 }
 
-/// Takes away those whose ids are not among these.
+// Removes the containers whose ids are not in `ids` and returns them.
 Containers takeAllBut(const std::unordered_set<UInt32> &ids, Containers &containers)
 {
     const auto others = std::stable_partition(
@@ -71,48 +71,48 @@ Containers takeAllBut(const std::unordered_set<UInt32> &ids, Containers &contain
 
 } // namespace
 
-Int32 &ContainerKeeper::refCount(const FieldContainerPtr &container)
+Int32 &TemporaryReferences::refCount(const FieldContainerPtr &container)
 {
     return container->header().refCount;
 }
 
-void ContainerKeeper::keep(const FieldContainerPtr &container)
+void TemporaryReferences::add(const FieldContainerPtr &container)
 {
     if (container) {
         ++refCount(container);
-        _kept.push_back(container);
+        _containers.push_back(container);
     }
 }
 
-void ContainerKeeper::keepAllFrom(const Containers &starts)
+void TemporaryReferences::addAllFrom(const Containers &starts)
 {
     std::unordered_set<UInt32> ids;
     for (const FieldContainerPtr &container : reachedFrom(starts, ids)) {
-        keep(container);
+        add(container);
     }
 }
 
-// Mostly every container has an owner by now, or is a result, which another reference of ours
-// marks: then there is no need to look at what leads where.
-void ContainerKeeper::release(const Containers &results)
+// Results get a second temporary reference. Usually each container then has more than one
+// reference, and no container has to be destroyed.
+void TemporaryReferences::release(const Containers &results)
 {
-    if (_kept.empty()) {
+    if (_containers.empty()) {
         return;
     }
-    std::for_each(results.begin(), results.end(), [this](const auto &result) { keep(result); });
-    const bool areAllOwned = std::all_of(
-        _kept.begin(), _kept.end(), [](const auto &container) { return refCount(container) > 1; });
+    std::for_each(results.begin(), results.end(), [this](const auto &result) { add(result); });
+    const bool areAllOwned = std::all_of(_containers.begin(), _containers.end(),
+        [](const auto &container) { return refCount(container) > 1; });
     if (!areAllOwned) {
         destroyAllButReachedFrom(results);
     }
-    for (const FieldContainerPtr &container : _kept) {
+    for (const FieldContainerPtr &container : _containers) {
         --refCount(container);
     }
-    _kept.clear();
+    _containers.clear();
 }
 
-// Those that have more references than the keeper's and the ones that they give each other.
-Containers ContainerKeeper::heldElsewhere(const Containers &containers)
+// Returns the containers with more references than the temporary one and those from each other.
+Containers TemporaryReferences::heldElsewhere(const Containers &containers)
 {
     std::unordered_map<UInt32, Int32> known;
     const auto count = [&](const FieldContainerPtr &container) {
@@ -132,8 +132,8 @@ Containers ContainerKeeper::heldElsewhere(const Containers &containers)
     return held;
 }
 
-// Containers that refer to each other in a circle do so by attachments somewhere.
-bool ContainerKeeper::destroyLost(Containers &containers)
+// Removing the attachments breaks circles of references.
+bool TemporaryReferences::destroyLost(Containers &containers)
 {
     std::unordered_set<UInt32> ids;
     reachedFrom(heldElsewhere(containers), ids);
@@ -143,16 +143,16 @@ bool ContainerKeeper::destroyLost(Containers &containers)
     return !lost.empty();
 }
 
-// What is held by a lost container that does not say so seems to be held elsewhere until that one
-// has gone. More rounds would be needed only by long chains of such containers.
-void ContainerKeeper::destroyAllButReachedFrom(const Containers &results)
+// Repeated, because a container may be referenced by a lost one whose class does not report it.
+// Only long chains of such containers need more rounds.
+void TemporaryReferences::destroyAllButReachedFrom(const Containers &results)
 {
     std::unordered_set<UInt32> ids;
     reachedFrom(results, ids);
-    Containers unreached = takeAllBut(ids, _kept);
+    Containers unreached = takeAllBut(ids, _containers);
     constexpr int maxRounds = 8;
     for (int round = 0; round < maxRounds && destroyLost(unreached); ++round) { }
-    _kept.insert(_kept.end(), unreached.begin(), unreached.end());
+    _containers.insert(_containers.end(), unreached.begin(), unreached.end());
 }
 
 OSG_END_NAMESPACE
