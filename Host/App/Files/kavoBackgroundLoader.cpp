@@ -5,7 +5,7 @@
 #include "Import/kavoAssimpParser.h"
 #include "Import/kavoIncrementalBuilder.h"
 #include "Import/kavoParsedFile.h"
-#include "Scene/kavoSceneCameras.h"
+#include "Scene/kavoCameraRegistry.h"
 
 #include <kavoLog.h>
 
@@ -116,7 +116,7 @@ void kavoBackgroundLoader::conclude()
     }
     if (!mayReplaceScene())
         return;
-    kavoSceneCameras::set(m_cameras);
+    kavoCameraRegistry::set(m_cameras);
     const QStringList partlyRead = m_partlyRead;
     reset();
     emit progress(100, QString());

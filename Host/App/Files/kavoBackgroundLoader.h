@@ -53,7 +53,7 @@ signals:
     void progress(int percent, const QString &what);
 
     /// Emitted with the new scene. It is destroyed after the signal unless a receiver references
-    /// the root, as kavoScenegraph::setRoot does. Its cameras are in kavoSceneCameras.
+    /// the root, as kavoScenegraph::setRoot does. Its cameras are in kavoCameraRegistry.
     /// \param partlyRead files of which only a part could be read
     void loaded(osg::NodePtr root, const QStringList &partlyRead);
 

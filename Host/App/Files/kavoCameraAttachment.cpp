@@ -1,6 +1,6 @@
 #include "Files/kavoCameraAttachment.h"
 
-#include "Scene/kavoSceneCameras.h"
+#include "Scene/kavoCameraRegistry.h"
 
 #include <OpenSG/OSGFieldContainerFactory.h>
 #include <OpenSG/OSGFieldContainerFields.h>
@@ -77,13 +77,13 @@ kavoCameraAttachment::List takeCameras(const osg::AttachmentPtr &map)
 kavoCameraAttachment::kavoCameraAttachment(const osg::NodePtr &root)
     : m_root(root)
 {
-    const std::vector<osg::UInt32> nodes = kavoSceneCameras::nodeIds();
+    const std::vector<osg::UInt32> nodes = kavoCameraRegistry::nodeIds();
     if (nodes.empty())
         return;
     const osg::AttachmentPtr map = findOrAddMap(root);
     const osg::CPEditor edit(map);
     for (const osg::UInt32 node : nodes)
-        Entries(map).add(kavoSceneCameras::at(node));
+        Entries(map).add(kavoCameraRegistry::at(node));
 }
 
 kavoCameraAttachment::~kavoCameraAttachment()

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Scene/kavoSceneEdits.h"
+#include "Scene/kavoEditDetector.h"
 
 #include <QObject>
 #include <QString>
@@ -49,7 +49,7 @@ private:
     void setModified(bool isModified);
 
     kavoOpenScene &m_scene;
-    kavoSceneEdits m_edits;
+    kavoEditDetector m_edits;
     QStringList m_files;
     QStringList m_partlyRead; ///< kept when the scene is saved elsewhere
     QString m_file;

@@ -5,11 +5,12 @@ kavoOpenScene::kavoOpenScene(QObject *parent)
     : QObject(parent)
 {
     connect(&m_monitor, &kavoChangeMonitor::changed, this, &kavoOpenScene::changed);
-    connect(&m_events, &kavoSceneEvents::sceneReset, this, &kavoOpenScene::replaced);
-    connect(&m_events, &kavoSceneEvents::selectionChanged, this, &kavoOpenScene::selectionChanged);
-    connect(&m_events, &kavoSceneEvents::materialRenderingRequested, this,
+    connect(&m_messages, &kavoHostMessages::sceneReset, this, &kavoOpenScene::replaced);
+    connect(
+        &m_messages, &kavoHostMessages::selectionChanged, this, &kavoOpenScene::selectionChanged);
+    connect(&m_messages, &kavoHostMessages::materialRenderingRequested, this,
         &kavoOpenScene::materialRenderingRequested);
-    connect(&m_index, &kavoSceneIndex::structureChanged, this, &kavoOpenScene::structureChanged);
-    connect(&m_index, &kavoSceneIndex::materialsChanged, this, &kavoOpenScene::materialsChanged);
-    connect(&m_index, &kavoSceneIndex::lightsChanged, this, &kavoOpenScene::lightsChanged);
+    connect(&m_index, &kavoCoreIndex::structureChanged, this, &kavoOpenScene::structureChanged);
+    connect(&m_index, &kavoCoreIndex::materialsChanged, this, &kavoOpenScene::materialsChanged);
+    connect(&m_index, &kavoCoreIndex::lightsChanged, this, &kavoOpenScene::lightsChanged);
 }

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "Scene/kavoChangeMonitor.h"
-#include "Scene/kavoSceneEvents.h"
-#include "Scene/kavoSceneIndex.h"
+#include "Scene/kavoCoreIndex.h"
+#include "Scene/kavoHostMessages.h"
 
 #include <QObject>
 
@@ -15,8 +15,8 @@ class kavoOpenScene : public QObject
     Q_OBJECT
 
 public:
-    using Entry = kavoSceneIndex::Entry;
-    using Entries = kavoSceneIndex::Entries;
+    using Entry = kavoCoreIndex::Entry;
+    using Entries = kavoCoreIndex::Entries;
 
     /// Needs osgInit with writable change lists. One object a process.
     explicit kavoOpenScene(QObject *parent = nullptr);
@@ -44,6 +44,6 @@ signals:
 
 private:
     kavoChangeMonitor m_monitor;
-    kavoSceneEvents m_events;
-    kavoSceneIndex m_index { m_events, m_monitor };
+    kavoHostMessages m_messages;
+    kavoCoreIndex m_index { m_messages, m_monitor };
 };

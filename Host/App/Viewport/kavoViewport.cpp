@@ -1,9 +1,9 @@
 #include "Viewport/kavoViewport.h"
 
 #include "Basics/kavoTry.h"
+#include "Scene/kavoCameraRegistry.h"
 #include "Scene/kavoContainers.h"
 #include "Scene/kavoOpenScene.h"
-#include "Scene/kavoSceneCameras.h"
 
 #include <OpenSG/OSGPerspectiveCamera.h>
 
@@ -84,8 +84,8 @@ void kavoViewport::fit()
 
 void kavoViewport::lookThroughActiveCamera()
 {
-    const osg::UInt32 id = kavoSceneCameras::activeNodeId();
-    const auto camera = osg::PerspectiveCameraPtr::dcast(kavoSceneCameras::at(id));
+    const osg::UInt32 id = kavoCameraRegistry::activeNodeId();
+    const auto camera = osg::PerspectiveCameraPtr::dcast(kavoCameraRegistry::at(id));
     if (camera == osg::NullFC)
         return;
     m_camera.place(kavoRenderItems::toMatrix(kavoContainers::node(id)->getToWorld()),

@@ -1,7 +1,7 @@
 #include "Views/kavoListKinds.h"
 
+#include "Scene/kavoCameraRegistry.h"
 #include "Scene/kavoContainers.h"
-#include "Scene/kavoSceneCameras.h"
 #include "Views/kavoCoreIcons.h"
 
 #include <OpenSG/OSGLight.h>
@@ -57,8 +57,8 @@ void setOn(const Entry &entry, bool on)
 kavoOpenScene::Entries cameraEntries()
 {
     kavoOpenScene::Entries entries;
-    for (const osg::UInt32 node : kavoSceneCameras::nodeIds()) {
-        const osg::UInt32 camera = kavoContainers::id(kavoSceneCameras::at(node));
+    for (const osg::UInt32 node : kavoCameraRegistry::nodeIds()) {
+        const osg::UInt32 camera = kavoContainers::id(kavoCameraRegistry::at(node));
         entries.push_back({ node, camera, camera });
     }
     return entries;
@@ -108,10 +108,10 @@ kavoListKind kavoListKinds::cameras()
         false,
         cameraEntries,
         [](const Entry &) { return kavoIconManager::getIcon("Camera"); },
-        [](const Entry &entry) { kavoSceneCameras::activate(entry.node); },
+        [](const Entry &entry) { kavoCameraRegistry::activate(entry.node); },
         {},
         {},
-        [](const Entry &entry) { return entry.node == kavoSceneCameras::activeNodeId(); },
+        [](const Entry &entry) { return entry.node == kavoCameraRegistry::activeNodeId(); },
         tr("The active camera"),
     };
 }

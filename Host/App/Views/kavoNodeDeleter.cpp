@@ -1,8 +1,8 @@
 #include "Views/kavoNodeDeleter.h"
 
+#include "Scene/kavoCameraRegistry.h"
 #include "Scene/kavoContainers.h"
 #include "Scene/kavoOpenScene.h"
-#include "Scene/kavoSceneCameras.h"
 
 #include <OpenSG/OSGLight.h>
 #include <kavoScenegraph.h>
@@ -33,8 +33,8 @@ void kavoNodeDeleter::deleteNode(osg::UInt32 id, const kavoOpenScene &scene)
         return;
     for (const kavoOpenScene::Entry &light : scene.lights())
         forgetBeacon(osg::LightPtr::dcast(kavoContainers::find(light.core)), node);
-    for (const osg::UInt32 camera : kavoSceneCameras::nodeIds())
-        forgetBeacon(kavoSceneCameras::at(camera), node);
+    for (const osg::UInt32 camera : kavoCameraRegistry::nodeIds())
+        forgetBeacon(kavoCameraRegistry::at(camera), node);
     const osg::NodePtr parent = node->getParent();
     const osg::CPEditor edit(parent, osg::Node::ChildrenFieldMask);
     parent->subChild(node);

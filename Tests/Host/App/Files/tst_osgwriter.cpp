@@ -3,7 +3,7 @@
 #include "Basics/kavoTaskError.h"
 #include "Files/kavoOsgReader.h"
 #include "Files/kavoOsgWriter.h"
-#include "Scene/kavoSceneCameras.h"
+#include "Scene/kavoCameraRegistry.h"
 #include <kavoScenegraph.h>
 #include <kavoTestHost.h>
 
@@ -101,7 +101,7 @@ QByteArray contents(const QString &file)
 void tst_OsgWriter::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
-    kavoSceneCameras::set({});
+    kavoCameraRegistry::set({});
     show(osg::NullFC);
 }
 
@@ -116,7 +116,7 @@ osg::NodePtr tst_OsgWriter::reload(const QString &file)
 {
     kavoOsgWriter::save(kavoScenegraph::getRoot(), file);
     const kavoOsgReader::Scene scene = kavoOsgReader::read(file);
-    kavoSceneCameras::set(scene.cameras);
+    kavoCameraRegistry::set(scene.cameras);
     show(osg::NodePtr(scene.root));
     return kavoScenegraph::getRoot();
 }
@@ -141,13 +141,13 @@ void tst_OsgWriter::aModelComesBackNodeByNode()
 void tst_OsgWriter::camerasComeBackWithTheirNodes()
 {
     open("Collada/cameras.dae");
-    const auto count = kavoSceneCameras::nodeIds().size();
+    const auto count = kavoCameraRegistry::nodeIds().size();
     QVERIFY(count > 0);
     const QByteArray beacon = kavoScenegraph::getNodeName(
-        kavoSceneCameras::at(kavoSceneCameras::nodeIds().front())->getBeacon());
+        kavoCameraRegistry::at(kavoCameraRegistry::nodeIds().front())->getBeacon());
     const osg::NodePtr scene = reload(path("cameras.osg"));
-    QCOMPARE(kavoSceneCameras::nodeIds().size(), count);
-    const osg::CameraPtr camera = kavoSceneCameras::at(kavoSceneCameras::nodeIds().front());
+    QCOMPARE(kavoCameraRegistry::nodeIds().size(), count);
+    const osg::CameraPtr camera = kavoCameraRegistry::at(kavoCameraRegistry::nodeIds().front());
     QCOMPARE(QByteArray(kavoScenegraph::getNodeName(camera->getBeacon())), beacon);
     QVERIFY(names(scene).filter(beacon).size() > 0);
 }
@@ -156,7 +156,7 @@ void tst_OsgWriter::savingLeavesNoTraceInTheScene()
 {
     const osg::NodePtr scene = open("Collada/cameras.dae");
     const auto before = scene->getSFAttachments()->getValue().size();
-    const osg::CameraPtr camera = kavoSceneCameras::at(kavoSceneCameras::nodeIds().front());
+    const osg::CameraPtr camera = kavoCameraRegistry::at(kavoCameraRegistry::nodeIds().front());
     const osg::Int32 references = camera.getRefCount();
     kavoOsgWriter::save(scene, path("a.osg"));
     QCOMPARE(scene->getSFAttachments()->getValue().size(), before);

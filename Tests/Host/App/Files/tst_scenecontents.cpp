@@ -1,8 +1,8 @@
 #include "kavoTestLoad.h"
 
 #include "Files/kavoBackgroundLoader.h"
+#include "Scene/kavoCameraRegistry.h"
 #include "Scene/kavoContainers.h"
-#include "Scene/kavoSceneCameras.h"
 #include <kavoLog.h>
 #include <kavoNodeUtils.h>
 #include <kavoScenegraph.h>
@@ -202,9 +202,9 @@ private slots:
     void aCameraIsPlacedByTheNodeOfItsName()
     {
         open("Collada/cameras.dae");
-        QCOMPARE(kavoSceneCameras::nodeIds().size(), std::size_t(3));
+        QCOMPARE(kavoCameraRegistry::nodeIds().size(), std::size_t(3));
         const osg::UInt32 node = kavoContainers::id(find("Camera_002"));
-        const auto camera = kavoSceneCameras::at(node);
+        const auto camera = kavoCameraRegistry::at(node);
         QVERIFY(camera != osg::NullFC);
         QVERIFY(camera->getBeacon() == find("Camera_002"));
         QCOMPARE(camera->getNear(), 0.1f);
@@ -213,8 +213,8 @@ private slots:
     void aCameraThatLooksElsewhereGetsABeaconOfItsOwn()
     {
         open(spider);
-        QCOMPARE(kavoSceneCameras::nodeIds().size(), std::size_t(1));
-        const osg::NodePtr beacon = kavoContainers::node(kavoSceneCameras::activeNodeId());
+        QCOMPARE(kavoCameraRegistry::nodeIds().size(), std::size_t(1));
+        const osg::NodePtr beacon = kavoContainers::node(kavoCameraRegistry::activeNodeId());
         QCOMPARE(kavoNodeUtils::getName(beacon), "Camera-beacon");
         QVERIFY(beacon->getParent() == find("Camera"));
     }

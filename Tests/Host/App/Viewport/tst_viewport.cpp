@@ -1,8 +1,8 @@
 #include "kavoTestLoad.h"
 
+#include "Scene/kavoCameraRegistry.h"
 #include "Scene/kavoContainers.h"
 #include "Scene/kavoOpenScene.h"
-#include "Scene/kavoSceneCameras.h"
 #include "Viewport/kavoViewport.h"
 #include <kavoScenegraph.h>
 #include <kavoTestHost.h>

@@ -1,9 +1,9 @@
 #include "kavoDragPayload.h"
 #include "kavoTestLoad.h"
 
+#include "Scene/kavoCameraRegistry.h"
 #include "Scene/kavoContainers.h"
 #include "Scene/kavoOpenScene.h"
-#include "Scene/kavoSceneCameras.h"
 #include "Views/kavoListKinds.h"
 #include "Views/kavoListView.h"
 #include "Views/kavoNodeDeleter.h"
@@ -49,7 +49,7 @@ private slots:
 
     void theFirstCameraIsActiveAndMarked()
     {
-        QCOMPARE(qint32(kavoSceneCameras::activeNodeId()), id("Camera"));
+        QCOMPARE(qint32(kavoCameraRegistry::activeNodeId()), id("Camera"));
         QCOMPARE(row(0).data().toString(), QString("Camera (active)"));
         QVERIFY(row(0).data(Qt::FontRole).value<QFont>().bold());
         QVERIFY(!row(1).data(Qt::FontRole).isValid());
@@ -90,7 +90,7 @@ private slots:
     {
         kavoNodeDeleter::deleteNode(osg::UInt32(id("Camera")), *m_scene);
         QTRY_COMPARE(m_view->model()->rowCount(), 2);
-        QCOMPARE(kavoSceneCameras::activeNodeId(), 0u);
+        QCOMPARE(kavoCameraRegistry::activeNodeId(), 0u);
     }
 
     void theCamerasOfASceneThatClosesAreGone()

@@ -1,4 +1,4 @@
-#include "Scene/kavoSceneEvents.h"
+#include "Scene/kavoHostMessages.h"
 
 #include <kavoCallNames.h>
 #include <kavoController.h>
@@ -6,18 +6,18 @@
 
 namespace {
 
-kavoSceneEvents *listener = nullptr;
+kavoHostMessages *listener = nullptr;
 
 void requestMaterialRendering(kavoMessage &)
 {
     // Queued, because the caller may be within an edit.
     QMetaObject::invokeMethod(
-        listener, &kavoSceneEvents::materialRenderingRequested, Qt::QueuedConnection);
+        listener, &kavoHostMessages::materialRenderingRequested, Qt::QueuedConnection);
 }
 
 } // namespace
 
-kavoSceneEvents::kavoSceneEvents()
+kavoHostMessages::kavoHostMessages()
     : kavoModuleBase(
         "Scene Views", "Host", kavoMessageIds::sceneLoaded | kavoMessageIds::selectionChanged)
 {
@@ -25,13 +25,13 @@ kavoSceneEvents::kavoSceneEvents()
     kavoController::addCB(kavoCallNames::updateMatRender, requestMaterialRendering);
 }
 
-kavoSceneEvents::~kavoSceneEvents()
+kavoHostMessages::~kavoHostMessages()
 {
     kavoController::subCB(kavoCallNames::updateMatRender, requestMaterialRendering);
     listener = nullptr;
 }
 
-bool kavoSceneEvents::receivedMessage(kavoMessage &message)
+bool kavoHostMessages::receivedMessage(kavoMessage &message)
 {
     if (message.id() == kavoMessageIds::selectionChanged)
         emit selectionChanged();

@@ -1,9 +1,9 @@
-#include "Scene/kavoSceneIndex.h"
+#include "Scene/kavoCoreIndex.h"
 
 #include "Scene/kavoChangeMonitor.h"
 #include "Scene/kavoContainers.h"
+#include "Scene/kavoHostMessages.h"
 #include "Scene/kavoNodeWalk.h"
-#include "Scene/kavoSceneEvents.h"
 
 #include <OpenSG/OSGLight.h>
 #include <OpenSG/OSGMaterialGroup.h>
@@ -28,20 +28,20 @@ bool structureChangedIn(const kavoChanges &changes)
 
 } // namespace
 
-bool kavoSceneIndex::Entry::operator==(const Entry &other) const
+bool kavoCoreIndex::Entry::operator==(const Entry &other) const
 {
     return node == other.node && core == other.core && content == other.content;
 }
 
-kavoSceneIndex::kavoSceneIndex(kavoSceneEvents &events, kavoChangeMonitor &monitor, QObject *parent)
+kavoCoreIndex::kavoCoreIndex(kavoHostMessages &events, kavoChangeMonitor &monitor, QObject *parent)
     : QObject(parent)
 {
-    connect(&events, &kavoSceneEvents::sceneReset, this, &kavoSceneIndex::rebuild);
-    connect(&monitor, &kavoChangeMonitor::changed, this, &kavoSceneIndex::update);
+    connect(&events, &kavoHostMessages::sceneReset, this, &kavoCoreIndex::rebuild);
+    connect(&monitor, &kavoChangeMonitor::changed, this, &kavoCoreIndex::update);
     rebuild();
 }
 
-void kavoSceneIndex::rebuild()
+void kavoCoreIndex::rebuild()
 {
     Entries materials, lights;
     m_root = kavoContainers::id(kavoScenegraph::getRoot());
@@ -59,7 +59,7 @@ void kavoSceneIndex::rebuild()
         emit lightsChanged();
 }
 
-void kavoSceneIndex::collect(const osg::NodePtr &node, Entries &materials, Entries &lights) const
+void kavoCoreIndex::collect(const osg::NodePtr &node, Entries &materials, Entries &lights) const
 {
     const auto id = &kavoContainers::id;
     const osg::NodeCorePtr core = node->getCore();
@@ -69,7 +69,7 @@ void kavoSceneIndex::collect(const osg::NodePtr &node, Entries &materials, Entri
         lights.push_back({ id(node), id(core), id(core) });
 }
 
-void kavoSceneIndex::update(const kavoChanges &changes)
+void kavoCoreIndex::update(const kavoChanges &changes)
 {
     const bool structure = structureChangedIn(changes);
     if (structure || changes.destroyed.contains(m_root) || materialWasReplaced(changes))
@@ -78,7 +78,7 @@ void kavoSceneIndex::update(const kavoChanges &changes)
         emit structureChanged();
 }
 
-bool kavoSceneIndex::materialWasReplaced(const kavoChanges &changes) const
+bool kavoCoreIndex::materialWasReplaced(const kavoChanges &changes) const
 {
     return std::any_of(m_materials.begin(), m_materials.end(), [&](const Entry &entry) {
         return changes.contains(entry.core, osg::MaterialGroup::MaterialFieldMask);

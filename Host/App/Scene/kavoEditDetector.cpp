@@ -1,4 +1,4 @@
-#include "Scene/kavoSceneEdits.h"
+#include "Scene/kavoEditDetector.h"
 
 #include "Scene/kavoChanges.h"
 #include "Scene/kavoContainers.h"
@@ -41,12 +41,12 @@ bool isSaved(const osg::FieldDescription &field, const osg::FieldContainerPtr &c
 
 } // namespace
 
-void kavoSceneEdits::reset()
+void kavoEditDetector::reset()
 {
     m_firstNewId = osg::UInt32(store().size());
 }
 
-bool kavoSceneEdits::areIn(const kavoChanges &changes) const
+bool kavoEditDetector::areIn(const kavoChanges &changes) const
 {
     if (kavoScenegraph::getRoot() == osg::NullFC)
         return false;
@@ -58,7 +58,7 @@ bool kavoSceneEdits::areIn(const kavoChanges &changes) const
     return false;
 }
 
-bool kavoSceneEdits::isEdit(osg::UInt32 id, osg::BitVector fields) const
+bool kavoEditDetector::isEdit(osg::UInt32 id, osg::BitVector fields) const
 {
     const osg::FieldContainerPtr container = kavoContainers::find(id);
     if (container == osg::NullFC)
@@ -72,7 +72,7 @@ bool kavoSceneEdits::isEdit(osg::UInt32 id, osg::BitVector fields) const
     return false;
 }
 
-bool kavoSceneEdits::isInScene(const osg::FieldContainerPtr &container) const
+bool kavoEditDetector::isInScene(const osg::FieldContainerPtr &container) const
 {
     if (const auto node = osg::NodePtr::dcast(container); node != osg::NullFC)
         return kavoContainers::isWithin(node, kavoScenegraph::getRoot());
@@ -87,7 +87,7 @@ bool kavoSceneEdits::isInScene(const osg::FieldContainerPtr &container) const
     return container != osg::NullFC && isOld && osg::StatePtr::dcast(container) == osg::NullFC;
 }
 
-template <class Handles> bool kavoSceneEdits::isAnyInScene(const Handles &containers) const
+template <class Handles> bool kavoEditDetector::isAnyInScene(const Handles &containers) const
 {
     return std::any_of(containers.begin(), containers.end(),
         [this](const auto &container) { return isInScene(container); });

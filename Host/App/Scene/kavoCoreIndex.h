@@ -6,11 +6,11 @@
 #include <vector>
 
 class kavoChangeMonitor;
-class kavoSceneEvents;
+class kavoHostMessages;
 struct kavoChanges;
 
 /// Lists the nodes of the open scene that hold a material or a light, found in one walk.
-class kavoSceneIndex : public QObject
+class kavoCoreIndex : public QObject
 {
     Q_OBJECT
 
@@ -26,7 +26,7 @@ public:
     };
     using Entries = std::vector<Entry>;
 
-    kavoSceneIndex(kavoSceneEvents &events, kavoChangeMonitor &monitor, QObject *parent = nullptr);
+    kavoCoreIndex(kavoHostMessages &events, kavoChangeMonitor &monitor, QObject *parent = nullptr);
 
     /// Nodes whose core is a MaterialGroup, parents before children.
     const Entries &materials() const { return m_materials; }

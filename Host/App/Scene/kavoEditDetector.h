@@ -7,7 +7,7 @@ struct kavoChanges;
 /// Tells edits of the open scene from other changes: updates of volumes, containers that materials
 /// create for themselves, another scene that is loaded. A change of a volume is an edit only if the
 /// volume is static, because any other volume is computed again.
-class kavoSceneEdits
+class kavoEditDetector
 {
 public:
     /// Takes the open scene as the saved state.

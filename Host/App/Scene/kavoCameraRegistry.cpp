@@ -1,4 +1,4 @@
-#include "Scene/kavoSceneCameras.h"
+#include "Scene/kavoCameraRegistry.h"
 
 #include "Scene/kavoContainers.h"
 
@@ -32,7 +32,7 @@ bool isDead(const Entry &entry)
 
 } // namespace
 
-void kavoSceneCameras::set(const std::vector<osg::RefPtr<osg::CameraPtr>> &newCameras)
+void kavoCameraRegistry::set(const std::vector<osg::RefPtr<osg::CameraPtr>> &newCameras)
 {
     cameras().entries.clear();
     for (const auto &camera : newCameras)
@@ -40,7 +40,7 @@ void kavoSceneCameras::set(const std::vector<osg::RefPtr<osg::CameraPtr>> &newCa
     cameras().activeNodeId = newCameras.empty() ? 0 : cameras().entries.front().nodeId;
 }
 
-std::vector<osg::UInt32> kavoSceneCameras::nodeIds()
+std::vector<osg::UInt32> kavoCameraRegistry::nodeIds()
 {
     std::vector<Entry> &entries = cameras().entries;
     entries.erase(std::remove_if(entries.begin(), entries.end(), isDead), entries.end());
@@ -50,7 +50,7 @@ std::vector<osg::UInt32> kavoSceneCameras::nodeIds()
     return ids;
 }
 
-osg::CameraPtr kavoSceneCameras::at(osg::UInt32 nodeId)
+osg::CameraPtr kavoCameraRegistry::at(osg::UInt32 nodeId)
 {
     const std::vector<Entry> &entries = cameras().entries;
     const auto found = std::find_if(entries.begin(), entries.end(),
@@ -58,12 +58,12 @@ osg::CameraPtr kavoSceneCameras::at(osg::UInt32 nodeId)
     return found == entries.end() || isDead(*found) ? osg::CameraPtr() : found->camera.get();
 }
 
-osg::UInt32 kavoSceneCameras::activeNodeId()
+osg::UInt32 kavoCameraRegistry::activeNodeId()
 {
     return at(cameras().activeNodeId) == osg::NullFC ? 0 : cameras().activeNodeId;
 }
 
-void kavoSceneCameras::activate(osg::UInt32 nodeId)
+void kavoCameraRegistry::activate(osg::UInt32 nodeId)
 {
     if (at(nodeId) != osg::NullFC)
         cameras().activeNodeId = nodeId;

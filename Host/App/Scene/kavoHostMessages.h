@@ -3,13 +3,13 @@
 #include <kavoModuleBase.h>
 
 /// Receives messages and calls like a module and emits them as signals.
-class kavoSceneEvents : public kavoModuleBase
+class kavoHostMessages : public kavoModuleBase
 {
     Q_OBJECT
 
 public:
-    kavoSceneEvents();
-    ~kavoSceneEvents() override;
+    kavoHostMessages();
+    ~kavoHostMessages() override;
 
     bool receivedMessage(kavoMessage &message) override;
 

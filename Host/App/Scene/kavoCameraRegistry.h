@@ -8,7 +8,7 @@
 
 /// The cameras of the open scene. Nodes do not hold cameras, so this registry references them. A
 /// camera disappears when its beacon node is destroyed. For the GUI thread only.
-namespace kavoSceneCameras {
+namespace kavoCameraRegistry {
 
 /// Replaces all cameras; the first one becomes active.
 void set(const std::vector<osg::RefPtr<osg::CameraPtr>> &cameras);
@@ -25,4 +25,4 @@ osg::UInt32 activeNodeId();
 /// Activates the camera whose beacon is that node. Ignored if there is none.
 void activate(osg::UInt32 nodeId);
 
-} // namespace kavoSceneCameras
+} // namespace kavoCameraRegistry
