@@ -106,7 +106,7 @@ void kavoViewport::initializeGL()
 {
     connect(context(), &QOpenGLContext::aboutToBeDestroyed, this, &kavoViewport::dropRenderer);
     const auto failure
-        = kavoTry([this] { m_renderer = std::make_unique<kavoSceneRenderer>(m_geometry); });
+        = kavoTry([this] { m_renderer = std::make_unique<kavoRenderer>(m_geometry); });
     if (failure)
         kavoLog::error("The scene cannot be drawn: %s", qUtf8Printable(*failure));
 }

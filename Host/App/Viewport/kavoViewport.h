@@ -1,8 +1,8 @@
 #pragma once
 
+#include "Viewport/kavoGeometryCache.h"
 #include "Viewport/kavoOrbitCamera.h"
-#include "Viewport/kavoSceneGeometry.h"
-#include "Viewport/kavoSceneRenderer.h"
+#include "Viewport/kavoRenderer.h"
 
 #include <QOpenGLWidget>
 #include <memory>
@@ -51,8 +51,8 @@ private:
     void dropRenderer();
 
     const kavoOpenScene &m_scene;
-    kavoSceneGeometry m_geometry;
+    kavoGeometryCache m_geometry;
     kavoOrbitCamera m_camera;
-    std::unique_ptr<kavoSceneRenderer> m_renderer;
+    std::unique_ptr<kavoRenderer> m_renderer;
     QPoint m_pressed, m_last;
 };

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "Scene/kavoMaterialLook.h"
+#include "Viewport/kavoGeometryCache.h"
 #include "Viewport/kavoRenderLights.h"
-#include "Viewport/kavoSceneGeometry.h"
 
 #include <QOpenGLBuffer>
 #include <QOpenGLFunctions_2_1>
@@ -13,11 +13,11 @@
 
 /// Draws the open scene with OpenGL 2.1. The OpenGL context must be current in every call, in the
 /// constructor and in the destructor.
-class kavoSceneRenderer
+class kavoRenderer
 {
 public:
     /// \throws std::runtime_error if the context is too old
-    explicit kavoSceneRenderer(kavoSceneGeometry &geometry);
+    explicit kavoRenderer(kavoGeometryCache &geometry);
 
     struct View
     {
@@ -74,7 +74,7 @@ private:
     const kavoMaterialLook &look(osg::UInt32 material);
     QOpenGLTexture *texture(const osg::ImagePtr &image);
 
-    kavoSceneGeometry &m_geometry;
+    kavoGeometryCache &m_geometry;
     QOpenGLFunctions_2_1 m_gl;
     QOpenGLShaderProgram m_program;
     int m_uniforms[UniformCount]; // locations in the program

@@ -1,4 +1,4 @@
-#include "Viewport/kavoSceneGeometry.h"
+#include "Viewport/kavoGeometryCache.h"
 
 #include "Scene/kavoChanges.h"
 #include "Scene/kavoContainers.h"
@@ -55,7 +55,7 @@ float intersect(const QVector3D &origin, const QVector3D &direction, const kavoT
 
 } // namespace
 
-const std::vector<kavoRenderItem> &kavoSceneGeometry::items()
+const std::vector<kavoRenderItem> &kavoGeometryCache::items()
 {
     if (!m_valid)
         m_items = kavoRenderItems::of(kavoScenegraph::getRoot());
@@ -63,7 +63,7 @@ const std::vector<kavoRenderItem> &kavoSceneGeometry::items()
     return m_items;
 }
 
-const kavoTriangleSoup &kavoSceneGeometry::soup(osg::UInt32 geometry)
+const kavoTriangleSoup &kavoGeometryCache::soup(osg::UInt32 geometry)
 {
     const auto found = m_soups.find(geometry);
     if (found != m_soups.end())
@@ -75,7 +75,7 @@ const kavoTriangleSoup &kavoSceneGeometry::soup(osg::UInt32 geometry)
         .first->second;
 }
 
-QPair<QVector3D, float> kavoSceneGeometry::bounds()
+QPair<QVector3D, float> kavoGeometryCache::bounds()
 {
     QVector3D min(infinity, infinity, infinity), max = -min;
     for (const kavoRenderItem &item : items()) {
@@ -96,7 +96,7 @@ QPair<QVector3D, float> kavoSceneGeometry::bounds()
     return { (min + max) / 2, (max - min).length() / 2 };
 }
 
-osg::UInt32 kavoSceneGeometry::pick(const QVector3D &origin, const QVector3D &direction)
+osg::UInt32 kavoGeometryCache::pick(const QVector3D &origin, const QVector3D &direction)
 {
     osg::UInt32 node = 0;
     float nearest = infinity;
@@ -112,7 +112,7 @@ osg::UInt32 kavoSceneGeometry::pick(const QVector3D &origin, const QVector3D &di
     return node;
 }
 
-void kavoSceneGeometry::invalidate(const kavoChanges &changes)
+void kavoGeometryCache::invalidate(const kavoChanges &changes)
 {
     m_valid = false;
     for (const osg::UInt32 id : changes.touched)
@@ -121,7 +121,7 @@ void kavoSceneGeometry::invalidate(const kavoChanges &changes)
         m_soups.erase(id);
 }
 
-void kavoSceneGeometry::invalidate()
+void kavoGeometryCache::invalidate()
 {
     m_valid = false;
     m_soups.clear();

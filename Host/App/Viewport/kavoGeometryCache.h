@@ -9,7 +9,7 @@
 struct kavoChanges;
 
 /// A cache of what can be drawn and picked in the open scene.
-class kavoSceneGeometry
+class kavoGeometryCache
 {
 public:
     const std::vector<kavoRenderItem> &items();

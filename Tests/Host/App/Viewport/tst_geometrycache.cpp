@@ -1,8 +1,8 @@
 #include "kavoTestLoad.h"
 
 #include "Scene/kavoContainers.h"
+#include "Viewport/kavoGeometryCache.h"
 #include "Viewport/kavoOrbitCamera.h"
-#include "Viewport/kavoSceneGeometry.h"
 #include <kavoScenegraph.h>
 #include <kavoTestHost.h>
 #include <kavoTestScene.h>
@@ -44,7 +44,7 @@ osg::TransformPtr makeShift(float z)
 
 } // namespace
 
-class tst_SceneGeometry : public QObject
+class tst_GeometryCache : public QObject
 {
     Q_OBJECT
 
@@ -163,7 +163,7 @@ private slots:
     {
         const osg::NodePtr moved = makeNode("moved", makeShift(2), kavoScenegraph::getRoot());
         makeNode("triangle", makeCorners(4, 3), makeNode("again", makeShift(3), moved));
-        kavoSceneGeometry geometry;
+        kavoGeometryCache geometry;
         QCOMPARE(int(geometry.items().size()), 1);
         QCOMPARE(geometry.items()[0].toWorld.map(QVector3D()), QVector3D(0, 0, 5));
         QCOMPARE(geometry.bounds().first.z(), 5.0f);
@@ -175,14 +175,14 @@ private slots:
         group->setMaterial(makeMaterial());
         const osg::NodePtr node = makeNode("group", group, kavoScenegraph::getRoot());
         makeNode("triangle", makeCorners(4, 3), node);
-        kavoSceneGeometry geometry;
+        kavoGeometryCache geometry;
         QCOMPARE(geometry.items()[0].material, kavoContainers::id(group->getMaterial()));
     }
 
     void nodesWithoutTraversalMaskAreNotShown()
     {
         makeNode("triangle", makeCorners(4, 3), kavoScenegraph::getRoot())->setTravMask(0);
-        kavoSceneGeometry geometry;
+        kavoGeometryCache geometry;
         QVERIFY(geometry.items().empty());
         QCOMPARE(geometry.bounds().second, 0.0f);
     }
@@ -192,7 +192,7 @@ private slots:
         const osg::NodePtr root = kavoScenegraph::getRoot();
         makeNode("far", makeCorners(4, 3), makeNode("back", makeShift(-5), root));
         const osg::NodePtr near = makeNode("near", makeCorners(4, 3), root);
-        kavoSceneGeometry geometry;
+        kavoGeometryCache geometry;
         QCOMPARE(geometry.pick({ 0.1f, 0.5f, 9 }, { 0, 0, -1 }), kavoContainers::id(near));
         QCOMPARE(geometry.pick({ 0.1f, 0.5f, 9 }, { 0, 0, 1 }), 0u);
         QCOMPARE(geometry.pick({ 5, 5, 9 }, { 0, 0, -1 }), 0u);
@@ -247,5 +247,5 @@ private slots:
     }
 };
 
-KAVO_TEST_MAIN(tst_SceneGeometry)
-#include "tst_scenegeometry.moc"
+KAVO_TEST_MAIN(tst_GeometryCache)
+#include "tst_geometrycache.moc"

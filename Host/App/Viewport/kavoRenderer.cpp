@@ -1,4 +1,4 @@
-#include "Viewport/kavoSceneRenderer.h"
+#include "Viewport/kavoRenderer.h"
 
 #include "Scene/kavoChanges.h"
 #include "Scene/kavoContainers.h"
@@ -74,7 +74,7 @@ const struct
     { "texCoord", offsetof(Vertex, texCoord), 2 },
 };
 
-// In the order of kavoSceneRenderer::Uniform.
+// In the order of kavoRenderer::Uniform.
 const char *const uniforms[] = { "toClip", "toWorld", "normalToWorld", "image", "eye", "diffuse",
     "ambient", "specular", "emission", "shininess", "opacity", "lit", "textured", "lightCount",
     "lightPosition", "lightColor" };
@@ -99,7 +99,7 @@ std::vector<Vertex> allCorners(const kavoTriangleSoup &soup)
 
 } // namespace
 
-kavoSceneRenderer::kavoSceneRenderer(kavoSceneGeometry &geometry)
+kavoRenderer::kavoRenderer(kavoGeometryCache &geometry)
     : m_geometry(geometry)
 {
     if (!m_gl.initializeOpenGLFunctions())
@@ -110,7 +110,7 @@ kavoSceneRenderer::kavoSceneRenderer(kavoSceneGeometry &geometry)
         [this](const char *name) { return m_program.uniformLocation(name); });
 }
 
-void kavoSceneRenderer::invalidate(const kavoChanges &changes)
+void kavoRenderer::invalidate(const kavoChanges &changes)
 {
     m_looks.clear(); // cheap to read again
     for (const QSet<osg::UInt32> *ids : { &changes.touched, &changes.destroyed }) {
@@ -121,14 +121,14 @@ void kavoSceneRenderer::invalidate(const kavoChanges &changes)
     }
 }
 
-void kavoSceneRenderer::invalidate()
+void kavoRenderer::invalidate()
 {
     m_looks.clear();
     m_meshes.clear();
     m_textures.clear();
 }
 
-void kavoSceneRenderer::draw(const View &view)
+void kavoRenderer::draw(const View &view)
 {
     beginFrame(view);
     drawItems(false);
@@ -143,7 +143,7 @@ void kavoSceneRenderer::draw(const View &view)
     m_program.release();
 }
 
-void kavoSceneRenderer::beginFrame(const View &view)
+void kavoRenderer::beginFrame(const View &view)
 {
     m_viewProjection = view.projection * view.view;
     m_gl.glClearColor(float(view.background.redF()), float(view.background.greenF()),
@@ -157,7 +157,7 @@ void kavoSceneRenderer::beginFrame(const View &view)
     setLights(view);
 }
 
-void kavoSceneRenderer::setLights(const View &view)
+void kavoRenderer::setLights(const View &view)
 {
     QVector4D positions[kavoRenderLights::maximum];
     QVector3D colors[kavoRenderLights::maximum];
@@ -170,7 +170,7 @@ void kavoSceneRenderer::setLights(const View &view)
     m_program.setUniformValue(m_uniforms[LightCount], int(view.lights.size()));
 }
 
-void kavoSceneRenderer::drawItems(bool transparent)
+void kavoRenderer::drawItems(bool transparent)
 {
     for (const kavoRenderItem &item : m_geometry.items()) {
         const kavoMaterialLook &material = look(item.material);
@@ -179,7 +179,7 @@ void kavoSceneRenderer::drawItems(bool transparent)
     }
 }
 
-void kavoSceneRenderer::drawItem(const kavoRenderItem &item, const kavoMaterialLook &material)
+void kavoRenderer::drawItem(const kavoRenderItem &item, const kavoMaterialLook &material)
 {
     setLook(material);
     if (material.cullsBack && item.toWorld.determinant() > 0)
@@ -188,7 +188,7 @@ void kavoSceneRenderer::drawItem(const kavoRenderItem &item, const kavoMaterialL
     m_gl.glDisable(GL_CULL_FACE);
 }
 
-void kavoSceneRenderer::setLook(const kavoMaterialLook &look)
+void kavoRenderer::setLook(const kavoMaterialLook &look)
 {
     QOpenGLTexture *image = texture(look.texture);
     if (image)
@@ -203,7 +203,7 @@ void kavoSceneRenderer::setLook(const kavoMaterialLook &look)
     m_program.setUniformValue(m_uniforms[Lit], look.lit);
 }
 
-void kavoSceneRenderer::drawMesh(const kavoRenderItem &item)
+void kavoRenderer::drawMesh(const kavoRenderItem &item)
 {
     Mesh &drawn = mesh(item.geometry);
     m_program.setUniformValue(m_uniforms[ToClip], m_viewProjection * item.toWorld);
@@ -223,7 +223,7 @@ void kavoSceneRenderer::drawMesh(const kavoRenderItem &item)
 
 /// Marks the pixels of the selected geometries in the stencil buffer, then draws thick edges
 /// outside the mark.
-void kavoSceneRenderer::drawOutline(const View &view)
+void kavoRenderer::drawOutline(const View &view)
 {
     kavoMaterialLook flat;
     flat.lit = false;
@@ -247,7 +247,7 @@ void kavoSceneRenderer::drawOutline(const View &view)
     m_gl.glEnable(GL_DEPTH_TEST);
 }
 
-void kavoSceneRenderer::drawSelected(osg::UInt32 selected)
+void kavoRenderer::drawSelected(osg::UInt32 selected)
 {
     const osg::NodePtr top = kavoContainers::node(selected);
     for (const kavoRenderItem &item : m_geometry.items()) {
@@ -256,7 +256,7 @@ void kavoSceneRenderer::drawSelected(osg::UInt32 selected)
     }
 }
 
-kavoSceneRenderer::Mesh &kavoSceneRenderer::mesh(osg::UInt32 geometry)
+kavoRenderer::Mesh &kavoRenderer::mesh(osg::UInt32 geometry)
 {
     Mesh &mesh = m_meshes[geometry];
     if (mesh.buffer.isCreated())
@@ -273,7 +273,7 @@ kavoSceneRenderer::Mesh &kavoSceneRenderer::mesh(osg::UInt32 geometry)
     return mesh;
 }
 
-const kavoMaterialLook &kavoSceneRenderer::look(osg::UInt32 material)
+const kavoMaterialLook &kavoRenderer::look(osg::UInt32 material)
 {
     const auto found = m_looks.find(material);
     if (found != m_looks.end())
@@ -282,7 +282,7 @@ const kavoMaterialLook &kavoSceneRenderer::look(osg::UInt32 material)
     return m_looks.emplace(material, kavoMaterialLook::of(container)).first->second;
 }
 
-QOpenGLTexture *kavoSceneRenderer::texture(const osg::ImagePtr &image)
+QOpenGLTexture *kavoRenderer::texture(const osg::ImagePtr &image)
 {
     if (image == osg::NullFC)
         return nullptr;
