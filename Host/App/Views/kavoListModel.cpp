@@ -19,34 +19,35 @@ bool isMaterialRow(const QModelIndex &index)
 
 } // namespace
 
-kavoListModel::kavoListModel(const kavoListKind &kind, kavoOpenScene &scene, QObject *parent)
+kavoListModel::kavoListModel(
+    const kavoListDescription &description, kavoOpenScene &scene, QObject *parent)
     : QAbstractItemModel(parent)
-    , m_kind(kind)
-    , m_entries(kind.entries())
+    , m_description(description)
+    , m_entries(description.entries())
 {
     connect(&scene, &kavoOpenScene::replaced, this, &kavoListModel::followEntries);
     connect(&scene, &kavoOpenScene::materialsChanged, this, &kavoListModel::followEntries);
     connect(&scene, &kavoOpenScene::lightsChanged, this, &kavoListModel::followEntries);
     connect(&scene, &kavoOpenScene::changed, this, &kavoListModel::update);
     connect(
-        &scene, &kavoOpenScene::materialRenderingRequested, this, &kavoListModel::renderPictures);
+        &scene, &kavoOpenScene::materialRenderingRequested, this, &kavoListModel::renderSwatches);
 }
 
 void kavoListModel::followEntries()
 {
-    kavoOpenScene::Entries entries = m_kind.entries();
+    kavoOpenScene::Entries entries = m_description.entries();
     if (entries == m_entries)
         return;
     beginResetModel();
     m_entries = std::move(entries);
-    m_pictures.clear();
+    m_swatches.clear();
     endResetModel();
 }
 
-void kavoListModel::renderPictures()
+void kavoListModel::renderSwatches()
 {
-    m_pictures.clear();
-    for (int row = 0; m_kind.hasMaterialRows && row < rowCount(); ++row)
+    m_swatches.clear();
+    for (int row = 0; m_description.hasMaterialRows && row < rowCount(); ++row)
         emitRowChanged(row);
 }
 
@@ -54,10 +55,10 @@ void kavoListModel::update(const kavoChanges &changes)
 {
     if (!changes.destroyed.isEmpty())
         followEntries();
-    const QSet<osg::UInt32> outdated = m_pictures.dropOutdated(changes);
+    const QSet<osg::UInt32> outdated = m_swatches.dropOutdated(changes);
     const auto isTouched = [&](osg::UInt32 id) { return changes.touched.contains(id); };
     for (int row = 0; row < rowCount(); ++row) {
-        const kavoListKind::Entry &entry = m_entries[std::size_t(row)];
+        const kavoListDescription::Entry &entry = m_entries[std::size_t(row)];
         if (outdated.contains(entry.content) || isTouched(entry.node) || isTouched(entry.content))
             emitRowChanged(row);
     }
@@ -75,12 +76,12 @@ void kavoListModel::activate(const QModelIndex &index)
 {
     if (!index.isValid())
         return;
-    m_kind.activate(entry(index));
-    if (m_kind.isActive) // the mark moves from one row to another
+    m_description.activate(entry(index));
+    if (m_description.isActive) // the mark moves from one row to another
         emit dataChanged(this->index(0, 0), this->index(rowCount() - 1, ColumnCount - 1));
 }
 
-const kavoListKind::Entry &kavoListModel::entry(const QModelIndex &index) const
+const kavoListDescription::Entry &kavoListModel::entry(const QModelIndex &index) const
 {
     const QModelIndex node = isMaterialRow(index) ? index.parent() : index;
     return m_entries[std::size_t(node.row())];
@@ -94,12 +95,13 @@ osg::FieldContainerPtr kavoListModel::shown(const QModelIndex &index) const
 // Lists without material rows show name and id of the node, but the type of its content.
 osg::FieldContainerPtr kavoListModel::typed(const QModelIndex &index) const
 {
-    return m_kind.hasMaterialRows ? shown(index) : kavoContainers::find(entry(index).content);
+    return m_description.hasMaterialRows ? shown(index)
+                                         : kavoContainers::find(entry(index).content);
 }
 
 bool kavoListModel::isActive(const QModelIndex &index) const
 {
-    return m_kind.isActive && m_kind.isActive(entry(index));
+    return m_description.isActive && m_description.isActive(entry(index));
 }
 
 QModelIndex kavoListModel::index(int row, int column, const QModelIndex &parent) const
@@ -121,7 +123,7 @@ int kavoListModel::rowCount(const QModelIndex &parent) const
     if (!parent.isValid())
         return int(m_entries.size());
     const bool mayHaveRow
-        = m_kind.hasMaterialRows && !isMaterialRow(parent) && parent.column() == NameColumn;
+        = m_description.hasMaterialRows && !isMaterialRow(parent) && parent.column() == NameColumn;
     return mayHaveRow && entry(parent).content != 0 ? 1 : 0;
 }
 
@@ -158,7 +160,7 @@ QString kavoListModel::text(const QModelIndex &index) const
 QVariant kavoListModel::activeMark(int role) const
 {
     if (role == Qt::ToolTipRole)
-        return m_kind.activeToolTip;
+        return m_description.activeToolTip;
     QFont bold;
     bold.setBold(true);
     return bold;
@@ -167,27 +169,27 @@ QVariant kavoListModel::activeMark(int role) const
 QVariant kavoListModel::nameData(const QModelIndex &index, int role) const
 {
     if (role == Qt::DecorationRole && isMaterialRow(index))
-        return m_pictures.picture(entry(index).content);
+        return m_swatches.swatch(entry(index).content);
     if (role == Qt::DecorationRole)
-        return m_kind.icon(entry(index));
-    if (role == Qt::CheckStateRole && m_kind.isOn)
-        return m_kind.isOn(entry(index)) ? Qt::Checked : Qt::Unchecked;
+        return m_description.icon(entry(index));
+    if (role == Qt::CheckStateRole && m_description.isOn)
+        return m_description.isOn(entry(index)) ? Qt::Checked : Qt::Unchecked;
     return {};
 }
 
 bool kavoListModel::setData(const QModelIndex &index, const QVariant &value, int role)
 {
-    const bool isAccepted = role == Qt::CheckStateRole && m_kind.setOn && index.isValid()
+    const bool isAccepted = role == Qt::CheckStateRole && m_description.setOn && index.isValid()
         && typed(index) != osg::NullFC;
     if (isAccepted)
-        m_kind.setOn(entry(index), value.toInt() == Qt::Checked);
+        m_description.setOn(entry(index), value.toInt() == Qt::Checked);
     return isAccepted;
 }
 
 QVariant kavoListModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
     const bool isShown = orientation == Qt::Horizontal && role == Qt::DisplayRole;
-    return isShown ? m_kind.columns.value(section) : QVariant();
+    return isShown ? m_description.columns.value(section) : QVariant();
 }
 
 Qt::ItemFlags kavoListModel::flags(const QModelIndex &index) const
@@ -195,29 +197,29 @@ Qt::ItemFlags kavoListModel::flags(const QModelIndex &index) const
     Qt::ItemFlags flags = QAbstractItemModel::flags(index);
     if (index.isValid())
         flags |= Qt::ItemIsDragEnabled;
-    if (index.column() == NameColumn && m_kind.setOn)
+    if (index.column() == NameColumn && m_description.setOn)
         flags |= Qt::ItemIsUserCheckable;
     return flags;
 }
 
 QStringList kavoListModel::mimeTypes() const
 {
-    return { m_kind.dragFormat };
+    return { m_description.dragFormat };
 }
 
 QMimeData *kavoListModel::mimeData(const QModelIndexList &indexes) const
 {
     QVector<qint32> ids, nodes;
     for (const QModelIndex &index : indexes) {
-        const kavoListKind::Entry &dragged = entry(index);
+        const kavoListDescription::Entry &dragged = entry(index);
         if (nodes.contains(qint32(dragged.node))) // another cell of a row, or its other row
             continue;
         nodes << qint32(dragged.node);
         ids << qint32(dragged.node);
-        if (m_kind.dragsContent)
+        if (m_description.dragsContent)
             ids << qint32(dragged.content);
     }
     auto *data = new QMimeData;
-    data->setData(m_kind.dragFormat, kavoDragFormats::payload(ids));
+    data->setData(m_description.dragFormat, kavoDragFormats::payload(ids));
     return data;
 }

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "Views/kavoListKind.h"
-#include "Views/kavoMaterialPictures.h"
+#include "Views/kavoListDescription.h"
+#include "Views/kavoSwatchCache.h"
 
 #include <QAbstractItemModel>
 
-/// The rows of one of the lists of the scene, as its kind describes them.
+/// The rows of one of the lists of the scene, as its description describes them.
 class kavoListModel : public QAbstractItemModel
 {
     Q_OBJECT
@@ -13,9 +13,10 @@ class kavoListModel : public QAbstractItemModel
 public:
     enum Column { NameColumn, TypeColumn, IdColumn, ColumnCount };
 
-    kavoListModel(const kavoListKind &kind, kavoOpenScene &scene, QObject *parent = nullptr);
+    kavoListModel(
+        const kavoListDescription &description, kavoOpenScene &scene, QObject *parent = nullptr);
 
-    /// Does what the kind offers on double click and Enter.
+    /// Does what the description offers on double click and Enter.
     void activate(const QModelIndex &index);
 
     QModelIndex index(int row, int column, const QModelIndex &parent = {}) const override;
@@ -33,9 +34,9 @@ public:
 private:
     void followEntries();
     void update(const kavoChanges &changes);
-    void renderPictures();
+    void renderSwatches();
     void emitRowChanged(int row);
-    const kavoListKind::Entry &entry(const QModelIndex &index) const;
+    const kavoListDescription::Entry &entry(const QModelIndex &index) const;
     osg::FieldContainerPtr shown(const QModelIndex &index) const;
     osg::FieldContainerPtr typed(const QModelIndex &index) const;
     bool isActive(const QModelIndex &index) const;
@@ -43,7 +44,7 @@ private:
     QVariant nameData(const QModelIndex &index, int role) const;
     QVariant activeMark(int role) const;
 
-    kavoListKind m_kind;
+    kavoListDescription m_description;
     kavoOpenScene::Entries m_entries;
-    mutable kavoMaterialPictures m_pictures;
+    mutable kavoSwatchCache m_swatches;
 };

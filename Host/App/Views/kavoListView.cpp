@@ -10,21 +10,22 @@ constexpr int typeColumnWidth = 110, idColumnWidth = 50; // pixels, until the us
 
 } // namespace
 
-kavoListView::kavoListView(const kavoListKind &kind, kavoOpenScene &scene, QWidget *parent)
+kavoListView::kavoListView(
+    const kavoListDescription &description, kavoOpenScene &scene, QWidget *parent)
     : QTreeView(parent)
 {
-    auto *model = new kavoListModel(kind, scene, this);
+    auto *model = new kavoListModel(description, scene, this);
     setModel(model);
-    setAccessibleName(kind.title);
+    setAccessibleName(description.title);
     setUniformRowHeights(true);
     setAlternatingRowColors(true);
     setSelectionMode(QAbstractItemView::ExtendedSelection);
     setDragEnabled(true);
     setDragDropMode(QAbstractItemView::DragOnly);
-    setRootIsDecorated(kind.hasMaterialRows);
+    setRootIsDecorated(description.hasMaterialRows);
     setExpandsOnDoubleClick(false);
-    if (kind.hasMaterialRows)
-        setIconSize({ kavoMaterialPictures::size, kavoMaterialPictures::size });
+    if (description.hasMaterialRows)
+        setIconSize({ kavoSwatchCache::size, kavoSwatchCache::size });
     setUpColumns();
     connect(model, &QAbstractItemModel::modelReset, this, &QTreeView::expandAll);
     connect(this, &QAbstractItemView::activated, model, &kavoListModel::activate);

@@ -3,12 +3,12 @@
 #include "Files/kavoDocument.h"
 #include "Scene/kavoOpenScene.h"
 #include "Tables/kavoExportActions.h"
+#include "Window/kavoDockedViews.h"
 #include "Window/kavoEditActions.h"
 #include "Window/kavoLoadProgress.h"
 #include "Window/kavoLogView.h"
 #include "Window/kavoRecentFiles.h"
 #include "Window/kavoSaveActions.h"
-#include "Window/kavoSceneViews.h"
 #include "Window/kavoSession.h"
 
 #include <QKAVODockWindowManager.h>
@@ -50,7 +50,7 @@ kavoMainWindow::kavoMainWindow(QWidget *parent)
     : QMainWindow(parent)
     , m_docks(new QKAVODockWindowManager(this))
     , m_session(new kavoSession(this))
-    , m_views(new kavoSceneViews(m_session->scene(), this))
+    , m_views(new kavoDockedViews(m_session->scene(), this))
 {
     kavoController::setMainWindow(this);
     kavoController::setDockWindowManager(m_docks);

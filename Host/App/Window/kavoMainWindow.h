@@ -11,7 +11,7 @@ class QMenu;
 class kavoLoadProgress;
 class kavoRecentFiles;
 class kavoSaveActions;
-class kavoSceneViews;
+class kavoDockedViews;
 class kavoSession;
 
 /// The application's window: menus, dock windows, progress of loading.
@@ -64,7 +64,7 @@ private:
 
     QKAVODockWindowManager *m_docks;
     kavoSession *m_session;
-    kavoSceneViews *m_views;
+    kavoDockedViews *m_views;
     kavoLoadProgress *m_progress = nullptr;
     kavoRecentFiles *m_recentFiles = nullptr;
     kavoSaveActions *m_saving = nullptr;

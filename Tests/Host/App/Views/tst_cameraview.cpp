@@ -4,7 +4,7 @@
 #include "Scene/kavoCameraRegistry.h"
 #include "Scene/kavoContainers.h"
 #include "Scene/kavoOpenScene.h"
-#include "Views/kavoListKinds.h"
+#include "Views/kavoHostLists.h"
 #include "Views/kavoListView.h"
 #include "Views/kavoNodeDeleter.h"
 #include <kavoDragFormats.h>
@@ -24,7 +24,7 @@ private slots:
     void init()
     {
         m_scene = std::make_unique<kavoOpenScene>();
-        m_view = std::make_unique<kavoListView>(kavoListKinds::cameras(), *m_scene);
+        m_view = std::make_unique<kavoListView>(kavoHostLists::cameras(), *m_scene);
         kavoTestLoad::open("Collada/cameras.dae");
         m_scene->drainChanges();
         m_view->show();

@@ -3,7 +3,7 @@
 
 #include "Scene/kavoContainers.h"
 #include "Scene/kavoOpenScene.h"
-#include "Views/kavoListKinds.h"
+#include "Views/kavoHostLists.h"
 #include "Views/kavoListView.h"
 #include <kavoDragFormats.h>
 #include <kavoScenegraph.h>
@@ -31,7 +31,7 @@ private slots:
         m_lampNode = makeNode("lamp", osg::PointLight::create(), root);
         m_sunNode = makeNode("sun", osg::DirectionalLight::create(), m_lampNode);
         m_scene = std::make_unique<kavoOpenScene>();
-        m_view = std::make_unique<kavoListView>(kavoListKinds::lights(*m_scene), *m_scene);
+        m_view = std::make_unique<kavoListView>(kavoHostLists::lights(*m_scene), *m_scene);
         m_scene->drainChanges();
         m_view->resize(300, 200);
         m_view->show();

@@ -3,10 +3,10 @@
 
 #include "Scene/kavoContainers.h"
 #include "Scene/kavoOpenScene.h"
-#include "Views/kavoListKinds.h"
+#include "Views/kavoHostLists.h"
 #include "Views/kavoListView.h"
-#include "Views/kavoMaterialPictures.h"
 #include "Views/kavoMaterialSwatch.h"
+#include "Views/kavoSwatchCache.h"
 #include <kavoCallNames.h>
 #include <kavoController.h>
 #include <kavoDragFormats.h>
@@ -64,7 +64,7 @@ private slots:
         m_glassNode = makeLibraryNode("glass", makeMaterial());
         m_emptyNode = makeLibraryNode("empty", osg::NullFC);
         m_scene = std::make_unique<kavoOpenScene>();
-        m_view = std::make_unique<kavoListView>(kavoListKinds::materials(*m_scene), *m_scene);
+        m_view = std::make_unique<kavoListView>(kavoHostLists::materials(*m_scene), *m_scene);
         m_scene->drainChanges();
     }
 
@@ -233,7 +233,7 @@ private:
     QImage swatch(int of) const
     {
         const auto icon = materialRow(of).data(Qt::DecorationRole).value<QIcon>();
-        return icon.pixmap(kavoMaterialPictures::size).toImage();
+        return icon.pixmap(kavoSwatchCache::size).toImage();
     }
 
     static QColor center(const QImage &image)

@@ -8,17 +8,17 @@ class QKAVODockWindowManager;
 class QWidget;
 class kavoListView;
 class kavoOpenScene;
-class kavoSceneView;
+class kavoNodeTreeView;
 
 /// The host's own windows on the scene: Viewport, Scene, Materials, Lights and Cameras.
-class kavoSceneViews : public QObject
+class kavoDockedViews : public QObject
 {
     Q_OBJECT
 
 public:
     /// \param scene must outlive this object
     /// \param parent owns this object and the windows
-    kavoSceneViews(kavoOpenScene &scene, QWidget *parent);
+    kavoDockedViews(kavoOpenScene &scene, QWidget *parent);
 
     /// Docks the windows under the keys "Viewport", "Scene", "Materials", "Lights" and "Cameras";
     /// all but the viewport form the group "Scene". Call it before other windows are docked, so
@@ -32,7 +32,7 @@ public:
 
 private:
     QPointer<QWidget> m_viewport;
-    kavoSceneView *m_scene;
+    kavoNodeTreeView *m_scene;
     kavoListView *m_materials;
     kavoListView *m_lights;
     kavoListView *m_cameras;

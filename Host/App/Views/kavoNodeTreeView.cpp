@@ -1,9 +1,9 @@
-#include "Views/kavoSceneView.h"
+#include "Views/kavoNodeTreeView.h"
 
 #include "Scene/kavoContainers.h"
 #include "Scene/kavoOpenScene.h"
 #include "Views/kavoNodeDeleter.h"
-#include "Views/kavoSceneModel.h"
+#include "Views/kavoNodeTreeModel.h"
 
 #include <QAction>
 #include <QHeaderView>
@@ -33,9 +33,9 @@ bool isTooDeep(const osg::NodePtr &node)
 
 } // namespace
 
-kavoSceneView::kavoSceneView(kavoOpenScene &scene, QWidget *parent)
+kavoNodeTreeView::kavoNodeTreeView(kavoOpenScene &scene, QWidget *parent)
     : QWidget(parent)
-    , m_model(new kavoSceneModel(scene, this))
+    , m_model(new kavoNodeTreeModel(scene, this))
     , m_scene(scene)
     , m_filter(new QLineEdit(this))
     , m_tree(new QTreeView(this))
@@ -48,13 +48,13 @@ kavoSceneView::kavoSceneView(kavoOpenScene &scene, QWidget *parent)
     layout->addWidget(m_filter);
     layout->addWidget(m_tree);
     setUpDeletion();
-    connect(&scene, &kavoOpenScene::selectionChanged, this, &kavoSceneView::showSelection);
-    connect(&scene, &kavoOpenScene::structureChanged, this, &kavoSceneView::dropLostSelection,
+    connect(&scene, &kavoOpenScene::selectionChanged, this, &kavoNodeTreeView::showSelection);
+    connect(&scene, &kavoOpenScene::structureChanged, this, &kavoNodeTreeView::dropLostSelection,
         Qt::QueuedConnection); // after the model has followed
     showAll();
 }
 
-void kavoSceneView::setUpTree()
+void kavoNodeTreeView::setUpTree()
 {
     // Connected before the tree view, which selects the next row when a row is removed.
     connect(
@@ -66,15 +66,15 @@ void kavoSceneView::setUpTree()
     m_tree->setAlternatingRowColors(true);
     m_tree->setAccessibleName(tr("Nodes of the scene"));
     m_tree->header()->setStretchLastSection(false);
-    m_tree->header()->setSectionResizeMode(kavoSceneModel::NameColumn, QHeaderView::Stretch);
-    m_tree->header()->resizeSection(kavoSceneModel::CoreColumn, coreColumnWidth);
-    m_tree->header()->resizeSection(kavoSceneModel::IdColumn, idColumnWidth);
+    m_tree->header()->setSectionResizeMode(kavoNodeTreeModel::NameColumn, QHeaderView::Stretch);
+    m_tree->header()->resizeSection(kavoNodeTreeModel::CoreColumn, coreColumnWidth);
+    m_tree->header()->resizeSection(kavoNodeTreeModel::IdColumn, idColumnWidth);
     connect(m_tree->selectionModel(), &QItemSelectionModel::selectionChanged, this,
-        &kavoSceneView::select);
-    connect(m_model, &QAbstractItemModel::modelReset, this, &kavoSceneView::showAll);
+        &kavoNodeTreeView::select);
+    connect(m_model, &QAbstractItemModel::modelReset, this, &kavoNodeTreeView::showAll);
 }
 
-void kavoSceneView::setUpFilter()
+void kavoNodeTreeView::setUpFilter()
 {
     m_filter->setPlaceholderText(tr("Filter by name, core type or ID"));
     m_filter->setClearButtonEnabled(true);
@@ -82,28 +82,28 @@ void kavoSceneView::setUpFilter()
     m_filterDelay.setSingleShot(true);
     m_filterDelay.setInterval(filterDelayMilliseconds);
     connect(m_filter, &QLineEdit::textChanged, &m_filterDelay, qOverload<>(&QTimer::start));
-    connect(m_filter, &QLineEdit::returnPressed, this, &kavoSceneView::applyFilter);
-    connect(&m_filterDelay, &QTimer::timeout, this, &kavoSceneView::applyFilter);
+    connect(m_filter, &QLineEdit::returnPressed, this, &kavoNodeTreeView::applyFilter);
+    connect(&m_filterDelay, &QTimer::timeout, this, &kavoNodeTreeView::applyFilter);
 }
 
-void kavoSceneView::setUpDeletion()
+void kavoNodeTreeView::setUpDeletion()
 {
     m_deletion->setShortcut(Qt::Key_Delete);
     m_deletion->setShortcutContext(Qt::WidgetShortcut); // elsewhere the key deletes text
     m_tree->addAction(m_deletion);
-    connect(m_deletion, &QAction::triggered, this, &kavoSceneView::confirmDeletion);
+    connect(m_deletion, &QAction::triggered, this, &kavoNodeTreeView::confirmDeletion);
 }
 
 // Key events instead of shortcuts: while the host loads, Escape is a shortcut of the main window,
 // and that must have priority.
-bool kavoSceneView::eventFilter(QObject *watched, QEvent *event)
+bool kavoNodeTreeView::eventFilter(QObject *watched, QEvent *event)
 {
     const bool isHandled = event->type() == QEvent::KeyPress
         && react(watched, static_cast<QKeyEvent *>(event)->key());
     return isHandled || QWidget::eventFilter(watched, event);
 }
 
-bool kavoSceneView::react(const QObject *widget, int key)
+bool kavoNodeTreeView::react(const QObject *widget, int key)
 {
     if (widget == m_tree && key == Qt::Key_Escape)
         selectNothing();
@@ -116,20 +116,20 @@ bool kavoSceneView::react(const QObject *widget, int key)
     return true;
 }
 
-void kavoSceneView::enterTree()
+void kavoNodeTreeView::enterTree()
 {
     applyFilter();
     m_tree->setFocus();
 }
 
-void kavoSceneView::applyFilter()
+void kavoNodeTreeView::applyFilter()
 {
     m_filterDelay.stop();
     m_model->setFilter(m_filter->text());
 }
 
 /// Opens the rows again that a reset has closed.
-void kavoSceneView::showAll()
+void kavoNodeTreeView::showAll()
 {
     if (m_filter->text().isEmpty())
         m_tree->expandToDepth(0);
@@ -140,7 +140,7 @@ void kavoSceneView::showAll()
     showSelection();
 }
 
-void kavoSceneView::showSelection()
+void kavoNodeTreeView::showSelection()
 {
     const osg::NodePtr selected = kavoScenegraph::getSelectedNode();
     if (m_model->node(m_tree->currentIndex()) == selected
@@ -154,7 +154,7 @@ void kavoSceneView::showSelection()
         m_tree->clearSelection();
 }
 
-void kavoSceneView::select()
+void kavoNodeTreeView::select()
 {
     if (m_following)
         return;
@@ -162,12 +162,12 @@ void kavoSceneView::select()
     kavoScenegraph::setSelectedNode(m_model->node(rows.value(0)));
 }
 
-void kavoSceneView::selectNothing()
+void kavoNodeTreeView::selectNothing()
 {
     kavoScenegraph::setSelectedNode(osg::NullFC);
 }
 
-void kavoSceneView::confirmDeletion()
+void kavoNodeTreeView::confirmDeletion()
 {
     const osg::NodePtr node = kavoScenegraph::getSelectedNode();
     if (node == osg::NullFC || !kavoNodeDeleter::canDelete(node))
@@ -183,7 +183,7 @@ void kavoSceneView::confirmDeletion()
         this, [this, id] { kavoNodeDeleter::deleteNode(id, m_scene); }, Qt::QueuedConnection);
 }
 
-void kavoSceneView::dropLostSelection()
+void kavoNodeTreeView::dropLostSelection()
 {
     const osg::NodePtr selected = kavoScenegraph::getSelectedNode();
     if (selected != osg::NullFC && !kavoContainers::isWithin(selected, kavoScenegraph::getRoot()))

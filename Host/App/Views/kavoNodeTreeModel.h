@@ -15,15 +15,15 @@ struct kavoChanges;
 ///
 /// Rows are created when their parent is opened, so the cost depends on what is visible and not on
 /// the size of the scene. Rows hold ids instead of handles: the row of a destroyed node is empty.
-class kavoSceneModel : public QAbstractItemModel
+class kavoNodeTreeModel : public QAbstractItemModel
 {
     Q_OBJECT
 
 public:
     enum Column { NameColumn, CoreColumn, IdColumn, ColumnCount };
 
-    explicit kavoSceneModel(kavoOpenScene &scene, QObject *parent = nullptr);
-    ~kavoSceneModel() override;
+    explicit kavoNodeTreeModel(kavoOpenScene &scene, QObject *parent = nullptr);
+    ~kavoNodeTreeModel() override;
 
     /// Shows only nodes whose name or core type contains the text or whose id equals it, and their
     /// ancestors. An empty text shows all nodes.

@@ -4,7 +4,7 @@
 #include "Scene/kavoOpenScene.h"
 #include "Viewport/kavoViewport.h"
 #include "Views/kavoNodeDeleter.h"
-#include "Views/kavoSceneView.h"
+#include "Views/kavoNodeTreeView.h"
 #include <kavoDialogUser.h>
 #include <kavoScenegraph.h>
 #include <kavoTestHost.h>
@@ -19,7 +19,7 @@
 
 using namespace kavoTestScene;
 
-class tst_SceneView : public QObject
+class tst_NodeTreeView : public QObject
 {
     Q_OBJECT
 
@@ -29,7 +29,7 @@ private slots:
         const kavoNodePtr truck = makeTruck();
         kavoTestLoad::show(truck);
         m_scene = std::make_unique<kavoOpenScene>();
-        m_view = std::make_unique<kavoSceneView>(*m_scene);
+        m_view = std::make_unique<kavoNodeTreeView>(*m_scene);
         m_view->resize(400, 300);
         m_view->show();
         m_view->activateWindow();
@@ -242,8 +242,8 @@ private:
     }
 
     std::unique_ptr<kavoOpenScene> m_scene;
-    std::unique_ptr<kavoSceneView> m_view;
+    std::unique_ptr<kavoNodeTreeView> m_view;
 };
 
-KAVO_TEST_MAIN(tst_SceneView)
-#include "tst_sceneview.moc"
+KAVO_TEST_MAIN(tst_NodeTreeView)
+#include "tst_nodetreeview.moc"

@@ -9,7 +9,7 @@
 
 /// Describes one of the lists of the scene: what its rows are and what they offer. Every row stands
 /// for an entry, a node and its content. The columns are name, type and id.
-struct kavoListKind
+struct kavoListDescription
 {
     using Entry = kavoOpenScene::Entry;
 

@@ -1,10 +1,10 @@
-#include "Window/kavoSceneViews.h"
+#include "Window/kavoDockedViews.h"
 
 #include "Scene/kavoOpenScene.h"
 #include "Viewport/kavoViewport.h"
-#include "Views/kavoListKinds.h"
+#include "Views/kavoHostLists.h"
 #include "Views/kavoListView.h"
-#include "Views/kavoSceneView.h"
+#include "Views/kavoNodeTreeView.h"
 
 #include <QKAVODockWindowManager.h>
 #include <QWidget>
@@ -23,13 +23,13 @@ void announceStructure()
 
 } // namespace
 
-kavoSceneViews::kavoSceneViews(kavoOpenScene &scene, QWidget *parent)
+kavoDockedViews::kavoDockedViews(kavoOpenScene &scene, QWidget *parent)
     : QObject(parent)
     , m_viewport(kavoViewport::create(scene, parent))
-    , m_scene(new kavoSceneView(scene, parent))
-    , m_materials(new kavoListView(kavoListKinds::materials(scene), scene, parent))
-    , m_lights(new kavoListView(kavoListKinds::lights(scene), scene, parent))
-    , m_cameras(new kavoListView(kavoListKinds::cameras(), scene, parent))
+    , m_scene(new kavoNodeTreeView(scene, parent))
+    , m_materials(new kavoListView(kavoHostLists::materials(scene), scene, parent))
+    , m_lights(new kavoListView(kavoHostLists::lights(scene), scene, parent))
+    , m_cameras(new kavoListView(kavoHostLists::cameras(), scene, parent))
 {
     connect(&scene, &kavoOpenScene::structureChanged, this, announceStructure);
     if (auto *viewport = qobject_cast<kavoViewport *>(m_viewport.data()))
@@ -37,7 +37,7 @@ kavoSceneViews::kavoSceneViews(kavoOpenScene &scene, QWidget *parent)
             &kavoViewport::lookThroughActiveCamera);
 }
 
-void kavoSceneViews::dock(QKAVODockWindowManager &docks)
+void kavoDockedViews::dock(QKAVODockWindowManager &docks)
 {
     docks.add("Viewport", QStringLiteral("Viewport"), m_viewport,
         QStringLiteral("Hintcard_Viewport"), kavoIconManager::getIcon("Scene"), tr("Viewport"),
@@ -60,12 +60,12 @@ void kavoSceneViews::dock(QKAVODockWindowManager &docks)
             row.title, Qt::LeftDockWidgetArea, true, nullptr);
 }
 
-QAction *kavoSceneViews::deletion() const
+QAction *kavoDockedViews::deletion() const
 {
     return m_scene->deletion();
 }
 
-void kavoSceneViews::closeViewport()
+void kavoDockedViews::closeViewport()
 {
     delete m_viewport;
 }

@@ -7,17 +7,17 @@ class QAction;
 class QLineEdit;
 class QTreeView;
 class kavoOpenScene;
-class kavoSceneModel;
+class kavoNodeTreeModel;
 
 /// The Scene window: the node tree with a filter. The tree follows the host's selection and sets
 /// it. In the tree, Del deletes the selected node after a question and Escape clears the selection.
 /// In the filter, Escape clears the filter and Down moves to the tree.
-class kavoSceneView : public QWidget
+class kavoNodeTreeView : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit kavoSceneView(kavoOpenScene &scene, QWidget *parent = nullptr);
+    explicit kavoNodeTreeView(kavoOpenScene &scene, QWidget *parent = nullptr);
 
     QTreeView *tree() const { return m_tree; }
     QLineEdit *filter() const { return m_filter; }
@@ -40,7 +40,7 @@ private:
     void confirmDeletion();
     void dropLostSelection();
 
-    kavoSceneModel *m_model;
+    kavoNodeTreeModel *m_model;
     const kavoOpenScene &m_scene;
     QLineEdit *m_filter;
     QTreeView *m_tree;

@@ -1,4 +1,4 @@
-#include "Views/kavoSceneModel.h"
+#include "Views/kavoNodeTreeModel.h"
 
 #include "Scene/kavoContainers.h"
 #include "Scene/kavoNodeWalk.h"
@@ -11,7 +11,7 @@
 #include <kavoScenegraph.h>
 #include <utility>
 
-struct kavoSceneModel::Item
+struct kavoNodeTreeModel::Item
 {
     osg::UInt32 nodeId = 0;
     Item *parent = nullptr;
@@ -20,26 +20,26 @@ struct kavoSceneModel::Item
     std::vector<std::unique_ptr<Item>> children;
 };
 
-kavoSceneModel::kavoSceneModel(kavoOpenScene &scene, QObject *parent)
+kavoNodeTreeModel::kavoNodeTreeModel(kavoOpenScene &scene, QObject *parent)
     : QAbstractItemModel(parent)
 {
-    connect(&scene, &kavoOpenScene::replaced, this, &kavoSceneModel::reset);
-    connect(&scene, &kavoOpenScene::changed, this, &kavoSceneModel::update);
+    connect(&scene, &kavoOpenScene::replaced, this, &kavoNodeTreeModel::reset);
+    connect(&scene, &kavoOpenScene::changed, this, &kavoNodeTreeModel::update);
     reset();
 }
 
-kavoSceneModel::~kavoSceneModel()
+kavoNodeTreeModel::~kavoNodeTreeModel()
 {
     forget(std::move(m_top));
 }
 
-void kavoSceneModel::setFilter(const QString &text)
+void kavoNodeTreeModel::setFilter(const QString &text)
 {
     m_filter = text.trimmed();
     reset();
 }
 
-void kavoSceneModel::reset()
+void kavoNodeTreeModel::reset()
 {
     beginResetModel();
     forget(std::exchange(m_top, std::make_unique<Item>()));
@@ -53,7 +53,7 @@ void kavoSceneModel::reset()
     endResetModel();
 }
 
-void kavoSceneModel::findVisible()
+void kavoNodeTreeModel::findVisible()
 {
     m_visible.clear();
     if (m_filter.isEmpty())
@@ -67,24 +67,24 @@ void kavoSceneModel::findVisible()
     });
 }
 
-bool kavoSceneModel::isVisible(osg::UInt32 id) const
+bool kavoNodeTreeModel::isVisible(osg::UInt32 id) const
 {
     return m_filter.isEmpty() || m_visible.count(id) != 0;
 }
 
-bool kavoSceneModel::matches(const osg::NodePtr &node) const
+bool kavoNodeTreeModel::matches(const osg::NodePtr &node) const
 {
     return text(node, NameColumn).contains(m_filter, Qt::CaseInsensitive)
         || text(node, CoreColumn).contains(m_filter, Qt::CaseInsensitive)
         || text(node, IdColumn) == m_filter;
 }
 
-osg::NodePtr kavoSceneModel::node(const QModelIndex &index) const
+osg::NodePtr kavoNodeTreeModel::node(const QModelIndex &index) const
 {
     return index.isValid() ? kavoContainers::node(itemAt(index)->nodeId) : osg::NodePtr();
 }
 
-QModelIndex kavoSceneModel::indexOf(const osg::NodePtr &node)
+QModelIndex kavoNodeTreeModel::indexOf(const osg::NodePtr &node)
 {
     std::vector<osg::UInt32> path; // the node and its ancestors without rows
     osg::NodePtr at = node;
@@ -100,45 +100,45 @@ QModelIndex kavoSceneModel::indexOf(const osg::NodePtr &node)
     return index;
 }
 
-kavoSceneModel::Item *kavoSceneModel::itemAt(const QModelIndex &index) const
+kavoNodeTreeModel::Item *kavoNodeTreeModel::itemAt(const QModelIndex &index) const
 {
     return index.isValid() ? static_cast<Item *>(index.internalPointer()) : m_top.get();
 }
 
-QModelIndex kavoSceneModel::indexAt(const Item &item, int column) const
+QModelIndex kavoNodeTreeModel::indexAt(const Item &item, int column) const
 {
     return createIndex(item.row, column, const_cast<Item *>(&item));
 }
 
-QModelIndex kavoSceneModel::index(int row, int column, const QModelIndex &parent) const
+QModelIndex kavoNodeTreeModel::index(int row, int column, const QModelIndex &parent) const
 {
     if (!hasIndex(row, column, parent))
         return {};
     return indexAt(*itemAt(parent)->children[std::size_t(row)], column);
 }
 
-QModelIndex kavoSceneModel::parent(const QModelIndex &index) const
+QModelIndex kavoNodeTreeModel::parent(const QModelIndex &index) const
 {
     const Item *parent = index.isValid() ? itemAt(index)->parent : nullptr;
     return !parent || parent == m_top.get() ? QModelIndex() : indexAt(*parent);
 }
 
-int kavoSceneModel::rowCount(const QModelIndex &parent) const
+int kavoNodeTreeModel::rowCount(const QModelIndex &parent) const
 {
     return parent.column() > 0 ? 0 : int(itemAt(parent)->children.size());
 }
 
-int kavoSceneModel::columnCount(const QModelIndex &) const
+int kavoNodeTreeModel::columnCount(const QModelIndex &) const
 {
     return ColumnCount;
 }
 
-bool kavoSceneModel::hasChildren(const QModelIndex &parent) const
+bool kavoNodeTreeModel::hasChildren(const QModelIndex &parent) const
 {
     return rowCount(parent) > 0 || canFetchMore(parent);
 }
 
-bool kavoSceneModel::canFetchMore(const QModelIndex &parent) const
+bool kavoNodeTreeModel::canFetchMore(const QModelIndex &parent) const
 {
     if (parent.column() > 0 || itemAt(parent)->fetched)
         return false;
@@ -148,7 +148,7 @@ bool kavoSceneModel::canFetchMore(const QModelIndex &parent) const
     return m_filter.isEmpty() ? parentNode->getNChildren() > 0 : !childIds(parentNode).empty();
 }
 
-void kavoSceneModel::fetchMore(const QModelIndex &parent)
+void kavoNodeTreeModel::fetchMore(const QModelIndex &parent)
 {
     if (!canFetchMore(parent))
         return;
@@ -156,7 +156,7 @@ void kavoSceneModel::fetchMore(const QModelIndex &parent)
     syncChildren(*itemAt(parent));
 }
 
-QVariant kavoSceneModel::data(const QModelIndex &index, int role) const
+QVariant kavoNodeTreeModel::data(const QModelIndex &index, int role) const
 {
     const osg::NodePtr shown = node(index);
     if (shown == osg::NullFC)
@@ -168,14 +168,14 @@ QVariant kavoSceneModel::data(const QModelIndex &index, int role) const
     return {};
 }
 
-QVariant kavoSceneModel::headerData(int section, Qt::Orientation orientation, int role) const
+QVariant kavoNodeTreeModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
     const QStringList titles { tr("Name"), tr("Core"), tr("ID") };
     const bool isShown = orientation == Qt::Horizontal && role == Qt::DisplayRole;
     return isShown ? titles.value(section) : QVariant();
 }
 
-QString kavoSceneModel::text(const osg::NodePtr &node, int column) const
+QString kavoNodeTreeModel::text(const osg::NodePtr &node, int column) const
 {
     switch (column) {
     case NameColumn:
@@ -187,7 +187,7 @@ QString kavoSceneModel::text(const osg::NodePtr &node, int column) const
     }
 }
 
-kavoSceneModel::Ids kavoSceneModel::childIds(const osg::NodePtr &node) const
+kavoNodeTreeModel::Ids kavoNodeTreeModel::childIds(const osg::NodePtr &node) const
 {
     Ids ids;
     for (osg::UInt32 i = 0; node != osg::NullFC && i < node->getNChildren(); ++i) {
@@ -198,7 +198,7 @@ kavoSceneModel::Ids kavoSceneModel::childIds(const osg::NodePtr &node) const
     return ids;
 }
 
-void kavoSceneModel::update(const kavoChanges &changes)
+void kavoNodeTreeModel::update(const kavoChanges &changes)
 {
     if (!m_top->children.empty() && changes.destroyed.contains(m_top->children[0]->nodeId))
         return reset();
@@ -217,7 +217,7 @@ void kavoSceneModel::update(const kavoChanges &changes)
 }
 
 /// Updates the rows below an open row. \returns whether the children of a closed row changed
-bool kavoSceneModel::updateItem(osg::UInt32 id, osg::BitVector fields)
+bool kavoNodeTreeModel::updateItem(osg::UInt32 id, osg::BitVector fields)
 {
     const auto found = m_items.find(id);
     if (found == m_items.end() || (fields & osg::Node::ChildrenFieldMask) == 0)
@@ -229,7 +229,7 @@ bool kavoSceneModel::updateItem(osg::UInt32 id, osg::BitVector fields)
 
 /// Makes the child rows equal to the children of the node. Keeps the rows that both lists begin and
 /// end with, so that usually only one row is inserted or removed.
-void kavoSceneModel::syncChildren(Item &item)
+void kavoNodeTreeModel::syncChildren(Item &item)
 {
     const Ids ids = childIds(kavoContainers::node(item.nodeId));
     const auto &rows = item.children;
@@ -242,7 +242,7 @@ void kavoSceneModel::syncChildren(Item &item)
     insertItems(item, row, begin.first, end.first.base());
 }
 
-void kavoSceneModel::insertItems(
+void kavoNodeTreeModel::insertItems(
     Item &parent, int row, Ids::const_iterator begin, Ids::const_iterator end)
 {
     if (begin == end)
@@ -260,7 +260,7 @@ void kavoSceneModel::insertItems(
     endInsertRows();
 }
 
-void kavoSceneModel::removeItems(Item &parent, int row, int count)
+void kavoNodeTreeModel::removeItems(Item &parent, int row, int count)
 {
     if (count == 0)
         return;
@@ -274,7 +274,7 @@ void kavoSceneModel::removeItems(Item &parent, int row, int count)
 }
 
 /// Destroys an item with its subtree, without recursion.
-void kavoSceneModel::forget(std::unique_ptr<Item> top)
+void kavoNodeTreeModel::forget(std::unique_ptr<Item> top)
 {
     std::vector<std::unique_ptr<Item>> open;
     if (top)

@@ -2,7 +2,7 @@
 
 #include "Scene/kavoContainers.h"
 #include "Scene/kavoOpenScene.h"
-#include "Views/kavoSceneModel.h"
+#include "Views/kavoNodeTreeModel.h"
 #include <kavoScenegraph.h>
 #include <kavoTestHost.h>
 #include <kavoTestScene.h>
@@ -17,7 +17,7 @@
 
 using namespace kavoTestScene;
 
-class tst_SceneModel : public QObject
+class tst_NodeTreeModel : public QObject
 {
     Q_OBJECT
 
@@ -27,7 +27,7 @@ private slots:
         const kavoNodePtr truck = makeTruck();
         kavoTestLoad::show(truck);
         m_scene = std::make_unique<kavoOpenScene>();
-        m_model = std::make_unique<kavoSceneModel>(*m_scene);
+        m_model = std::make_unique<kavoNodeTreeModel>(*m_scene);
         m_tester = std::make_unique<QAbstractItemModelTester>(
             m_model.get(), QAbstractItemModelTester::FailureReportingMode::QtTest);
         m_scene->drainChanges();
@@ -44,9 +44,9 @@ private slots:
     void rowsShowNameCoreAndId()
     {
         const QModelIndex wheel = indexOf("Wheel");
-        QCOMPARE(text(wheel, kavoSceneModel::NameColumn), QString("Wheel"));
-        QCOMPARE(text(wheel, kavoSceneModel::CoreColumn), QString("Transform"));
-        QCOMPARE(text(wheel, kavoSceneModel::IdColumn),
+        QCOMPARE(text(wheel, kavoNodeTreeModel::NameColumn), QString("Wheel"));
+        QCOMPARE(text(wheel, kavoNodeTreeModel::CoreColumn), QString("Transform"));
+        QCOMPARE(text(wheel, kavoNodeTreeModel::IdColumn),
             QString::number(kavoContainers::id(kavoTestLoad::find("Wheel"))));
         QVERIFY(!wheel.data(Qt::DecorationRole).value<QIcon>().isNull());
     }
@@ -246,9 +246,9 @@ private:
     }
 
     std::unique_ptr<kavoOpenScene> m_scene;
-    std::unique_ptr<kavoSceneModel> m_model;
+    std::unique_ptr<kavoNodeTreeModel> m_model;
     std::unique_ptr<QAbstractItemModelTester> m_tester;
 };
 
-KAVO_TEST_MAIN(tst_SceneModel)
-#include "tst_scenemodel.moc"
+KAVO_TEST_MAIN(tst_NodeTreeModel)
+#include "tst_nodetreemodel.moc"

@@ -1,4 +1,4 @@
-#include "Views/kavoListKinds.h"
+#include "Views/kavoHostLists.h"
 
 #include "Scene/kavoCameraRegistry.h"
 #include "Scene/kavoContainers.h"
@@ -17,11 +17,11 @@
 
 namespace {
 
-using Entry = kavoListKind::Entry;
+using Entry = kavoListDescription::Entry;
 
 QString tr(const char *text)
 {
-    return QCoreApplication::translate("kavoListKinds", text);
+    return QCoreApplication::translate("kavoHostLists", text);
 }
 
 void showInEditor(const Entry &entry)
@@ -66,7 +66,7 @@ kavoOpenScene::Entries cameraEntries()
 
 } // namespace
 
-kavoListKind kavoListKinds::materials(const kavoOpenScene &scene)
+kavoListDescription kavoHostLists::materials(const kavoOpenScene &scene)
 {
     return {
         tr("Materials of the scene"),
@@ -80,7 +80,7 @@ kavoListKind kavoListKinds::materials(const kavoOpenScene &scene)
     };
 }
 
-kavoListKind kavoListKinds::lights(const kavoOpenScene &scene)
+kavoListDescription kavoHostLists::lights(const kavoOpenScene &scene)
 {
     return {
         tr("Lights of the scene"),
@@ -98,7 +98,7 @@ kavoListKind kavoListKinds::lights(const kavoOpenScene &scene)
     };
 }
 
-kavoListKind kavoListKinds::cameras()
+kavoListDescription kavoHostLists::cameras()
 {
     return {
         tr("Cameras of the scene"),
